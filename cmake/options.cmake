@@ -1,0 +1,10 @@
+# The language level and the warnings, as one target that every other target links.
+add_library(quorvane_options INTERFACE)
+target_compile_features(quorvane_options INTERFACE cxx_std_20)
+target_compile_options(quorvane_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion
+  -Wno-missing-field-initializers)
+if(QUORVANE_WARNINGS_AS_ERRORS)
+  target_compile_options(quorvane_options INTERFACE -Werror)
+endif()
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)

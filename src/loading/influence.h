@@ -1,0 +1,22 @@
+#pragma once
+
+#include <functional>
+
+#include "model/game_session.h"
+
+namespace quorvane {
+
+/// Shows how far a long step is: a value and its maximum.
+using ShowProgress = std::function<void(int value, int maximum)>;
+
+/// Decides for every point of the influence grid which player holds it and how strongly.
+/// Every planet with a sphere of influence radiates for its owner: inside `SoiSetting` light years
+/// with `SoiSetting` x radius / distance, over a fringe of 25 more light years fading out. The
+/// player with the largest sum holds the point, the lower number among equals, with a strength of
+/// that sum, at most 100.
+/// Reads `GridSize`, `GridCellSize`, `SoiSetting`, `PlayerCount` and each planet's `X`, `Y`,
+/// `SoiRadius` and `OwnerIndex`; writes `InfluenceGrid` and `Territory`, the number of points held,
+/// of every player who holds any (record 0: points that were reached but held by nobody).
+void ComputeInfluence(GameSession& session, const ShowProgress& showProgress);
+
+}  // namespace quorvane

@@ -1,0 +1,130 @@
+#include "model/data_items.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "model/text.h"
+
+namespace quorvane {
+namespace {
+
+constexpr std::string_view kTextBlanks = " ";  // a TAB may be the first, empty field of a report
+constexpr std::string_view kNumberBlanks = " \t";
+constexpr std::string_view kLineEnds = "\r\n";
+constexpr std::string_view kItemEnds = ",\r\n";
+constexpr std::string_view kNumberEnds = ", \t\r\n";
+
+// The game's family of file formats drops the 0 before the point.
+std::string DataNumberText(double number) {
+  std::string text = NumberText(number);
+  const size_t point = text.find('.');
+  if (std::fabs(number) < 1 && point != text.npos) text.erase(point - 1, 1);
+  return text;
+}
+
+}  // namespace
+
+bool DataItemReader::AtEnd() const {
+  return rest_.find_first_not_of(" \t\r\n") == rest_.npos;
+}
+
+std::string DataItemReader::ReadText() {
+  Skip(kTextBlanks);
+  const std::string text(rest_.starts_with('"') ? TakeQuoted() : TakeUntil(kItemEnds));
+  Skip(kTextBlanks);
+  ConsumeSeparator();
+  return text;
+}
+
+std::string_view DataItemReader::ReadNumberText() {
+  Skip(kNumberBlanks);
+  const std::string_view text = TakeUntil(kNumberEnds);
+  Skip(kNumberBlanks);
+  ConsumeSeparator();
+  return text;
+}
+
+FieldValue DataItemReader::ReadField() {
+  Skip(kNumberBlanks);
+  if (rest_.starts_with('"')) return ReadText();
+  const std::string_view text = ReadNumberText();
+  if (text.empty()) return {};
+  const double number = NumericValue(text);
+  if (number == std::trunc(number)) return {static_cast<long long>(std::clamp(number, -1e18, 1e18))};
+  return number;
+}
+
+std::string DataItemReader::ReadLineItem() {
+  Skip(kTextBlanks);
+  std::string line;
+  if (rest_.starts_with('"')) line = TakeQuoted();
+  line += TakeUntil(kItemEnds);
+  ConsumeSeparator();
+  return line;
+}
+
+std::string_view DataItemReader::ReadWholeLine() { return TakeLine(rest_); }
+
+void DataItemReader::Skip(std::string_view blanks) {
+  rest_.remove_prefix(std::min(rest_.find_first_not_of(blanks), rest_.size()));
+}
+
+std::string_view DataItemReader::TakeUntil(std::string_view ends) {
+  const std::string_view taken = rest_.substr(0, rest_.find_first_of(ends));
+  rest_.remove_prefix(taken.size());
+  return taken;
+}
+
+std::string_view DataItemReader::TakeQuoted() {
+  rest_.remove_prefix(1);
+  const std::string_view taken = TakeUntil("\"");
+  if (!rest_.empty()) rest_.remove_prefix(1);
+  return taken;
+}
+
+void DataItemReader::ConsumeSeparator() {
+  if (rest_.starts_with(',')) {
+    rest_.remove_prefix(1);
+  } else if (!rest_.empty() && kLineEnds.find(rest_.front()) != kLineEnds.npos) {
+    TakeLine(rest_);
+  }
+}
+
+DataItemWriter& DataItemWriter::Text(std::string_view text) {
+  BeginItem();
+  if (text.find('"') != text.npos && unsafeText_.empty()) unsafeText_ = text;
+  text_.append("\"").append(text).append("\"");
+  return *this;
+}
+
+DataItemWriter& DataItemWriter::Number(double number) {
+  BeginItem();
+  text_ += DataNumberText(number);
+  return *this;
+}
+
+DataItemWriter& DataItemWriter::Field(const FieldValue& value) {
+  if (value.Kind() == FieldKind::Text) return Text(value.Text());
+  if (!value.IsEmpty()) return Number(value.Number());
+  BeginItem();
+  return *this;
+}
+
+void DataItemWriter::EndRecord() {
+  text_ += "\r\n";
+  isRecordStarted_ = false;
+}
+
+Result<std::string> DataItemWriter::Finish() const {
+  if (!unsafeText_.empty()) {
+    return Failure{"A double quote cannot be saved, please remove it from: " + unsafeText_};
+  }
+  return text_;
+}
+
+void DataItemWriter::BeginItem() {
+  if (isRecordStarted_) text_ += ',';
+  isRecordStarted_ = true;
+}
+
+}  // namespace quorvane

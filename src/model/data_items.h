@@ -1,0 +1,67 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "model/field_value.h"
+#include "model/result.h"
+
+namespace quorvane {
+
+/// Reads the items of a data-item text (the map, the companion files, the game's settings) one by
+/// one. Blanks before an item are skipped (around a number TABs too); the comma or line end after it
+/// is consumed. At the end of the text every item reads as empty.
+class DataItemReader {
+ public:
+  explicit DataItemReader(std::string_view text) : rest_(text) {}
+
+  /// Whether no item is left; blanks and empty lines at the end are none.
+  bool AtEnd() const;
+  /// A text item: a quoted one up to its closing quote (commas and line ends included), any other
+  /// up to the next comma or line end.
+  std::string ReadText();
+  /// A number item as text, up to the next comma, blank or line end; empty when there is none.
+  std::string_view ReadNumberText();
+  /// A number item as `NumericValue` reads it.
+  double ReadNumber() { return NumericValue(ReadNumberText()); }
+  /// An item that may be of any kind: quoted text, a number, or no value for an empty item.
+  FieldValue ReadField();
+  /// A line read as one item: it ends at its first comma or line end; a quoted part at its front
+  /// loses the quotes, and a comma inside them does not end it.
+  std::string ReadLineItem();
+  /// The rest of the current line as it stands; the reader goes on with the next line.
+  std::string_view ReadWholeLine();
+
+ private:
+  void Skip(std::string_view blanks);
+  std::string_view TakeUntil(std::string_view ends);
+  std::string_view TakeQuoted();
+  void ConsumeSeparator();
+
+  std::string_view rest_;
+};
+
+/// Writes records of data items: texts between double quotes, numbers plainly without a digit
+/// before the point between -1 and 1, empty fields as nothing; commas between the items of a
+/// record, CR LF behind it.
+class DataItemWriter {
+ public:
+  DataItemWriter& Text(std::string_view text);
+  DataItemWriter& Number(double number);
+  /// The field by its kind: text, number or nothing.
+  DataItemWriter& Field(const FieldValue& value);
+  void EndRecord();
+
+  /// The records so far, or why they must not be saved: a double quote inside a text would cut
+  /// that text short when it is read back.
+  Result<std::string> Finish() const;
+
+ private:
+  void BeginItem();
+
+  std::string text_;
+  bool isRecordStarted_ = false;
+  std::string unsafeText_;
+};
+
+}  // namespace quorvane

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace quorvane {
+
+/// Text as the program keeps it, UTF-8, from the bytes of a file: bytes that are valid UTF-8 are
+/// kept (without a byte order mark), all others are read as Windows-1252, the game's encoding.
+/// Any sequence of bytes gives a text.
+std::string DecodeText(std::string bytes);
+
+/// The text without blanks at both ends. Only blanks: a TAB or line end is part of the text.
+std::string_view Trimmed(std::string_view text);
+
+/// Compares two texts without regard to the case of ASCII letters, as the game's system compares
+/// file names.
+bool EqualIgnoringCase(std::string_view left, std::string_view right);
+
+/// Takes the next line off the front of `rest`, without its line end (CR LF, LF or CR).
+std::string_view TakeLine(std::string_view& rest);
+
+/// How messages name a place in a file: "Demo.MAP, line 12".
+std::string PlaceInFile(std::string_view fileName, int line);
+
+}  // namespace quorvane

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "model/result.h"
+
+namespace quorvane {
+
+/// The largest file of text that the program reads; a game's own files are a hundred times smaller.
+inline constexpr std::uintmax_t kLargestTextFile = 16 * 1024 * 1024;
+
+/// Text in UTF-8 and paths, whatever the platform keeps paths in.
+std::filesystem::path PathFromText(std::string_view text);
+std::string TextFromPath(const std::filesystem::path& path);
+
+/// The file that a path means: the game comes from a system that ignores the case of file names, so
+/// an exact name wins, otherwise a name in the same folder that differs only in case is the file.
+/// @return nothing when there is no such file
+std::optional<std::filesystem::path> FindFile(const std::filesystem::path& path);
+
+/// The names of a folder's files (not folders) that begin and end with the given texts, ignoring
+/// case, in alphabetical order; none for a folder that cannot be read.
+std::vector<std::string> FilesNamedLike(const std::filesystem::path& folder, std::string_view begin,
+                                        std::string_view end);
+
+/// The decoded text of a file, found as `FindFile` finds it. Fails with name and reason for a file
+/// that is missing, no plain file, unreadable or larger than `kLargestTextFile`.
+Result<std::string> ReadTextFile(const std::filesystem::path& path);
+
+/// Replaces a file whole: the new content is written beside it, flushed and renamed over it, so
+/// that the old file is unharmed until the new one is complete. A file that exists in another case
+/// keeps its name. Fails with name and reason.
+Result<void> ReplaceFile(const std::filesystem::path& path, std::string_view content);
+
+}  // namespace quorvane

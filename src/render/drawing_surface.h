@@ -1,0 +1,75 @@
+#pragma once
+
+#include <memory>
+#include <string_view>
+
+#include "model/race_colours.h"
+#include "render/map_view.h"
+
+namespace quorvane {
+
+/// How a pen's colour meets what is already there.
+enum class DrawMode {
+  Copy,   // replaces it
+  Merge,  // bitwise OR of both colours
+};
+
+enum class DrawStyle {
+  Solid,
+  NoOutline,
+};
+
+/// The pen that every following operation draws with.
+struct Pen {
+  DrawMode Mode = DrawMode::Copy;
+  DrawStyle Style = DrawStyle::Solid;
+  /// Whether circles are filled with the fill colour.
+  bool Filled = false;
+  /// In pixels of an ordinary screen, at least 1; the diameter of a point.
+  int Width = 1;
+};
+
+/// A finished picture of a surface, to be given back to it or to its twin later.
+class SurfaceImage {
+ public:
+  virtual ~SurfaceImage() = default;
+};
+
+/// What the map picture can do: a square picture of `kSurfaceUnits` logical units a side, with a
+/// background picture and a drawing layer above it. Positions and radii are in logical units, text
+/// sizes in points. Colours come out exactly as given, shapes have hard edges, and what lies
+/// outside is clipped.
+class DrawingSurface {
+ public:
+  virtual ~DrawingSurface() = default;
+
+  /// Erases the drawing layer down to the background picture.
+  virtual void Clear() = 0;
+  /// Shows a picture as background and nothing above it; nullptr gives the plain background.
+  virtual void SetBackground(std::shared_ptr<const SurfaceImage> image) = 0;
+  /// A copy of all that the surface shows.
+  virtual std::shared_ptr<const SurfaceImage> Image() const = 0;
+
+  virtual void SetPen(const Pen& pen) = 0;
+  virtual Pen CurrentPen() const = 0;
+  virtual void SetFillColour(Colour colour) = 0;
+  virtual void SetForeColour(Colour colour) = 0;
+  /// In points, above 0.
+  virtual void SetFontSize(double points) = 0;
+
+  /// A filled dot of the pen's width.
+  virtual void Point(SurfacePoint at, Colour colour) = 0;
+  virtual void Line(SurfacePoint from, SurfacePoint to, Colour colour) = 0;
+  /// An outline in the colour, filled as the pen and the fill colour say.
+  virtual void Circle(SurfacePoint centre, double radius, Colour colour) = 0;
+  /// Text in the fore colour, its top left corner at the position.
+  virtual void Print(SurfacePoint topLeft, std::string_view text) = 0;
+  /// How wide `Print` would make a text, in logical units.
+  virtual double TextWidth(std::string_view text) const = 0;
+
+  /// The surface's own width in twips (1/1440 inch, 15 to a pixel of an ordinary screen); pen
+  /// widths follow from it.
+  virtual int WidthInTwips() const = 0;
+};
+
+}  // namespace quorvane
