@@ -24,9 +24,7 @@ std::string DataNumberText(double number) {
 
 }  // namespace
 
-bool DataItemReader::AtEnd() const {
-  return rest_.find_first_not_of(" \t\r\n") == rest_.npos;
-}
+bool DataItemReader::AtEnd() const { return rest_.find_first_not_of(" \t\r\n") == rest_.npos; }
 
 std::string DataItemReader::ReadText() {
   Skip(kTextBlanks);
@@ -50,7 +48,8 @@ FieldValue DataItemReader::ReadField() {
   const std::string_view text = ReadNumberText();
   if (text.empty()) return {};
   const double number = NumericValue(text);
-  if (number == std::trunc(number)) return {static_cast<long long>(std::clamp(number, -1e18, 1e18))};
+  if (number == std::trunc(number))
+    return {static_cast<long long>(std::clamp(number, -1e18, 1e18))};
   return number;
 }
 

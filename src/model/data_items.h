@@ -9,14 +9,18 @@
 namespace quorvane {
 
 /// Reads the items of a data-item text (the map, the companion files, the game's settings) one by
-/// one. Blanks before an item are skipped (around a number TABs too); the comma or line end after it
-/// is consumed. At the end of the text every item reads as empty.
+/// one. Blanks before an item are skipped (around a number TABs too); the comma or line end after
+/// it is consumed. At the end of the text every item reads as empty.
 class DataItemReader {
  public:
   explicit DataItemReader(std::string_view text) : rest_(text) {}
 
   /// Whether no item is left; blanks and empty lines at the end are none.
   bool AtEnd() const;
+  /// Whether the text itself is used up, not even an empty line being left.
+  bool IsExhausted() const { return rest_.empty(); }
+  /// The text behind the items read so far.
+  std::string_view Rest() const { return rest_; }
   /// A text item: a quoted one up to its closing quote (commas and line ends included), any other
   /// up to the next comma or line end.
   std::string ReadText();

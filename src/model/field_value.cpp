@@ -140,8 +140,7 @@ std::optional<double> WholeTextNumber(std::string_view text) {
 
 std::string NumberText(double value) {
   if (value == 0 || std::isnan(value)) return "0";  // also for -0
-  const double magnitude =
-      std::min(std::fabs(value), std::numeric_limits<double>::max());
+  const double magnitude = std::min(std::fabs(value), std::numeric_limits<double>::max());
   // "1.20000000000000e+03": fifteen digits, correctly rounded, and where the point belongs.
   std::array<char, 32> buffer;
   const auto written = std::to_chars(buffer.data(), buffer.data() + buffer.size(), magnitude,

@@ -63,7 +63,4 @@ class FieldValue {
 /// A field as text: its text, its number in shortest decimal form, or nothing when it is empty.
 std::string FieldText(const FieldValue& value);
 
-/// The field as a number; the same as `value.Number()`.
-inline double NumericValue(const FieldValue& value) { return value.Number(); }
-
 }  // namespace quorvane

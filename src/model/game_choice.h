@@ -16,9 +16,9 @@ inline constexpr int kLargestSoiSetting = 500;
 
 /// One report offered for loading.
 struct ReportFileSlot {
-  std::filesystem::path Path;   // empty: no report in this row
-  std::string Included = "0";   // reads as 1 when the report is to be loaded
-  std::string Year;             // the report's year as typed; empty until the choice is accepted
+  std::filesystem::path Path;  // empty: no report in this row
+  std::string Included = "0";  // reads as 1 when the report is to be loaded
+  std::string Year;            // the report's year as typed; empty until the choice is accepted
 
   bool operator==(const ReportFileSlot&) const = default;
 };

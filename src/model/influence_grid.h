@@ -20,7 +20,8 @@ class InfluenceGrid {
   InfluenceGrid() = default;
   /// (size + 1) x (size + 1) points that nobody holds.
   explicit InfluenceGrid(int size)
-      : size_(size), points_(static_cast<std::size_t>(size + 1) * static_cast<std::size_t>(size + 1)) {}
+      : size_(size),
+        points_(static_cast<std::size_t>(size + 1) * static_cast<std::size_t>(size + 1)) {}
 
   /// The highest index in either direction; -1 for a grid without points.
   int Size() const { return size_; }

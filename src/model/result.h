@@ -15,8 +15,8 @@ struct Failure {
 template <typename T>
 class Result {
  public:
-  Result(T value) : value_(std::move(value)) {}                           // NOLINT: meant to convert
-  Result(Failure failure) : message_(std::move(failure.Message)) {}       // NOLINT: meant to convert
+  Result(T value) : value_(std::move(value)) {}                      // NOLINT: meant to convert
+  Result(Failure failure) : message_(std::move(failure.Message)) {}  // NOLINT: meant to convert
 
   explicit operator bool() const { return value_.has_value(); }
   T& operator*() { return *value_; }

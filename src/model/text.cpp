@@ -110,6 +110,14 @@ std::string_view TakeLine(std::string_view& rest) {
   return line;
 }
 
+std::string Excerpt(std::string_view text) {
+  constexpr size_t kMostBytes = 40;
+  if (text.size() <= kMostBytes) return std::string(text);
+  size_t end = kMostBytes;
+  while (end > 0 && (static_cast<unsigned char>(text[end]) & 0xC0) == 0x80) --end;
+  return std::string(text.substr(0, end)) + "...";
+}
+
 std::string PlaceInFile(std::string_view fileName, int line) {
   return std::string(fileName) + ", line " + std::to_string(line);
 }

@@ -20,6 +20,9 @@ bool EqualIgnoringCase(std::string_view left, std::string_view right);
 /// Takes the next line off the front of `rest`, without its line end (CR LF, LF or CR).
 std::string_view TakeLine(std::string_view& rest);
 
+/// The beginning of a text for a message, not longer than a message box can show.
+std::string Excerpt(std::string_view text);
+
 /// How messages name a place in a file: "Demo.MAP, line 12".
 std::string PlaceInFile(std::string_view fileName, int line);
 

@@ -23,6 +23,11 @@ std::string TextFromPath(const std::filesystem::path& path);
 /// @return nothing when there is no such file
 std::optional<std::filesystem::path> FindFile(const std::filesystem::path& path);
 
+/// The subfolder of that name: an exact name wins, otherwise one that differs only in case; the
+/// name as it stands when there is neither.
+std::filesystem::path FolderIgnoringCase(const std::filesystem::path& parent,
+                                         std::string_view name);
+
 /// The names of a folder's files (not folders) that begin and end with the given texts, ignoring
 /// case, in alphabetical order; none for a folder that cannot be read.
 std::vector<std::string> FilesNamedLike(const std::filesystem::path& folder, std::string_view begin,

@@ -1,0 +1,67 @@
+#include "analysis/empire_data.h"
+
+#include <array>
+#include <cstddef>
+
+#include "model/data_items.h"
+#include "platform/files/files.h"
+
+namespace quorvane {
+namespace {
+
+// The fields behind the name, in the order of the file: six range limits, then immunities, traits
+// and notes. The fields between them are computed anew by every load.
+constexpr std::array<std::size_t, 25> kStoredFields = {8,  9,  10, 11, 12, 13, 19, 20, 21,
+                                                       22, 23, 24, 25, 26, 27, 28, 29, 30,
+                                                       31, 32, 33, 34, 35, 36, 37};
+
+PlayerRecord* LastPlayerNamed(GameSession& session, std::string_view name) {
+  for (int player = session.PlayerCount; player > 0; --player) {
+    if (session.Player(player).Name() == name) return &session.Player(player);
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+void ApplyEmpireData(std::string_view text, GameSession& session) {
+  DataItemReader reader(text);
+  while (!reader.AtEnd()) {
+    const std::string name = reader.ReadText();
+    std::array<FieldValue, kStoredFields.size()> items;
+    for (FieldValue& item : items) {
+      if (reader.IsExhausted()) return;  // a record cut short: what it says is not known whole
+      item = reader.ReadField();
+    }
+    PlayerRecord* player = LastPlayerNamed(session, name);
+    for (std::size_t i = 0; player != nullptr && i < items.size(); ++i) {
+      player->Field(kStoredFields.at(i)) = items.at(i);
+    }
+  }
+}
+
+Result<std::string> EmpireDataText(const GameSession& session) {
+  DataItemWriter writer;
+  for (int number = 1; number <= session.PlayerCount; ++number) {
+    const PlayerRecord& player = session.Player(number);
+    writer.Text(player.Name()).EndRecord();
+    for (const std::size_t field : kStoredFields) writer.Field(player.Field(field)).EndRecord();
+  }
+  return writer.Finish();
+}
+
+Result<void> ReadEmpireDataFile(GameSession& session) {
+  if (!FindFile(session.EmpireDataFilePath)) return {};
+  const Result<std::string> text = ReadTextFile(session.EmpireDataFilePath);
+  if (!text) return Failure{text.Message()};
+  ApplyEmpireData(*text, session);
+  return {};
+}
+
+Result<void> WriteEmpireDataFile(const GameSession& session) {
+  const Result<std::string> text = EmpireDataText(session);
+  if (!text) return Failure{text.Message()};
+  return ReplaceFile(session.EmpireDataFilePath, *text);
+}
+
+}  // namespace quorvane

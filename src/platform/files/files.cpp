@@ -1,0 +1,170 @@
+#include "platform/files/files.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <memory>
+#include <system_error>
+#include <utility>
+
+#include "model/text.h"
+
+#if defined(_WIN32)
+#include <io.h>
+#else
+#include <unistd.h>
+#endif
+
+namespace quorvane {
+namespace {
+
+namespace fs = std::filesystem;
+
+struct CloseFile {
+  void operator()(std::FILE* file) const { std::fclose(file); }
+};
+using OpenFileHandle = std::unique_ptr<std::FILE, CloseFile>;
+
+OpenFileHandle OpenForBytes(const fs::path& path, bool forWriting) {
+#if defined(_WIN32)
+  return OpenFileHandle(_wfopen(path.c_str(), forWriting ? L"wb" : L"rb"));
+#else
+  return OpenFileHandle(std::fopen(path.c_str(), forWriting ? "wb" : "rb"));
+#endif
+}
+
+bool FlushToDisk(std::FILE* file) {
+  if (std::fflush(file) != 0) return false;
+#if defined(_WIN32)
+  return _commit(_fileno(file)) == 0;
+#else
+  // Some file systems cannot sync single files; that alone does not make the data wrong.
+  return fsync(fileno(file)) == 0 || errno == EINVAL || errno == ENOTSUP;
+#endif
+}
+
+Failure FileFailure(const fs::path& path, const std::string& what, const std::error_code& error) {
+  return {TextFromPath(path) + ": " + what + " (" + error.message() + ")"};
+}
+
+std::error_code LastError() { return {errno, std::generic_category()}; }
+
+// Where a replacement is written before it takes the file's place.
+fs::path PathBeside(const fs::path& path) {
+  fs::path beside = path;
+  beside += ".quorvane-new";
+  return beside;
+}
+
+std::error_code WriteWholeFile(const fs::path& path, std::string_view content) {
+  OpenFileHandle file = OpenForBytes(path, true);
+  if (!file) return LastError();
+  std::error_code error;
+  if (std::fwrite(content.data(), 1, content.size(), file.get()) != content.size() ||
+      !FlushToDisk(file.get())) {
+    error = LastError();
+  }
+  if (std::fclose(file.release()) != 0 && !error) error = LastError();
+  return error;
+}
+
+}  // namespace
+
+fs::path PathFromText(std::string_view text) { return {std::u8string(text.begin(), text.end())}; }
+
+std::string TextFromPath(const fs::path& path) {
+  const std::u8string text = path.u8string();
+  return {text.begin(), text.end()};
+}
+
+std::optional<fs::path> FindFile(const fs::path& path) {
+  std::error_code error;
+  if (fs::is_regular_file(path, error)) return path;
+  const std::string wanted = TextFromPath(path.filename());
+  // The first in alphabetical order, so that the choice does not depend on the folder's own order.
+  const std::vector<std::string> names = FilesNamedLike(path.parent_path(), wanted, "");
+  const auto found = std::ranges::find_if(
+      names, [&](const std::string& name) { return name.size() == wanted.size(); });
+  if (found == names.end()) return std::nullopt;
+  return path.parent_path() / PathFromText(*found);
+}
+
+fs::path FolderIgnoringCase(const fs::path& parent, std::string_view name) {
+  const fs::path exact = parent / PathFromText(name);
+  std::error_code error;
+  if (fs::is_directory(exact, error)) return exact;
+  std::optional<fs::path> found;
+  for (fs::directory_iterator entry(parent, error), last; !error && entry != last;
+       entry.increment(error)) {
+    std::error_code kindError;
+    if (EqualIgnoringCase(TextFromPath(entry->path().filename()), name) &&
+        entry->is_directory(kindError) && (!found || entry->path() < *found)) {
+      found = entry->path();
+    }
+  }
+  return found.value_or(exact);
+}
+
+std::vector<std::string> FilesNamedLike(const fs::path& folder, std::string_view begin,
+                                        std::string_view end) {
+  std::vector<std::string> names;
+  std::error_code error;
+  for (fs::directory_iterator entry(folder, error), last; !error && entry != last;
+       entry.increment(error)) {
+    std::error_code kindError;
+    const std::string name = TextFromPath(entry->path().filename());
+    if (name.size() >= begin.size() + end.size() &&
+        EqualIgnoringCase(std::string_view(name).substr(0, begin.size()), begin) &&
+        EqualIgnoringCase(std::string_view(name).substr(name.size() - end.size()), end) &&
+        entry->is_regular_file(kindError)) {
+      names.push_back(name);
+    }
+  }
+  std::ranges::sort(names);
+  return names;
+}
+
+Result<std::string> ReadTextFile(const fs::path& path) {
+  const std::optional<fs::path> found = FindFile(path);
+  // Only plain files are opened: a pipe under a map's name would keep the program waiting.
+  if (!found) return Failure{TextFromPath(path) + ": there is no such file"};
+  std::error_code error;
+  const std::uintmax_t size = fs::file_size(*found, error);
+  if (error) return FileFailure(*found, "the file cannot be read", error);
+  if (size > kLargestTextFile) {
+    return Failure{TextFromPath(*found) + ": the file is too large to be one of the game's (" +
+                   std::to_string(size / (1024 * 1024)) + " MB)"};
+  }
+  OpenFileHandle file = OpenForBytes(*found, false);
+  if (!file) return FileFailure(*found, "the file cannot be opened", LastError());
+  std::string bytes(size, '\0');
+  bytes.resize(std::fread(bytes.data(), 1, bytes.size(), file.get()));
+  if (std::ferror(file.get())) return FileFailure(*found, "the file cannot be read", LastError());
+  if (const size_t zero = bytes.find('\0'); zero != bytes.npos) {
+    const auto line = std::count(bytes.begin(), bytes.begin() + static_cast<long>(zero), '\n') + 1;
+    return Failure{PlaceInFile(TextFromPath(*found), static_cast<int>(line)) +
+                   ": this is no text file, a zero byte stands here"};
+  }
+  return DecodeText(std::move(bytes));
+}
+
+Result<void> ReplaceFile(const fs::path& path, std::string_view content) {
+  std::error_code error;
+  fs::path target = FindFile(path).value_or(path);
+  // A link keeps being a link: what it points at is replaced.
+  if (fs::is_symlink(target, error)) target = fs::canonical(target, error);
+  const fs::path beside = PathBeside(target);
+  error = WriteWholeFile(beside, content);
+  if (!error) {
+    std::error_code isNew;
+    const fs::perms rights = fs::status(target, isNew).permissions();
+    if (!isNew) fs::permissions(beside, rights, isNew);
+    fs::rename(beside, target, error);
+  }
+  if (!error) return {};
+  std::error_code ignored;
+  fs::remove(beside, ignored);
+  return FileFailure(target, "the file cannot be written", error);
+}
+
+}  // namespace quorvane

@@ -1,0 +1,56 @@
+#include "model/data_items.h"
+
+#include <gtest/gtest.h>
+
+namespace quorvane {
+namespace {
+
+TEST(DataItemReader, EndsEachItemWhereItsKindEnds) {
+  DataItemReader reader(
+      "  plain text , 12 13,\"quoted, with\r\nbreak\" ,\"\"\r\n.5,\r\n\"open to the end");
+  EXPECT_EQ(reader.ReadText(), "plain text ");
+  EXPECT_EQ(reader.ReadNumber(), 12);
+  EXPECT_EQ(reader.ReadNumber(), 13);
+  EXPECT_EQ(reader.ReadText(), "quoted, with\r\nbreak");
+  EXPECT_EQ(reader.ReadField(), FieldValue(""));
+  EXPECT_EQ(reader.ReadField(), FieldValue(0.5));
+  EXPECT_EQ(reader.ReadField(), FieldValue());
+  EXPECT_EQ(reader.ReadText(), "open to the end");
+  EXPECT_TRUE(reader.IsExhausted());
+  EXPECT_EQ(reader.ReadText(), "");
+  EXPECT_TRUE(reader.ReadField().IsEmpty());
+}
+
+TEST(DataItemReader, CutsAReportLineAtItsFirstCommaOutsideLeadingQuotes) {
+  DataItemReader reader("\"Odd, name\"\tOwner\t7, rest\n\tempty first\r\nplain,\"x\"\n");
+  EXPECT_EQ(reader.ReadLineItem(), "Odd, name\tOwner\t7");
+  EXPECT_EQ(reader.ReadLineItem(), "rest");
+  EXPECT_EQ(reader.ReadLineItem(), "\tempty first");
+  EXPECT_EQ(reader.ReadLineItem(), "plain");
+  EXPECT_EQ(reader.ReadLineItem(), "x");
+  EXPECT_TRUE(reader.IsExhausted());
+}
+
+TEST(DataItemWriter, WritesWhatTheReaderReadsBack) {
+  DataItemWriter writer;
+  writer.Text("Two\r\nlines, one text").Number(-200).Number(0.12).Number(-0.5).EndRecord();
+  writer.Field(FieldValue()).EndRecord();
+  writer.Field("").Field(1.75).EndRecord();
+  const Result<std::string> text = writer.Finish();
+  ASSERT_TRUE(text);
+  EXPECT_EQ(*text, "\"Two\r\nlines, one text\",-200,.12,-.5\r\n\r\n\"\",1.75\r\n");
+  DataItemReader reader(*text);
+  EXPECT_EQ(reader.ReadField(), FieldValue("Two\r\nlines, one text"));
+  for (const double number : {-200.0, 0.12, -0.5}) EXPECT_EQ(reader.ReadNumber(), number);
+  EXPECT_EQ(reader.ReadField(), FieldValue());
+}
+
+TEST(DataItemWriter, RefusesATextThatWouldBeCutShort) {
+  DataItemWriter writer;
+  writer.Text("fine").Text("the \"great\" one").EndRecord();
+  ASSERT_FALSE(writer.Finish());
+  EXPECT_NE(writer.Finish().Message().find("the \"great\" one"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace quorvane

@@ -1,0 +1,85 @@
+#include "model/field_value.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+#include <tuple>
+
+namespace quorvane {
+namespace {
+
+TEST(NumericValue, ReadsTheNumberThatATextBeginsWith) {
+  const std::pair<const char*, double> cases[] = {{"45%", 45},
+                                                  {"12.50%", 12.5},
+                                                  {" 3", 3},
+                                                  {"Unknown", 0},
+                                                  {"", 0},
+                                                  {"-92\xC2\xBA"
+                                                   "C",
+                                                   -92},
+                                                  {"1.12g", 1.12},
+                                                  {"1 2\t3\n4", 1234},
+                                                  {" - 4 2", -42},
+                                                  {".5", 0.5},
+                                                  {"-.5x", -0.5},
+                                                  {"5.", 5},
+                                                  {".", 0},
+                                                  {"+7", 7},
+                                                  {"1e3", 1000},
+                                                  {"1D-2", 0.01},
+                                                  {"1e", 1},
+                                                  {"1e+", 1},
+                                                  {"3M TA3", 3},
+                                                  {"1.2.3", 1.2},
+                                                  {"1,5", 1},
+                                                  {"&HfF", 255},
+                                                  {"&O17", 15},
+                                                  {"&O19", 1},
+                                                  {"&H", 0},
+                                                  {"-&H10", 0},
+                                                  {"--1", 0},
+                                                  {"\r5", 0},
+                                                  {"1e-999", 0},
+                                                  {"999999999999999999999", 1e21}};
+  for (const auto& [text, value] : cases) {
+    EXPECT_DOUBLE_EQ(NumericValue(text), value) << text;
+    EXPECT_DOUBLE_EQ(FieldValue(text).Number(), value) << text;
+  }
+  EXPECT_LT(NumericValue("1e999"), std::numeric_limits<double>::infinity());
+}
+
+TEST(FieldValue, ReadsAsANumberOnlyWhenTheWholeFieldIsThatNumber) {
+  const std::tuple<FieldValue, double, bool> cases[] = {
+      {"-1", -1, true}, {" 1", 1, true},  {"1.0", 1, true},        {"-1 kT", -1, false},
+      {"0", 0, true},   {"", 0, false},   {FieldValue(), 0, true}, {"Uninhabited", 0, false},
+      {0, 0, true},     {0.5, 0.5, true}, {"1st", 1, false}};
+  for (const auto& [value, number, isThatNumber] : cases) {
+    EXPECT_EQ(value.ReadsAs(number), isThatNumber) << FieldText(value) << " as " << number;
+  }
+}
+
+TEST(FieldText, WritesTheShortestFormWithFifteenDigits) {
+  const std::pair<FieldValue, const char*> cases[] = {{FieldValue(), ""},
+                                                      {"  as it is ", "  as it is "},
+                                                      {-40, "-40"},
+                                                      {8.0, "8"},
+                                                      {0.12, "0.12"},
+                                                      {-0.5, "-0.5"},
+                                                      {0.1 + 0.2, "0.3"},
+                                                      {12.300000000000001, "12.3"},
+                                                      {1.0 / 3, "0.333333333333333"},
+                                                      {1e15, "1000000000000000"},
+                                                      {1e-7, "0.0000001"},
+                                                      {-0.0, "0"},
+                                                      {123456789012345678LL, "123456789012346000"}};
+  for (const auto& [value, text] : cases) EXPECT_EQ(FieldText(value), text);
+}
+
+TEST(NumberTextWithLeadingBlank, PutsTheBlankWhereTheSignWouldBe) {
+  EXPECT_EQ(NumberTextWithLeadingBlank(2450), " 2450");
+  EXPECT_EQ(NumberTextWithLeadingBlank(0), " 0");
+  EXPECT_EQ(NumberTextWithLeadingBlank(-3), "-3");
+}
+
+}  // namespace
+}  // namespace quorvane

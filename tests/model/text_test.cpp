@@ -1,0 +1,42 @@
+#include "model/text.h"
+
+#include <gtest/gtest.h>
+
+namespace quorvane {
+namespace {
+
+TEST(DecodeText, ReadsBytesThatAreNoUtf8AsWindows1252) {
+  const std::pair<std::string, std::string> cases[] = {
+      {"24\xBA"
+       "C",
+       "24\xC2\xBA"
+       "C"},                                   // the game's degree sign
+      {"\x80 \x81", "\xE2\x82\xAC \xC2\x81"},  // one that Windows-1252 moved, one it left open
+      {"caf\xC3\xA9", "caf\xC3\xA9"},          // UTF-8 stays
+      {"\xC3\xA9 \xE9", "\xC3\x83\xC2\xA9 \xC3\xA9"},  // one bad byte makes the whole text bytes
+      {"\xEF\xBB\xBFmark", "mark"},
+      {"\xC0\xAF", "\xC3\x80\xC2\xAF"},                  // overlong
+      {"\xED\xA0\x80", "\xC3\xAD\xC2\xA0\xE2\x82\xAC"},  // surrogate
+      {"cut \xE2\x82", "cut \xC3\xA2\xE2\x80\x9A"}};
+  for (const auto& [bytes, text] : cases) EXPECT_EQ(DecodeText(bytes), text);
+}
+
+TEST(TakeLine, KnowsEveryLineEnd) {
+  std::string_view rest = "a\r\nb\nc\rd\r\n\r\ne";
+  for (const char* line : {"a", "b", "c", "d", "", "e"}) EXPECT_EQ(TakeLine(rest), line);
+  EXPECT_TRUE(rest.empty());
+}
+
+TEST(Trimmed, DropsBlanksOnly) {
+  EXPECT_EQ(Trimmed("  Alpha Prime "), "Alpha Prime");
+  EXPECT_EQ(Trimmed("\t x "), "\t x");
+  EXPECT_EQ(Trimmed("   "), "");
+}
+
+TEST(Excerpt, NeverCutsThroughACharacter) {
+  const std::string text = Excerpt(std::string(39, 'x') + "\xC2\xBA\xC2\xBA");
+  EXPECT_EQ(text, std::string(39, 'x') + "...");
+}
+
+}  // namespace
+}  // namespace quorvane
