@@ -1,13 +1,9 @@
 #pragma once
 
-#include <functional>
-
 #include "model/game_session.h"
+#include "model/progress.h"
 
 namespace quorvane {
-
-/// Shows how far a long step is: a value and its maximum.
-using ShowProgress = std::function<void(int value, int maximum)>;
 
 /// Decides for every point of the influence grid which player holds it and how strongly.
 /// Every planet with a sphere of influence radiates for its owner: inside `SoiSetting` light years

@@ -1,0 +1,49 @@
+#include "loading/dialog_files.h"
+
+#include "model/data_items.h"
+#include "model/rounding.h"
+#include "platform/files/files.h"
+
+namespace quorvane {
+
+Result<std::string> YearsText(const RowYears& years) {
+  DataItemWriter writer;
+  for (std::size_t row = 1; row < years.size(); ++row) writer.Text(years[row]).EndRecord();
+  return writer.Finish();
+}
+
+RowYears ParseYears(std::string_view text) {
+  RowYears years;
+  DataItemReader reader(text);
+  for (std::size_t row = 1; row < years.size(); ++row) years[row] = reader.ReadText();
+  return years;
+}
+
+Result<void> SaveYearsFile(const std::filesystem::path& path, const RowYears& years) {
+  const Result<std::string> text = YearsText(years);
+  if (!text) return Failure{text.Message()};
+  return ReplaceFile(path, *text);
+}
+
+std::optional<RowYears> LoadYearsFile(const std::filesystem::path& path) {
+  const Result<std::string> text = ReadTextFile(path);
+  if (!text) return std::nullopt;
+  return ParseYears(*text);
+}
+
+Result<void> SaveRememberedRace(const std::filesystem::path& path, int row) {
+  DataItemWriter writer;
+  writer.Number(row).EndRecord();
+  const Result<std::string> text = writer.Finish();
+  return ReplaceFile(path, *text);
+}
+
+std::optional<int> LoadRememberedRace(const std::filesystem::path& path) {
+  const Result<std::string> text = ReadTextFile(path);
+  if (!text) return std::nullopt;
+  const int row = ToWhole32(DataItemReader(*text).ReadNumber());
+  if (row < 1 || row > kMaxPlayers) return std::nullopt;
+  return row;
+}
+
+}  // namespace quorvane

@@ -1,0 +1,139 @@
+#include "loading/drawing_file.h"
+
+#include <algorithm>
+#include <optional>
+
+#include "model/rounding.h"
+#include "model/text.h"
+#include "platform/files/files.h"
+
+namespace quorvane {
+namespace {
+
+// Takes the fields of a drawing off its text. Unlike the game's other files, blanks on both sides
+// of a field do not count.
+class DrawingFields {
+ public:
+  explicit DrawingFields(std::string_view text) : rest_(text) {}
+
+  bool AtEnd() const { return rest_.empty(); }
+
+  std::string_view Next() {
+    rest_.remove_prefix(std::min(rest_.find_first_not_of(" \t"), rest_.size()));
+    std::string_view field;
+    if (rest_.starts_with('"')) {
+      rest_.remove_prefix(1);
+      field = rest_.substr(0, rest_.find('"'));
+      rest_.remove_prefix(std::min(field.size() + 1, rest_.size()));
+      rest_.remove_prefix(std::min(rest_.find_first_of(kEnds), rest_.size()));
+    } else {
+      const std::string_view whole = rest_.substr(0, rest_.find_first_of(kEnds));
+      rest_.remove_prefix(whole.size());
+      field = whole.substr(0, whole.find_last_not_of(" \t") + 1);
+    }
+    ConsumeEnd();
+    return field;
+  }
+
+  double NextNumber() { return NumericValue(Next()); }
+  std::int32_t NextWhole() { return ToWhole32(NextNumber()); }
+
+ private:
+  static constexpr std::string_view kEnds = ",\r\n";
+
+  void ConsumeEnd() {
+    if (rest_.starts_with(',')) {
+      rest_.remove_prefix(1);
+    } else {
+      TakeLine(rest_);
+    }
+  }
+
+  std::string_view rest_;
+};
+
+std::optional<DrawingKind> KindOf(std::string_view field) {
+  for (const DrawingKind kind : {DrawingKind::Line, DrawingKind::Circle, DrawingKind::Text}) {
+    if (field.size() == 1 && field.front() == static_cast<char>(kind)) return kind;
+  }
+  return std::nullopt;
+}
+
+// The fields between the position and the colour, which differ from kind to kind.
+void ReadShape(DrawingFields& fields, DrawingRecord& record) {
+  switch (record.Kind) {
+    case DrawingKind::Line:
+      record.X2 = fields.NextWhole();
+      record.Y2 = fields.NextWhole();
+      break;
+    case DrawingKind::Circle:
+      record.Radius = fields.NextWhole();
+      break;
+    case DrawingKind::Text:
+      record.Text = fields.Next();
+      record.Size = ToWhole16(fields.NextNumber());
+      break;
+  }
+}
+
+bool NeedsQuotes(std::string_view text) {
+  return text.find(',') != text.npos || text.starts_with(' ') || text.ends_with(' ') ||
+         text.starts_with('\t') || text.ends_with('\t');
+}
+
+std::string JoinFields(std::initializer_list<std::string> fields) {
+  std::string joined;
+  for (const std::string& field : fields) joined += (joined.empty() ? "" : ",") + field;
+  return joined;
+}
+
+}  // namespace
+
+std::vector<DrawingRecord> ParseDrawing(std::string_view text) {
+  std::vector<DrawingRecord> records;
+  DrawingFields fields(text);
+  while (!fields.AtEnd()) {
+    const std::optional<DrawingKind> kind = KindOf(fields.Next());
+    if (!kind) continue;
+    DrawingRecord record{.Kind = *kind};
+    record.X = fields.NextWhole();
+    record.Y = fields.NextWhole();
+    ReadShape(fields, record);
+    if (fields.AtEnd()) break;  // the colour is missing, the record was cut short
+    record.ColourNumber = ToWhole16(fields.NextNumber());
+    records.push_back(std::move(record));
+  }
+  return records;
+}
+
+std::string DrawingRecordText(const DrawingRecord& record) {
+  const std::string kind(1, static_cast<char>(record.Kind));
+  const std::string x = NumberText(record.X);
+  const std::string y = NumberText(record.Y);
+  const std::string colour = NumberText(record.ColourNumber);
+  switch (record.Kind) {
+    case DrawingKind::Line:
+      return JoinFields({kind, x, y, NumberText(record.X2), NumberText(record.Y2), colour});
+    case DrawingKind::Circle:
+      return JoinFields({kind, x, y, NumberText(record.Radius), colour});
+    case DrawingKind::Text:
+      break;
+  }
+  const std::string text = NeedsQuotes(record.Text) ? '"' + record.Text + '"' : record.Text;
+  return JoinFields({kind, x, y, text, NumberText(record.Size), colour});
+}
+
+std::string DrawingLayerText(const std::vector<DrawingRecord>& records) {
+  std::string text;
+  for (const DrawingRecord& record : records) text += DrawingRecordText(record) + "\r\n";
+  return text;
+}
+
+Result<std::vector<DrawingRecord>> ReadDrawingFile(const GameSession& session) {
+  if (!FindFile(session.DrawingFilePath)) return std::vector<DrawingRecord>();
+  const Result<std::string> text = ReadTextFile(session.DrawingFilePath);
+  if (!text) return Failure{text.Message()};
+  return ParseDrawing(*text);
+}
+
+}  // namespace quorvane

@@ -1,0 +1,140 @@
+#include "loading/load_game.h"
+
+#include <cmath>
+#include <utility>
+
+#include "analysis/empire_data.h"
+#include "analysis/race_ranges.h"
+#include "loading/drawing_file.h"
+#include "loading/influence.h"
+#include "loading/map_file.h"
+#include "loading/player_statistics.h"
+#include "loading/race_colour_file.h"
+#include "loading/report_file.h"
+#include "loading/report_merge.h"
+#include "platform/files/files.h"
+
+namespace quorvane {
+namespace {
+
+constexpr double kGridSteps = 650;
+
+void PlacePlanets(GameSession& session, const UniverseMap& map) {
+  session.UniverseExtent = map.Extent;
+  session.GridCellSize = (map.Extent - kUniverseOrigin) / kGridSteps;
+  session.GridSize =
+      static_cast<int>(std::floor((map.Extent - kUniverseOrigin) / session.GridCellSize));
+  session.CreatePlanetTable(static_cast<int>(map.Planets.size()));
+  for (int i = 1; i <= session.PlanetCount; ++i) {
+    const MapPlanet& source = map.Planets.at(static_cast<std::size_t>(i) - 1);
+    PlanetRecord& planet = session.Planet(i);
+    planet[PlanetField::Number] = source.Number;
+    planet[PlanetField::X] = source.X - kUniverseOrigin;
+    planet[PlanetField::Y] = map.Extent - source.Y;
+    planet[PlanetField::Name] = source.Name;
+  }
+}
+
+Result<void> ReadMap(GameSession& session) {
+  const Result<std::string> text = ReadTextFile(session.MapFilePath);
+  if (!text) return Failure{text.Message()};
+  const Result<UniverseMap> map =
+      ParseUniverseMap(*text, TextFromPath(session.MapFilePath.filename()));
+  if (!map) return Failure{map.Message()};
+  PlacePlanets(session, *map);
+  return {};
+}
+
+Result<std::string> ReadReport(const ReportFileSlot& slot) {
+  Result<std::string> text = ReadTextFile(slot.Path);
+  if (text && text->empty()) {
+    return Failure{TextFromPath(slot.Path) +
+                   ", line 1: the heading of a planet report was expected, the file is empty"};
+  }
+  return text;
+}
+
+Result<void> MergeReports(GameSession& session) {
+  ReportMerge merge(session);
+  if (session.MyRaceRow >= 1 && session.MyRaceRow <= kMaxPlayers) {
+    const ReportFileSlot& own = session.ReportFiles.at(static_cast<std::size_t>(session.MyRaceRow));
+    const Result<std::string> text = ReadReport(own);
+    if (!text) return Failure{text.Message()};
+    merge.AddOwnReport(OwnReportLines(*text), own.Year);
+  }
+  for (int row = 1; row <= kMaxPlayers; ++row) {
+    const ReportFileSlot& other = session.ReportFiles.at(static_cast<std::size_t>(row));
+    if (row == session.MyRaceRow || !FieldValue(other.Included).ReadsAs(1)) continue;
+    const Result<std::string> text = ReadReport(other);
+    if (!text) return Failure{text.Message()};
+    merge.AddOtherReport(OtherReportLines(*text), other.Year);
+  }
+  return {};
+}
+
+// Immunities and traits are not in the reports: nobody has any until the empire data file says so.
+void ClearTraits(PlayerRecord& player) {
+  for (const PlayerField field :
+       {PlayerField::GravImmune, PlayerField::TempImmune, PlayerField::RadImmune}) {
+    player[field] = 0;
+  }
+  for (std::size_t trait = 0; trait < kLesserTraitCount; ++trait) {
+    player.Field(static_cast<std::size_t>(PlayerField::LesserTraits) + trait) = 0;
+  }
+  player[PlayerField::PrimaryTrait] = "";
+  player[PlayerField::NotesText] = "";
+}
+
+void AnalysePlayers(GameSession& session, const ShowProgress& showProgress) {
+  DiscoverPlayers(session);
+  GatherStatistics(session);
+  ComputeInfluence(session, showProgress);
+  if (session.ReportStyle != kNewReportStyle) return;
+  ConvertTerritories(session);
+  for (int player = 1; player <= session.PlayerCount; ++player) {
+    EstimateHabRanges(session, player);
+    ClearTraits(session.Player(player));
+  }
+}
+
+Result<void> ReadCompanions(GameSession& session) {
+  if (const Result<void> colours = ReadRaceColourFile(session); !colours) return colours;
+  const Result<std::vector<DrawingRecord>> drawing = ReadDrawingFile(session);
+  if (!drawing) return Failure{drawing.Message()};
+  session.DrawingLayer = DrawingLayerText(*drawing);
+  return ReadEmpireDataFile(session);
+}
+
+}  // namespace
+
+Result<GameSession> LoadGame(const GameChoice& choice, std::string_view myRaceName,
+                             const ShowProgress& showProgress) {
+  GameSession session;
+  static_cast<GameChoice&>(session) = choice;
+  session.MyRaceName = myRaceName;
+  session.Reset();
+  session.CreatePlayerTable();
+  if (const Result<void> map = ReadMap(session); !map) return Failure{map.Message()};
+  if (const Result<void> reports = MergeReports(session); !reports) {
+    return Failure{reports.Message()};
+  }
+  AnalysePlayers(session, showProgress);
+  for (int i = 1; i <= session.PlanetCount; ++i) {
+    PlanetRecord& planet = session.Planet(i);
+    planet[PlanetField::ScoreValue] = PlanetScore(planet);
+  }
+  if (const Result<void> companions = ReadCompanions(session); !companions) {
+    return Failure{companions.Message()};
+  }
+  return session;
+}
+
+std::string MainCaption(std::string_view version, const GameChoice* choice) {
+  std::string caption = "Quorvane for Stars!   Version " + std::string(version);
+  if (choice == nullptr) return caption;
+  caption += "  { " + TextFromPath(choice->MapFilePath.filename());
+  if (choice->GameYear >= 1) caption += "  Year:" + NumberTextWithLeadingBlank(choice->GameYear);
+  return caption + " }";
+}
+
+}  // namespace quorvane

@@ -1,0 +1,90 @@
+#include "loading/race_colour_file.h"
+
+#include <array>
+#include <optional>
+
+#include "model/data_items.h"
+#include "platform/files/files.h"
+
+namespace quorvane {
+namespace {
+
+struct ColourRecord {
+  std::string Name;
+  int Slot = 0;
+  Colour SlotColour;
+};
+
+std::optional<int> ReadWithin(DataItemReader& reader, int lowest, int highest) {
+  const std::optional<double> number = WholeTextNumber(reader.ReadNumberText());
+  if (!number || *number < lowest || *number > highest) return std::nullopt;
+  return static_cast<int>(*number);
+}
+
+// Reads a record whole, so that the next one starts where it should even if this one is unusable.
+std::optional<ColourRecord> ReadRecord(DataItemReader& reader) {
+  ColourRecord record{.Name = reader.ReadText()};
+  const auto slot = ReadWithin(reader, 1, static_cast<int>(kColourSlots));
+  const auto red = ReadWithin(reader, 0, 255);
+  const auto green = ReadWithin(reader, 0, 255);
+  const auto blue = ReadWithin(reader, 0, 255);
+  if (!slot || !red || !green || !blue) return std::nullopt;
+  record.Slot = *slot;
+  record.SlotColour = {*red, *green, *blue};
+  return record;
+}
+
+}  // namespace
+
+void ApplyRaceColours(std::string_view text, GameSession& session) {
+  for (int player = 1; player <= kMaxPlayers; ++player) {
+    session.Player(player)[PlayerField::ColourSlot] = 0;
+  }
+  std::array<bool, kColourSlots + 1> isUsed = {};
+  DataItemReader reader(text);
+  while (!reader.AtEnd()) {
+    const std::optional<ColourRecord> record = ReadRecord(reader);
+    if (!record) continue;
+    const auto slot = static_cast<std::size_t>(record->Slot);
+    session.RaceColours.at(slot - 1) = record->SlotColour;
+    if (const int player = session.FindPlayerByName(record->Name); player > 0) {
+      session.Player(player)[PlayerField::ColourSlot] = record->Slot;
+      isUsed.at(slot) = true;
+    }
+  }
+  int free = 1;
+  for (int player = 1; player <= session.PlayerCount; ++player) {
+    FieldValue& slot = session.Player(player)[PlayerField::ColourSlot];
+    if (slot.Number() != 0) continue;
+    while (isUsed.at(static_cast<std::size_t>(free))) ++free;
+    slot = free++;
+  }
+}
+
+Result<std::string> RaceColoursText(const GameSession& session) {
+  DataItemWriter writer;
+  for (int number = 1; number <= session.PlayerCount; ++number) {
+    const PlayerRecord& player = session.Player(number);
+    const Colour* colour = session.ColourOf(number);
+    if (colour == nullptr) continue;
+    writer.Text(player.Name()).Number(player.ColourSlot());
+    writer.Number(colour->Red).Number(colour->Green).Number(colour->Blue).EndRecord();
+  }
+  return writer.Finish();
+}
+
+Result<void> ReadRaceColourFile(GameSession& session) {
+  if (!FindFile(session.RaceColourFilePath)) return {};
+  const Result<std::string> text = ReadTextFile(session.RaceColourFilePath);
+  if (!text) return Failure{text.Message()};
+  ApplyRaceColours(*text, session);
+  return {};
+}
+
+Result<void> WriteRaceColourFile(const GameSession& session) {
+  const Result<std::string> text = RaceColoursText(session);
+  if (!text) return Failure{text.Message()};
+  return ReplaceFile(session.RaceColourFilePath, *text);
+}
+
+}  // namespace quorvane

@@ -1,0 +1,71 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <optional>
+#include <string_view>
+
+#include "model/field_value.h"
+
+namespace quorvane {
+
+/// The fields of a planet report's line that the program uses, numbered from 0.
+enum class ReportField : std::size_t {
+  PlanetName = 0,
+  Owner = 1,
+  Starbase = 2,
+  Age = 3,  // years
+  Population = 4,
+  Value = 5,  // percent for the report's race
+  Mines = 7,
+  Factories = 8,
+  Defence = 9,      // coverage in percent
+  StoredIron = 10,  // then boranium, germanium
+  IronMR = 13,      // mining rates; -1: remote mining
+  IronMC = 16,      // concentrations
+  Resources = 19,
+  Gravity = 20,  // then temperature, radiation, and the second readings of all three
+  TerraValue = 26,
+  ExtraValue = 27,
+  ScanRange = 28,
+  PenScanRange = 29,
+  GateRange = 33,  // -1: unlimited
+  GateMass = 34,   // -1: unlimited
+};
+
+inline constexpr std::size_t kReportFields = 37;
+
+/// One line of a planet report, split into its fields. The line's text must outlive it.
+/// A field counts only when a TAB closes it; an empty one says what the game means by leaving it
+/// out. A field that the line does not have is empty, and 0 as a number.
+class ReportLine {
+ public:
+  explicit ReportLine(std::string_view line);
+
+  /// How many fields the line has, at most 37; more are left out.
+  std::size_t Count() const { return count_; }
+  std::string_view Text(std::size_t field) const {
+    return field < count_ ? fields_[field] : std::string_view();
+  }
+  std::string_view Text(ReportField field) const { return Text(static_cast<std::size_t>(field)); }
+  double Number(ReportField field) const { return NumericValue(Text(field)); }
+  /// The field as it is stored in a planet's record: its text, or an empty field.
+  FieldValue Value(std::size_t field) const;
+  FieldValue Value(ReportField field) const { return Value(static_cast<std::size_t>(field)); }
+  /// Whether the whole field is this number; a missing field is 0.
+  bool ReadsAs(std::size_t field, double number) const;
+  bool ReadsAs(ReportField field, double number) const {
+    return ReadsAs(static_cast<std::size_t>(field), number);
+  }
+  /// The age that the line states, 0 when it does not have the field; nothing for a text such as
+  /// "Unknown".
+  std::optional<double> Age() const;
+
+ private:
+  void Add(std::string_view text);
+
+  std::array<std::string_view, kReportFields> fields_;
+  std::size_t count_ = 0;
+};
+
+}  // namespace quorvane

@@ -1,0 +1,160 @@
+#include "loading/report_merge.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "loading/sphere_of_influence.h"
+
+namespace quorvane {
+namespace {
+
+constexpr int kSmallestOwnRadius = 5;
+constexpr const char* kRemoteMining = "Remote";
+
+std::size_t NumberOf(ReportField field) { return static_cast<std::size_t>(field); }
+std::size_t NumberOf(PlanetField field) { return static_cast<std::size_t>(field); }
+
+// Copies fields that stand side by side both in the line and in the record.
+void CopyFields(PlanetRecord& planet, PlanetField to, const ReportLine& line, ReportField from,
+                std::size_t count) {
+  for (std::size_t i = 0; i < count; ++i) {
+    planet.Field(NumberOf(to) + i) = line.Value(NumberOf(from) + i);
+  }
+}
+
+void StoreMiningRates(PlanetRecord& planet, const ReportLine& line) {
+  for (std::size_t mineral = 0; mineral < 3; ++mineral) {
+    const std::size_t field = NumberOf(ReportField::IronMR) + mineral;
+    FieldValue& rate = planet.Field(NumberOf(PlanetField::IronMR) + mineral);
+    rate = line.ReadsAs(field, -1) ? FieldValue(kRemoteMining) : line.Value(field);
+  }
+}
+
+// A starbase without colonists counts as populated.
+FieldValue PopulationOf(const ReportLine& line) {
+  const std::string_view starbase = line.Text(ReportField::Starbase);
+  if (line.ReadsAs(ReportField::Population, 0) && starbase != kNoStarbase) {
+    return StarbasePopulation(starbase);
+  }
+  return line.Value(ReportField::Population);
+}
+
+double UnlimitedWhenMinusOne(double reading) { return reading == -1 ? kUnlimitedGate : reading; }
+
+double GateReading(const ReportLine& line, ReportField field) {
+  return line.ReadsAs(field, -1) ? kUnlimitedGate : line.Number(field);
+}
+
+// Calls `merge` for every line that has fields and names a planet of the map.
+template <typename Merge>
+void ForEachPlanetLine(const std::vector<std::string>& lines, const PlanetIndex& index,
+                       const Merge& merge) {
+  for (const std::string& text : lines) {
+    const ReportLine line(text);
+    if (line.Count() == 0) continue;
+    for (const int number : index.Find(line.Text(ReportField::PlanetName))) merge(number, line);
+  }
+}
+
+}  // namespace
+
+std::string AgeTextOf(double age) {
+  if (age == 0) return kCurrentAge;
+  constexpr std::size_t kAgeWidth = 3;
+  const std::string text = NumberTextWithLeadingBlank(age);
+  const std::string padding(kAgeWidth - std::min(text.size(), kAgeWidth), ' ');
+  return padding + text + " years old";
+}
+
+ReportMerge::ReportMerge(GameSession& session)
+    : session_(session),
+      index_(session),
+      isKnown_(static_cast<std::size_t>(session.PlanetCount) + 1) {}
+
+void ReportMerge::AddOwnReport(const std::vector<std::string>& lines, std::string_view year) {
+  const double reportAge = session_.GameYear - NumericValue(year);
+  ForEachPlanetLine(lines, index_, [&](int number, const ReportLine& line) {
+    std::optional<double> age = line.Age();
+    if (!age && IsKnown(number)) return;  // never dated: it serves only where nothing is known
+    if (age) *age += reportAge;
+    MergeOwnLine(session_.Planet(number), line, age);
+    isKnown_.at(static_cast<std::size_t>(number)) = true;
+  });
+}
+
+void ReportMerge::AddOtherReport(const std::vector<std::string>& lines, std::string_view year) {
+  const double reportAge = session_.GameYear - NumericValue(year);
+  ForEachPlanetLine(lines, index_, [&](int number, const ReportLine& line) {
+    // What others say of the user's own planets never replaces what the user knows.
+    if (line.Text(ReportField::Owner) == session_.MyRaceName) return;
+    std::optional<double> age = line.Age();
+    if (age) *age += reportAge;
+    MergeOtherLine(number, line, age);
+  });
+}
+
+void ReportMerge::MergeOwnLine(PlanetRecord& planet, const ReportLine& line,
+                               std::optional<double> age) {
+  planet[PlanetField::InMyReport] = 1;
+  StoreCommonFields(planet, line, age);
+  if (planet.SoiRadius() < kSmallestOwnRadius && !planet.Owner().empty()) {
+    planet[PlanetField::SoiRadius] = kSmallestOwnRadius;
+  }
+  planet[PlanetField::HabValue] = line.Number(ReportField::Value);
+  if (planet[PlanetField::Resources].Number() > 0) session_.MyRaceName = planet.Owner();
+  if (session_.ReportStyle == kNewReportStyle) StoreOwnEnvironment(planet, line);
+}
+
+void ReportMerge::MergeOtherLine(int number, const ReportLine& line, std::optional<double> age) {
+  PlanetRecord& planet = session_.Planet(number);
+  if (IsNews(number, age)) {
+    StoreCommonFields(planet, line, age);
+    isKnown_.at(static_cast<std::size_t>(number)) = true;
+  }
+  // The widest gate range that anybody saw wins, however old, and its mass limit comes with it.
+  const double range = GateReading(line, ReportField::GateRange);
+  if (session_.ReportStyle == kNewReportStyle && planet[PlanetField::GateRange].Number() < range) {
+    planet[PlanetField::GateRange] = range;
+    planet[PlanetField::GateMass] = GateReading(line, ReportField::GateMass);
+  }
+}
+
+bool ReportMerge::IsNews(int number, std::optional<double> age) const {
+  if (!age) return !IsKnown(number);
+  const FieldValue& known = session_.Planet(number)[PlanetField::ReportAge];
+  return *age == 0 || known.IsEmpty() || known.Number() > *age;
+}
+
+void ReportMerge::StoreCommonFields(PlanetRecord& planet, const ReportLine& line,
+                                    std::optional<double> age) {
+  planet[PlanetField::Owner] = line.Value(ReportField::Owner);
+  planet[PlanetField::Starbase] = line.Value(ReportField::Starbase);
+  planet[PlanetField::ReportAge] = age ? FieldValue(*age) : FieldValue();
+  planet[PlanetField::AgeText] = age ? FieldValue(AgeTextOf(*age)) : FieldValue();
+  planet[PlanetField::Population] = PopulationOf(line);
+  planet[PlanetField::SoiRadius] = SphereRadius({.Population = planet.Population(),
+                                                 .Starbase = line.Text(ReportField::Starbase),
+                                                 .Defence = line.Text(ReportField::Defence),
+                                                 .SoiSetting = session_.SoiSetting});
+  planet[PlanetField::Mines] = line.Value(ReportField::Mines);
+  planet[PlanetField::Factories] = line.Value(ReportField::Factories);
+  planet[PlanetField::Resources] = line.Value(ReportField::Resources);
+  planet[PlanetField::DefencePercent] = line.Value(ReportField::Defence);
+  CopyFields(planet, PlanetField::StoredIron, line, ReportField::StoredIron, 3);
+  StoreMiningRates(planet, line);
+  CopyFields(planet, PlanetField::IronMC, line, ReportField::IronMC, 3);
+  if (session_.ReportStyle == kNewReportStyle) {
+    CopyFields(planet, PlanetField::Gravity, line, ReportField::Gravity, 6);
+  }
+}
+
+void ReportMerge::StoreOwnEnvironment(PlanetRecord& planet, const ReportLine& line) {
+  planet[PlanetField::TerraValue] = line.Number(ReportField::TerraValue);
+  planet[PlanetField::ExtraValue] = line.Number(ReportField::ExtraValue);
+  planet[PlanetField::GateRange] = UnlimitedWhenMinusOne(line.Number(ReportField::GateRange));
+  planet[PlanetField::GateMass] = UnlimitedWhenMinusOne(line.Number(ReportField::GateMass));
+  planet[PlanetField::ScanRange] = line.Number(ReportField::ScanRange);
+  planet[PlanetField::PenScanRange] = line.Number(ReportField::PenScanRange);
+}
+
+}  // namespace quorvane

@@ -1,0 +1,65 @@
+#include "loading/report_line.h"
+
+#include <gtest/gtest.h>
+
+#include <tuple>
+#include <vector>
+
+#include "loading/report_file.h"
+
+namespace quorvane {
+namespace {
+
+TEST(ReportLine, GivesEmptyFieldsTheirStandIn) {
+  const std::tuple<const char*, std::size_t, const char*> cases[] = {
+      {"no owner", 1, ""},
+      {"no starbase", 2, "None"},
+      {"nobody lives there", 4, "Uninhabited"},
+      {"not scanned", 10, "Unknown"},
+      {"no name", 0, "Unknown"},
+      {"last before the gates", 29, "Unknown"},
+      {"no stargate", 33, "0"}};
+  const std::string tabs(40, '\t');
+  const ReportLine line(tabs);
+  EXPECT_EQ(line.Count(), kReportFields);
+  for (const auto& [what, field, standIn] : cases) EXPECT_EQ(line.Text(field), standIn) << what;
+}
+
+TEST(ReportLine, KeepsOnlyFieldsThatATabCloses) {
+  const ReportLine line("Alpha\tHumanoid\tlost");
+  EXPECT_EQ(line.Count(), 2U);
+  EXPECT_TRUE(line.Value(ReportField::Starbase).IsEmpty());
+  EXPECT_TRUE(line.ReadsAs(ReportField::Population, 0));
+  EXPECT_FALSE(line.ReadsAs(ReportField::Population, -1));
+  EXPECT_EQ(ReportLine("Alpha").Count(), 0U);
+  EXPECT_EQ(ReportLine("Alpha\t").Count(), 1U);
+}
+
+TEST(ReportLine, GivesALineThatEndsInAPercentageItsTailOfZeros) {
+  const ReportLine line("Orpheus\tDrask\t\t3\t\t45%");
+  const std::vector<const char*> fields = {"Orpheus", "Drask", "None", "3", "Uninhabited",
+                                           "45%",     "0",     "0",    "0", "0",
+                                           "0",       "0",     "0",    "0"};
+  ASSERT_EQ(line.Count(), fields.size());
+  for (std::size_t i = 0; i < fields.size(); ++i) EXPECT_EQ(line.Text(i), fields[i]) << i;
+  EXPECT_EQ(ReportLine(std::string(36, '\t') + "-4%").Count(), kReportFields);
+}
+
+TEST(ReportLine, KnowsALineThatWasNeverDated) {
+  EXPECT_EQ(ReportLine("a\tb\tc\t 5\t").Age(), 5);
+  EXPECT_EQ(ReportLine("a\tb\tc\t\t").Age(), std::nullopt);
+  EXPECT_EQ(ReportLine("a\tb\tc\t5 years\t").Age(), std::nullopt);
+  EXPECT_EQ(ReportLine("a\tb\t").Age(), 0);
+}
+
+TEST(ReportLines, CountAHeadingWithACommaAsTheReportsReadIt) {
+  const std::string_view text = "Name, Owner\r\na\t1\r\nb, c\t2\r\nd\t3";
+  EXPECT_EQ(OwnReportLines(text), (std::vector<std::string>{" Owner", "a\t1", "b, c\t2", "d\t3"}));
+  EXPECT_EQ(OtherReportLines(text), (std::vector<std::string>{"a\t1", "b", "c\t2", "d\t3"}));
+  EXPECT_EQ(OtherReportLines("Name\na\nb, c\nd\n"), (std::vector<std::string>{"a", "b", "c"}));
+  EXPECT_TRUE(OwnReportLines("Name").empty());
+  EXPECT_TRUE(OtherReportLines("").empty());
+}
+
+}  // namespace
+}  // namespace quorvane

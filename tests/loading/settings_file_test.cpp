@@ -1,0 +1,46 @@
+#include "loading/settings_file.h"
+
+#include <gtest/gtest.h>
+
+#include <tuple>
+
+#include "support/temp_folder.h"
+
+namespace quorvane {
+namespace {
+
+TEST(InstallDirIn, TakesTheLastItemBehindTheKey) {
+  const std::tuple<const char*, const char*> cases[] = {
+      {"[Stars]\r\nStarsInstallDir=C:\\Stars\r\nSound=0\r\n", "C:\\Stars"},
+      {"StarsInstallDir=A\nStarsInstallDir:B", "B"},
+      {"Colours=1,StarsInstallDir=C:\\Games, the rest\n", "C:\\Games"},
+      {"starsinstalldir=C:\\Stars\n", ""},
+      {"StarsInstallDir", ""},
+      {"", ""}};
+  for (const auto& [text, folder] : cases) EXPECT_EQ(InstallDirIn(text), folder) << text;
+}
+
+TEST(FindInstallDir, TranslatesTheGamesPathIntoTheWinePrefix) {
+  const TempFolder home;
+  const auto drive = home / ".wine/drive_c";
+  std::filesystem::create_directories(drive / "windows");
+  std::filesystem::create_directories(drive / "Games/stars");
+  home.Write(".wine/drive_c/windows/STARS.INI", "StarsInstallDir=C:\\games\\Stars\\\r\n");
+  const auto places = SettingsPlaces(home.Path(), home / "data");
+  EXPECT_EQ(FindInstallDir(places, "nowhere"), drive / "Games/stars");
+
+  home.Write(".wine/drive_c/windows/STARS.INI", "Sound=1\r\n");
+  EXPECT_EQ(FindInstallDir(places, "nowhere"), drive);  // C:\ itself
+}
+
+TEST(FindInstallDir, EndsAtTheExampleGames) {
+  const TempFolder home;
+  const auto places = SettingsPlaces(home.Path(), home / "data");
+  EXPECT_EQ(FindInstallDir(places, "nowhere"), "nowhere");
+  std::filesystem::create_directories(home / "data");
+  home.Write("data/Stars.ini", "StarsInstallDir=examples\n");
+  EXPECT_EQ(FindInstallDir(places, "nowhere"), home / "data/examples");
+}
+
+}  // namespace
+}  // namespace quorvane
