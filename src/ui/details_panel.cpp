@@ -1,0 +1,206 @@
+#include "ui/details_panel.h"
+
+#include <QGridLayout>
+#include <QVBoxLayout>
+#include <span>
+#include <utility>
+
+#include "platform/toolkit/twips.h"
+#include "ui/labels.h"
+#include "ui/texts.h"
+
+namespace quorvane {
+namespace {
+
+// The fixed text in front of a value, and the value's control name.
+struct Row {
+  const char* Caption;
+  const char* Name;
+};
+
+constexpr int kTabStrip = 390;  // the height of the tabs, in twips of the whole panel
+constexpr int kPieSide = 1680;
+constexpr int kPieTop = 735;
+
+QGridLayout* NewGrid(QWidget* page) {
+  auto* grid = new QGridLayout(page);
+  grid->setContentsMargins(8, 6, 8, 4);
+  grid->setVerticalSpacing(2);
+  grid->setHorizontalSpacing(10);
+  return grid;
+}
+
+void AddRows(QGridLayout& grid, QWidget* page, std::span<const Row> rows) {
+  for (const Row& row : rows) {
+    const int line = grid.rowCount();
+    grid.addWidget(NewCaption(row.Caption, page), line, 0);
+    grid.addWidget(NewValue(row.Name, page), line, 1);
+  }
+  grid.setColumnStretch(1, 1);
+}
+
+// Puts a control where the panel's own twips say; the page begins below the tabs.
+void Place(QWidget& widget, int left, int top, int width, int height) {
+  widget.setGeometry(PixelsFromTwips(left), PixelsFromTwips(top - kTabStrip),
+                     PixelsFromTwips(width), PixelsFromTwips(height));
+}
+
+PictureBox* NewPie(const char* name, const QString& accessibleName, int left, QWidget* page) {
+  auto* pie = new PictureBox(page, QSizeF(kPieSide, kPieSide));
+  pie->setObjectName(name);
+  pie->setAccessibleName(accessibleName);
+  pie->setFocusPolicy(Qt::NoFocus);
+  Place(*pie, left, kPieTop, kPieSide, kPieSide);
+  return pie;
+}
+
+}  // namespace
+
+DetailsPanel::DetailsPanel(QWidget* parent) : QTabWidget(parent) {
+  setObjectName("Detail");
+  setUsesScrollButtons(false);
+  setElideMode(Qt::ElideNone);
+  AddPlanetTab();
+  AddMineralsTab();
+  AddPopulationTab();
+  AddHabTab();
+  Tools = new DrawingTools(this);
+  addTab(Tools, "QVL");
+  AddStargateTab();
+}
+
+void DetailsPanel::AddPlanetTab() {
+  constexpr Row kRows[] = {{"Planet:", "PlanetName"},
+                           {"Hab Value:", "HabValue"},
+                           {"Owner:", "Owner2"},
+                           {"Report Age:", "ReportAge2"}};
+  auto* page = new QWidget(this);
+  auto* column = new QVBoxLayout(page);
+  column->setContentsMargins(0, 0, 0, 0);
+  auto* rows = new QWidget(page);
+  AddRows(*NewGrid(rows), rows, kRows);
+  auto* environment = new QWidget(page);
+  QGridLayout* grid = NewGrid(environment);
+  grid->addWidget(NewHeading("Current", environment), 0, 1);
+  grid->addWidget(NewHeading("Original", environment), 0, 2);
+  const std::pair<const char*, const char*> kinds[] = {
+      {"Gravity:", "Grav"}, {"Temperature:", "Temp"}, {"Radiation:", "Rad"}};
+  for (const auto& [caption, name] : kinds) {
+    const int line = grid->rowCount();
+    grid->addWidget(NewCaption(caption, environment), line, 0);
+    grid->addWidget(NewValue(QString(name) + "1", environment), line, 1);
+    grid->addWidget(NewValue(QString(name) + "2", environment), line, 2);
+  }
+  grid->setColumnStretch(1, 1);
+  grid->setColumnStretch(2, 1);
+  column->addWidget(rows);
+  column->addWidget(environment);
+  column->addStretch(1);
+  addTab(page, "Planet");
+}
+
+void DetailsPanel::AddMineralsTab() {
+  auto* page = new QWidget(this);
+  QLabel* concentration = NewHeading("< Conc.", page);
+  QLabel* stored = NewHeading("Stored >", page);
+  stored->setAlignment(Qt::AlignRight);
+  Place(*concentration, 120, 450, 900, 255);
+  Place(*stored, 3480, 450, 900, 255);
+  ChartType = new QPushButton("View as Bar Chart", page);
+  ChartType->setObjectName("ChartType");
+  ChartType->setEnabled(false);
+  Place(*ChartType, 1290, 420, 1935, 300);
+  Pie1 = NewPie("Pie1", tr("Mineral concentrations"), 150, page);
+  Pie2 = NewPie("Pie2", tr("Stored minerals"), 2670, page);
+
+  auto* table = new QWidget(page);
+  QGridLayout* grid = NewGrid(table);
+  grid->setContentsMargins(8, 0, 8, 0);
+  grid->setVerticalSpacing(0);
+  const std::pair<const char*, const char*> columns[] = {
+      {"Mining:", "MR"}, {"Conc.:", "MCT"}, {"Stored:", "S"}};
+  const std::pair<const char*, const char*> minerals[] = {
+      {"Ironium:", "Iron"}, {"Boranium:", "Bora"}, {"Germanium:", "Germ"}};
+  int column = 1;
+  for (const auto& [heading, ending] : columns) {
+    grid->addWidget(NewHeading(heading, table), 0, column);
+    grid->setColumnStretch(column, 1);
+    int line = 1;
+    for (const auto& [caption, mineral] : minerals) {
+      if (column == 1) grid->addWidget(NewCaption(caption, table), line, 0);
+      grid->addWidget(NewValue(QString(mineral) + ending, table), line, column);
+      ++line;
+    }
+    ++column;
+  }
+  Place(*table, 0, 2475, 4485, 1170);
+  addTab(page, "Minerals");
+}
+
+void DetailsPanel::AddPopulationTab() {
+  constexpr Row kRows[] = {{"Stars! Score:", "StarsScore"},
+                           {"Owner:", "Owner"},
+                           {"Report Age:", "ReportAge"},
+                           {"Starbase:", "Starbase"},
+                           {"Popluation:", "Population"},
+                           {"Defence:", "Defence"},
+                           {"Mines:", "Mines"},
+                           {"Factories:", "Factories"},
+                           {"Resources:", "Resources"},
+                           {"SOI:", "SOI"}};
+  auto* page = new QWidget(this);
+  QGridLayout* grid = NewGrid(page);
+  AddRows(*grid, page, kRows);
+  grid->setRowStretch(grid->rowCount(), 1);
+  addTab(page, "Pop.");
+}
+
+void DetailsPanel::AddHabTab() {
+  constexpr int kRowsPerColumn = kMaxPlayers / 2;
+  auto* page = new QWidget(this);
+  QGridLayout* grid = NewGrid(page);
+  for (int race = 0; race < kMaxPlayers; ++race) {
+    const auto index = static_cast<std::size_t>(race);
+    RName[index] = NewValue(IndexedName("RName", race), page);
+    RHab[index] = NewValue(IndexedName("RHab", race), page);
+    RHab[index]->setAlignment(Qt::AlignRight);
+    const int column = race / kRowsPerColumn * 2;
+    grid->addWidget(RName[index], race % kRowsPerColumn, column);
+    grid->addWidget(RHab[index], race % kRowsPerColumn, column + 1);
+  }
+  grid->setColumnStretch(0, 1);
+  grid->setColumnStretch(2, 1);
+  grid->setRowStretch(kRowsPerColumn, 1);
+  addTab(page, "Hab");
+}
+
+void DetailsPanel::AddStargateTab() {
+  auto* page = new QWidget(this);
+  QGridLayout* grid = NewGrid(page);
+  SGType = NewValue("SGType", page);
+  SGType->setText("None Detected");
+  SSGList = new QListWidget(page);
+  SSGList->setObjectName("SSGList");
+  DSGList = new QListWidget(page);
+  DSGList->setObjectName("DSGList");
+  grid->addWidget(NewCaption("Type of Stargate at this Planet:", page), 0, 0, 1, 2);
+  grid->addWidget(SGType, 1, 0, 1, 2);
+  grid->addWidget(NewHeading("Safe Distances", page), 2, 0);
+  grid->addWidget(NewHeading("Danger Distances", page), 2, 1);
+  grid->addWidget(SSGList, 3, 0);
+  grid->addWidget(DSGList, 3, 1);
+  SSGList->setAccessibleName(tr("Safe distances"));
+  DSGList->setAccessibleName(tr("Danger distances"));
+  addTab(page, "Stargate");
+}
+
+void DetailsPanel::ShowRaces(const GameSession& session) {
+  for (int race = 0; race < kMaxPlayers; ++race) {
+    const auto index = static_cast<std::size_t>(race);
+    const bool isPlayer = race < session.PlayerCount;
+    RName[index]->setText(isPlayer ? ToQString(session.Player(race + 1).Name()) : QString());
+    RHab[index]->clear();
+  }
+}
+
+}  // namespace quorvane

@@ -1,0 +1,94 @@
+#include "ui/drawing_tools.h"
+
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QVBoxLayout>
+
+#include "model/race_colours.h"
+#include "ui/texts.h"
+
+namespace quorvane {
+namespace {
+
+constexpr std::array<const char*, 4> kTools = {"Stop Drawing", "Draw a Circle", "Draw a Line",
+                                               "Add text"};
+
+constexpr std::array<Colour, 7> kDrawColours = {{{255, 255, 255},
+                                                 {255, 0, 0},
+                                                 {0, 255, 0},
+                                                 {0, 0, 255},
+                                                 {255, 255, 0},
+                                                 {0, 255, 255},
+                                                 {255, 0, 255}}};
+
+// The number stays readable on its own colour.
+QString ColourButtonStyle(const Colour& colour) {
+  const bool isDark = 299 * colour.Red + 587 * colour.Green + 114 * colour.Blue < 128000;
+  return QString("QRadioButton { background: rgb(%1, %2, %3); color: %4; padding: 1px 3px; }")
+      .arg(colour.Red)
+      .arg(colour.Green)
+      .arg(colour.Blue)
+      .arg(isDark ? "white" : "black");
+}
+
+}  // namespace
+
+DrawingTools::DrawingTools(QWidget* parent) : QWidget(parent) {
+  auto* grid = new QGridLayout(this);
+  grid->setContentsMargins(8, 6, 8, 6);
+  grid->setSpacing(4);
+  grid->addWidget(NewToolList(), 0, 0);
+  grid->addWidget(NewColourFrame(), 0, 1);
+  PlotBox = new QPlainTextEdit(this);
+  PlotBox->setObjectName("PlotBox");
+  PlotBox->setAccessibleName(tr("Drawing records"));
+  PlotBox->setLineWrapMode(QPlainTextEdit::NoWrap);
+  PlotBox->setReadOnly(true);
+  SaveQVL = new QPushButton(tr("Save QVL"), this);
+  SaveQVL->setObjectName("SaveQVL");
+  ClearQVL = new QPushButton(tr("Clear QVL"), this);
+  ClearQVL->setObjectName("ClearQVL");
+  grid->addWidget(PlotBox, 1, 0, 1, 2);
+  grid->addWidget(SaveQVL, 2, 0);
+  grid->addWidget(ClearQVL, 2, 1);
+  grid->setRowStretch(1, 1);
+  for (QRadioButton* tool : Draw) tool->setEnabled(false);
+  for (QRadioButton* colour : DColour) colour->setEnabled(false);
+  SaveQVL->setEnabled(false);
+  ClearQVL->setEnabled(false);
+}
+
+void DrawingTools::StopDrawing() { Draw[0]->setChecked(true); }
+
+QWidget* DrawingTools::NewToolList() {
+  auto* list = new QWidget(this);
+  auto* column = new QVBoxLayout(list);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(2);
+  for (std::size_t tool = 0; tool < kTools.size(); ++tool) {
+    Draw[tool] = new QRadioButton(kTools[tool], list);
+    Draw[tool]->setObjectName(IndexedName("Draw", static_cast<int>(tool)));
+    column->addWidget(Draw[tool]);
+  }
+  Draw[0]->setChecked(true);
+  return list;
+}
+
+QWidget* DrawingTools::NewColourFrame() {
+  constexpr int kColoursPerRow = 4;
+  auto* frame = new QGroupBox("Draw Colour", this);
+  auto* grid = new QGridLayout(frame);
+  grid->setContentsMargins(4, 2, 4, 4);
+  grid->setSpacing(3);
+  for (int colour = 0; colour < static_cast<int>(kDrawColours.size()); ++colour) {
+    const auto index = static_cast<std::size_t>(colour);
+    DColour[index] = new QRadioButton(QString::number(colour + 1), frame);
+    DColour[index]->setObjectName(IndexedName("DColour", colour));
+    DColour[index]->setStyleSheet(ColourButtonStyle(kDrawColours[index]));
+    grid->addWidget(DColour[index], colour / kColoursPerRow, colour % kColoursPerRow);
+  }
+  DColour[0]->setChecked(true);
+  return frame;
+}
+
+}  // namespace quorvane

@@ -1,0 +1,115 @@
+#include "ui/file_chooser.h"
+
+#include <QDir>
+#include <QMouseEvent>
+#include <QStorageInfo>
+#include <QStyle>
+
+#include "ui/texts.h"
+
+namespace quorvane {
+namespace {
+
+// A list entry that keeps the folder it stands for.
+constexpr int kPathRole = Qt::UserRole;
+
+}  // namespace
+
+ChoiceList::ChoiceList(QWidget* parent) : QListWidget(parent) {
+  connect(this, &QListWidget::currentItemChanged, this, [this](const QListWidgetItem* current) {
+    if (current != nullptr && !isPressed_) emit Chosen();
+  });
+}
+
+void ChoiceList::mousePressEvent(QMouseEvent* event) {
+  isPressed_ = true;
+  QListWidget::mousePressEvent(event);
+}
+
+// With the mouse an entry is chosen when the button comes up, so that a message box may follow.
+void ChoiceList::mouseReleaseEvent(QMouseEvent* event) {
+  QListWidget::mouseReleaseEvent(event);
+  if (!isPressed_) return;
+  isPressed_ = false;
+  if (currentItem() != nullptr && itemAt(event->position().toPoint()) != nullptr) emit Chosen();
+}
+
+FolderList::FolderList(QWidget* parent) : QListWidget(parent) {
+  connect(this, &QListWidget::itemActivated, this,
+          [this](const QListWidgetItem* item) { Open(*item); });
+}
+
+bool FolderList::ShowFolder(const std::filesystem::path& folder) {
+  const QDir dir(PathText(folder));
+  if (folder.empty() || !dir.exists() || !dir.isReadable()) return false;
+  folder_ = ToPath(QDir::cleanPath(dir.absolutePath()));
+  clear();
+  std::filesystem::path way;
+  int depth = 0;
+  for (const std::filesystem::path& step : folder_) {
+    way /= step;
+    if (way.has_root_name() && !way.has_root_directory()) continue;  // the drive's letter alone
+    AddFolder(depth == 0 ? PathText(way) : PathText(step), PathText(way), depth, true);
+    ++depth;
+  }
+  setCurrentRow(depth - 1);
+  for (const QString& name :
+       dir.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name | QDir::IgnoreCase)) {
+    AddFolder(name, dir.absoluteFilePath(name), depth, false);
+  }
+  scrollToItem(currentItem());
+  emit FolderChanged();
+  return true;
+}
+
+void FolderList::Open(const QListWidgetItem& item) {
+  const QString path = item.data(kPathRole).toString();
+  if (!ShowFolder(ToPath(path))) emit FolderRefused(path);
+}
+
+void FolderList::AddFolder(const QString& name, const QString& path, int depth, bool isOnTheWay) {
+  const QStyle::StandardPixmap icon =
+      isOnTheWay ? QStyle::SP_DirOpenIcon : QStyle::SP_DirClosedIcon;
+  auto* item =
+      new QListWidgetItem(style()->standardIcon(icon), QString(2 * depth, ' ') + name, this);
+  item->setData(kPathRole, path);
+  item->setToolTip(QDir::toNativeSeparators(path));
+}
+
+DriveList::DriveList(QWidget* parent) : QComboBox(parent) {
+#if defined(Q_OS_WIN)
+  for (const QFileInfo& drive : QDir::drives()) addItem(drive.path(), drive.path());
+#else
+  addItem("/", "/");
+  addItem("Home (" + QDir::homePath() + ")", QDir::homePath());
+  const QString wine = QDir::homePath() + "/.wine/drive_c";
+  if (QDir(wine).exists()) addItem("C: (Wine)", wine);
+  for (const QStorageInfo& volume : QStorageInfo::mountedVolumes()) {
+    const QString root = volume.rootPath();
+    if (root.startsWith("/media/") || root.startsWith("/mnt/") || root.startsWith("/run/media/")) {
+      addItem(root, root);
+    }
+  }
+#endif
+}
+
+void DriveList::SelectDriveOf(const std::filesystem::path& folder) {
+  const QString path = QDir::fromNativeSeparators(PathText(folder));
+  int best = -1;
+  qsizetype bestLength = -1;
+  for (int i = 0; i < count(); ++i) {
+    const QString root = itemData(i).toString();
+    const bool isAbove =
+        path.compare(root, Qt::CaseInsensitive) == 0 ||
+        path.startsWith(root.endsWith('/') ? root : root + '/', Qt::CaseInsensitive);
+    if (isAbove && root.size() > bestLength) {
+      best = i;
+      bestLength = root.size();
+    }
+  }
+  if (best >= 0) setCurrentIndex(best);
+}
+
+std::filesystem::path DriveList::Drive() const { return ToPath(currentData().toString()); }
+
+}  // namespace quorvane

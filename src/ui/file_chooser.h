@@ -1,0 +1,65 @@
+#pragma once
+
+#include <QComboBox>
+#include <QListWidget>
+#include <filesystem>
+
+namespace quorvane {
+
+/// A list whose entries are chosen with one click or with the arrow keys.
+class ChoiceList : public QListWidget {
+  Q_OBJECT
+
+ public:
+  explicit ChoiceList(QWidget* parent = nullptr);
+
+ signals:
+  /// The user chose the current entry, again or anew.
+  void Chosen();
+
+ protected:
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+
+ private:
+  bool isPressed_ = false;
+};
+
+/// The folders on the way to the shown folder, and those inside it. A double click or Enter opens
+/// one.
+class FolderList : public QListWidget {
+  Q_OBJECT
+
+ public:
+  explicit FolderList(QWidget* parent = nullptr);
+
+  /// The folder shown; empty until one was.
+  const std::filesystem::path& Folder() const { return folder_; }
+  /// Shows a folder. @return false, changing nothing, for one that is missing or cannot be read
+  bool ShowFolder(const std::filesystem::path& folder);
+
+ signals:
+  void FolderChanged();
+  /// The user asked for a folder that cannot be shown.
+  void FolderRefused(const QString& folder);
+
+ private:
+  void Open(const QListWidgetItem& item);
+  void AddFolder(const QString& name, const QString& path, int depth, bool isOnTheWay);
+
+  std::filesystem::path folder_;
+};
+
+/// The drives of the system, or the places where a search for games can start.
+class DriveList : public QComboBox {
+  Q_OBJECT
+
+ public:
+  explicit DriveList(QWidget* parent = nullptr);
+
+  /// Selects the drive that a folder lies on.
+  void SelectDriveOf(const std::filesystem::path& folder);
+  std::filesystem::path Drive() const;
+};
+
+}  // namespace quorvane

@@ -1,0 +1,34 @@
+#include "ui/icons.h"
+
+#include <QPainter>
+#include <QPixmap>
+#include <QString>
+
+namespace quorvane {
+namespace {
+
+// A picture that fades into the window says more plainly than a grey one that it cannot be used.
+QPixmap Faded(const QPixmap& picture) {
+  constexpr double kOpacity = 0.3;
+  QPixmap faded(picture.size());
+  faded.setDevicePixelRatio(picture.devicePixelRatio());
+  faded.fill(Qt::transparent);
+  QPainter painter(&faded);
+  painter.setOpacity(kOpacity);
+  painter.drawPixmap(0, 0, picture);
+  return faded;
+}
+
+}  // namespace
+
+QIcon ThemedIcon(const char* name) { return QIcon(QString(":/icons/%1.svg").arg(name)); }
+
+QIcon OverlayIcon(int button, int side) {
+  QIcon icon(QString(":/icons/overlay_%1.svg").arg(button, 2, 10, QChar('0')));
+  for (const double ratio : {1.0, 2.0}) {
+    icon.addPixmap(Faded(icon.pixmap(QSize(side, side), ratio)), QIcon::Disabled);
+  }
+  return icon;
+}
+
+}  // namespace quorvane

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QLabel>
+#include <QString>
+
+namespace quorvane {
+
+/// A fixed text beside a value.
+inline QLabel* NewCaption(const QString& text, QWidget* parent) {
+  auto* label = new QLabel(text, parent);
+  label->setTextFormat(Qt::PlainText);
+  return label;
+}
+
+/// A fixed text above a column of values.
+inline QLabel* NewHeading(const QString& text, QWidget* parent) {
+  QLabel* label = NewCaption(text, parent);
+  label->setProperty("heading", true);
+  return label;
+}
+
+/// A label that shows a value of the game, as plain text and under its control name.
+inline QLabel* NewValue(const QString& name, QWidget* parent) {
+  QLabel* label = NewCaption("", parent);
+  label->setObjectName(name);
+  label->setProperty("value", true);
+  return label;
+}
+
+}  // namespace quorvane

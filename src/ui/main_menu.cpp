@@ -1,0 +1,57 @@
+#include "ui/main_menu.h"
+
+#include <QAction>
+#include <QKeySequence>
+#include <QMenu>
+#include <QMenuBar>
+
+#include "ui/icons.h"
+
+namespace quorvane {
+namespace {
+
+QMenu* AddMenu(QMenuBar& bar, const char* name, const char* caption) {
+  QMenu* menu = bar.addMenu(caption);
+  menu->setObjectName(name);
+  // Qt knows enabled menus only through their action; it carries the same name for whoever looks.
+  menu->menuAction()->setObjectName(name);
+  return menu;
+}
+
+QAction* AddItem(QMenu& menu, const char* name, const char* caption, const char* icon,
+                 const QKeySequence& shortcut = {}) {
+  QAction* item = menu.addAction(caption);
+  item->setObjectName(name);
+  item->setShortcut(shortcut);
+  if (icon != nullptr) item->setIcon(ThemedIcon(icon));
+  return item;
+}
+
+}  // namespace
+
+MainMenu::MainMenu(QMenuBar& bar)
+    : mnuFile(AddMenu(bar, "mnuFile", "&File")),
+      mnuOver(AddMenu(bar, "mnuOver", "&Overlays")),
+      mnuData(AddMenu(bar, "mnuData", "&Data")),
+      mnuHelp(AddMenu(bar, "mnuHelp", "&Help")) {
+  mnuMap = AddItem(*mnuFile, "mnuMap", "Load Data", "load");
+  mnuSave = AddItem(*mnuFile, "mnuSave", "Save Map", "save", Qt::CTRL | Qt::Key_S);
+  mnuSaveRaceC =
+      AddItem(*mnuFile, "mnuSaveRaceC", "Save Race Colours", nullptr, Qt::CTRL | Qt::Key_R);
+  mnuFile->addSeparator();
+  mnuExit = AddItem(*mnuFile, "mnuExit", "E&xit", "exit");
+  mnuExit->setMenuRole(QAction::QuitRole);
+
+  mnuSearchPlanet =
+      AddItem(*mnuData, "mnuSearchPlanet", "&Search for Planet", "find", Qt::CTRL | Qt::Key_F);
+  mnuHideSelect = AddItem(*mnuData, "mnuHideSelect", "Hide Selector", nullptr);
+  mnuData->addSeparator();
+  mnuGrid = AddItem(*mnuData, "mnuGrid", "Planet &Grid", "grid", Qt::CTRL | Qt::Key_G);
+  mnuGrid2 =
+      AddItem(*mnuData, "mnuGrid2", "&Empire Statistics", "statistics", Qt::CTRL | Qt::Key_E);
+
+  mnuAbout = AddItem(*mnuHelp, "mnuAbout", "&About", "about");
+  mnuThanks = AddItem(*mnuHelp, "mnuThanks", "&Thanks to...", nullptr);
+}
+
+}  // namespace quorvane

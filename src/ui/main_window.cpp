@@ -1,0 +1,369 @@
+#include "ui/main_window.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QPlainTextEdit>
+#include <QScopedValueRollback>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <algorithm>
+#include <utility>
+
+#include "loading/load_game.h"
+#include "loading/race_colour_file.h"
+#include "platform/toolkit/twips.h"
+#include "render/draw_overlays.h"
+#include "render/main_layout.h"
+#include "render/zoom_box.h"
+#include "ui/details_panel.h"
+#include "ui/labels.h"
+#include "ui/legend.h"
+#include "ui/message_box_prompts.h"
+#include "ui/overlay_bar.h"
+#include "ui/pixel_rect.h"
+#include "ui/texts.h"
+
+namespace quorvane {
+namespace {
+
+constexpr QSize kFirstSize(1280, 860);
+// How much of the window's height lies above and below its client area on the systems whose frame
+// the layout was made for; a thicker frame must not push the status line out of sight.
+constexpr int kFrameTwips = 735;
+constexpr const char* kChooserText = "Select a Race, then click Show Boundary";
+constexpr Colour kZoomBoxColour = {150, 150, 150};
+
+std::optional<ScrollKey> ScrollKeyOf(int key) {
+  switch (key) {
+    case Qt::Key_Left:
+      return ScrollKey::Left;
+    case Qt::Key_Up:
+      return ScrollKey::Up;
+    case Qt::Key_Right:
+      return ScrollKey::Right;
+    case Qt::Key_Down:
+      return ScrollKey::Down;
+    default:
+      return std::nullopt;
+  }
+}
+
+int ShiftMaskOf(Qt::KeyboardModifiers modifiers) {
+  return (modifiers.testFlag(Qt::ShiftModifier) ? 1 : 0) +
+         (modifiers.testFlag(Qt::ControlModifier) ? 2 : 0) +
+         (modifiers.testFlag(Qt::AltModifier) ? 4 : 0);
+}
+
+// Controls that the arrow keys belong to while they have the focus.
+bool UsesArrowKeys(const QWidget* widget) {
+  return qobject_cast<const QLineEdit*>(widget) != nullptr ||
+         qobject_cast<const QPlainTextEdit*>(widget) != nullptr ||
+         qobject_cast<const QAbstractItemView*>(widget) != nullptr;
+}
+
+// The scrolled area is at least as large as its frame; a scroll bar takes room from the other
+// direction only where it is needed.
+QSize AreaSize(QSize frame, QSize needed, int scrollBar) {
+  const bool isWide = needed.width() > frame.width();
+  const bool isHigh = needed.height() > frame.height() - (isWide ? scrollBar : 0);
+  const QSize room = frame - QSize(isHigh ? scrollBar : 0, isWide ? scrollBar : 0);
+  return room.expandedTo(needed);
+}
+
+PictureBox* NewMap(const char* name, QWidget* area) {
+  auto* map = new PictureBox(area);
+  map->setObjectName(name);
+  return map;
+}
+
+}  // namespace
+
+Main::Main(std::filesystem::path startFolder, Prompts* prompts)
+    : Menu(*menuBar()),
+      ownPrompts_(prompts == nullptr ? std::make_unique<MessageBoxPrompts>(*this) : nullptr),
+      prompts_(prompts == nullptr ? *ownPrompts_ : *prompts) {
+  open_.StarsInstallDir = std::move(startFolder);
+  setObjectName("Main");
+  BuildArea();
+  ConnectMenus();
+  Form_Load();
+  resize(kFirstSize);
+  qApp->installEventFilter(this);
+}
+
+Main::~Main() { qApp->removeEventFilter(this); }
+
+void Main::Form_Load() {
+  Menu.mnuData->setEnabled(false);
+  Menu.mnuOver->setEnabled(false);
+  setWindowTitle(ToQString(MainCaption(QUORVANE_VERSION, nullptr)));
+}
+
+void Main::BuildArea() {
+  scroll_ = new QScrollArea(this);
+  scroll_->setFrameShape(QFrame::NoFrame);
+  scroll_->setFocusPolicy(Qt::NoFocus);
+  area_ = new QWidget();
+  scroll_->setWidget(area_);
+  setCentralWidget(scroll_);
+  setMinimumSize(PixelsFromTwips(3000), PixelsFromTwips(5000));
+
+  Overlays = new OverlayBar(*area_, *Menu.mnuOver);
+  Combo1 = new QComboBox(area_);
+  Combo1->setObjectName("Combo1");
+  Combo1->setAccessibleName(tr("Race of the estimated habitability"));
+  Combo1->setEditable(true);
+  Combo1->setInsertPolicy(QComboBox::NoInsert);
+  Combo1->setEditText(kChooserText);
+  Combo1->setEnabled(false);
+  Combo1->setGeometry(PixelRect(RaceChooserRect()));
+  Universe = NewMap("Universe", area_);
+  Universe->setAccessibleName(tr("Map of the universe"));
+  Universe2 = NewMap("Universe2", area_);
+  Universe2->hide();
+  zoomBox_ = &Universe->AddOutline();
+  zoomBox_->OutlineColour = kZoomBoxColour;
+  RaceLegend = new Legend(*area_);
+  Detail = new DetailsPanel(area_);
+  XYCoord = NewValue("XYCoord", area_);
+  theplanet = NewValue("theplanet", area_);
+  ProgressBar1 = new QProgressBar(area_);
+  ProgressBar1->setObjectName("ProgressBar1");
+  ProgressBar1->setAccessibleName(tr("Progress of loading and drawing"));
+  ProgressBar1->setTextVisible(false);
+  ProgressBar1->setValue(0);
+
+  connect(Overlays, &OverlayBar::Switched, this, [this](bool isButton) {
+    if (isButton) Universe->setFocus();
+    DrawOverlays();
+  });
+  connect(Combo1, &QComboBox::currentIndexChanged, this, &Main::Combo1_Click);
+  connect(Universe, &PictureBox::Resized, this, &Main::Universe_Resize);
+  connect(Universe, &PictureBox::MouseDown, this,
+          [this](int, int, double x, double y) { Universe_MouseDown(x, y); });
+  connect(Universe, &PictureBox::MouseMove, this,
+          [this](int, int, double x, double y) { Universe_MouseMove(x, y); });
+}
+
+void Main::ConnectMenus() {
+  connect(Menu.mnuMap, &QAction::triggered, this, &Main::mnuMap_Click);
+  connect(Menu.mnuSaveRaceC, &QAction::triggered, this, &Main::mnuSaveRaceC_Click);
+  connect(Menu.mnuExit, &QAction::triggered, this, &Main::mnuExit_Click);
+  connect(Menu.mnuHideSelect, &QAction::triggered, this, &Main::mnuHideSelect_Click);
+  // A picture or colours to save exist once a game is loaded; the other windows are not built yet.
+  for (QAction* item : {Menu.mnuSave, Menu.mnuSaveRaceC, Menu.mnuSearchPlanet, Menu.mnuGrid,
+                        Menu.mnuGrid2, Menu.mnuAbout, Menu.mnuThanks}) {
+    item->setEnabled(false);
+  }
+}
+
+void Main::resizeEvent(QResizeEvent* event) {
+  QMainWindow::resizeEvent(event);
+  Form_Resize();
+}
+
+// The frame that a window manager puts around the window becomes known with its first move.
+void Main::moveEvent(QMoveEvent* event) {
+  QMainWindow::moveEvent(event);
+  Form_Resize();
+}
+
+void Main::Form_Resize() {
+  const int height = std::min(TwipsFromPixels(frameGeometry().height()),
+                              TwipsFromPixels(scroll_->height()) + kFrameTwips);
+  const int width = TwipsFromPixels(frameGeometry().width());
+  const std::optional<MainLayout> layout = LayOutMain(height, width);
+  if (!layout) return;
+  const TwipRect needed = {.Width = std::max(layout->Detail.Right(), RaceChooserRect().Right()),
+                           .Height = layout->ProgressBar.Bottom()};
+  area_->resize(AreaSize(scroll_->size(), PixelRect(needed).size(),
+                         style()->pixelMetric(QStyle::PM_ScrollBarExtent)));
+  const QRect map = PixelRect(layout->Universe);
+  QRect detail = PixelRect(layout->Detail);
+  detail.moveBottom(map.bottom());  // lined up to the pixel, whatever the rounding
+  Universe->setGeometry(map);
+  Universe2->setGeometry(map);
+  Detail->setGeometry(detail);
+  XYCoord->setGeometry(PixelRect(layout->XYCoord));
+  theplanet->setGeometry(PixelRect(layout->ThePlanet));
+  ProgressBar1->setGeometry(PixelRect(layout->ProgressBar));
+  RaceLegend->Place(*layout);
+}
+
+// The picture has a new size: the kept borders are of the old one.
+void Main::Universe_Resize() {
+  Universe2->Surface().Resize(Universe->size(), Universe->devicePixelRatioF());
+  session_.BordersCached = 0;
+  if (session_.PlanetCount > 0) DrawOverlays();
+}
+
+bool Main::eventFilter(QObject* target, QEvent* event) {
+  const auto* widget = qobject_cast<QWidget*>(target);
+  if (event->type() == QEvent::KeyPress && widget != nullptr && widget->window() == this &&
+      !UsesArrowKeys(widget)) {
+    const auto* key = static_cast<QKeyEvent*>(event);
+    if (Form_KeyDown(key->key(), key->modifiers())) return true;
+  }
+  return QMainWindow::eventFilter(target, event);
+}
+
+bool Main::Form_KeyDown(int key, Qt::KeyboardModifiers modifiers) {
+  const std::optional<ScrollKey> scrollKey = ScrollKeyOf(key);
+  if (!scrollKey || !ScrollView(state_, *scrollKey, ShiftMaskOf(modifiers))) return false;
+  DrawOverlays();
+  return true;
+}
+
+void Main::Universe_MouseDown(double x, double y) {
+  if (session_.PlanetCount == 0) return;
+  if (state_.ClickMode == kStartZoomBox) {
+    Overlays->EnableButtons(kOverlayButtonCount, false);
+    StartZoomBox(state_, {x, y});
+    zoomBox_->Left = x;
+    zoomBox_->Top = y;
+    zoomBox_->Width = 1;
+    zoomBox_->Height = 1;
+    zoomBox_->Visible = true;
+  } else if (state_.ClickMode == kEndZoomBox && EndZoomBox(state_, zoomBox_->Width)) {
+    zoomBox_->Visible = false;
+    Overlays->EnableButtons(kOverlayButtonCount);
+    DrawOverlays();
+  }
+  Universe->update();
+}
+
+void Main::Universe_MouseMove(double x, double) {
+  if (state_.ClickMode != kEndZoomBox) return;
+  zoomBox_->Width = ZoomBoxSide(zoomBox_->Left, x);
+  zoomBox_->Height = zoomBox_->Width;
+  Universe->update();
+}
+
+void Main::Combo1_Click() {
+  if (Overlays->Switches().IsOn(OverlayKind::EstimateHabValues)) DrawOverlays();
+}
+
+void Main::mnuMap_Click() {
+  if (openFile_ == nullptr || openFile_->IsDiscarded()) {
+    openFile_ = std::make_unique<OpenFile>(open_, prompts_, this);
+  }
+  openFile_->exec();
+  if (open_.OpenDialogResult != 0) return;
+  LoadChosenGame();
+}
+
+void Main::LoadChosenGame() {
+  const bool wasEnabled = Menu.mnuOver->isEnabled();
+  Menu.mnuOver->setEnabled(false);
+  repaint();
+  Result<GameSession> loaded = LoadGame(open_.Choice, session_.MyRaceName, ProgressDisplay());
+  if (!loaded) {
+    Menu.mnuOver->setEnabled(wasEnabled);
+    ProgressBar1->setValue(0);
+    prompts_.Inform(loaded.Message());
+    return;
+  }
+  session_ = std::move(*loaded);
+  ShowLoadedGame();
+  if (session_.OwnersWithoutRecord.empty()) return;
+  std::string message =
+      "The game has more than 16 races. These are left out of colours and counts:";
+  for (const std::string& owner : session_.OwnersWithoutRecord) message += "\n" + owner;
+  prompts_.Inform(message);
+}
+
+void Main::ShowLoadedGame() {
+  ResetWindow();
+  setWindowTitle(ToQString(MainCaption(QUORVANE_VERSION, &session_)));
+  state_ = MapState();
+  state_.View.ShowAll(session_.UniverseExtent);
+  for (int player = 1; player <= session_.PlayerCount; ++player) {
+    Combo1->addItem(ToQString(session_.Player(player).Name()));
+  }
+  RaceLegend->ShowPlayers(session_);
+  Detail->ShowRaces(session_);
+  Detail->Tools->PlotBox->setPlainText(ToQString(session_.DrawingLayer));
+
+  Combo1->setCurrentIndex(session_.PlayerCount > 0 ? 0 : -1);
+  Combo1->setEnabled(true);
+  Overlays->EnableButtons(kOverlayButtonCount);
+  const bool isNewStyle = session_.ReportStyle == kNewReportStyle;
+  Overlays->Item(OverlayKind::ValueAfterTerraforming).setEnabled(isNewStyle);
+  Overlays->Item(OverlayKind::CompleteStargateNetwork).setEnabled(isNewStyle);
+  Menu.mnuSaveRaceC->setEnabled(true);
+  Menu.mnuData->setEnabled(true);
+  Menu.mnuOver->setEnabled(true);
+}
+
+// Every load begins with a blank map and all overlays released.
+void Main::ResetWindow() {
+  const QScopedValueRollback noRedraw(isDrawing_, true);
+  Overlays->EnableButtons(kOverlayButtonCount, false);
+  OverlaySwitches switches = Overlays->Switches();
+  switches.BeginNewGame();
+  Overlays->Show(switches);
+  Combo1->clear();
+  Combo1->clearEditText();
+  zoomBox_->Visible = false;
+  for (PictureBox* map : {Universe, Universe2}) {
+    map->Surface().SetBackground(nullptr);
+    map->Surface().Clear();
+    map->update();
+  }
+}
+
+void Main::DrawOverlays() {
+  // Switches that the redraw itself changes are part of the same user action.
+  if (isDrawing_) return;
+  const QScopedValueRollback oneRedraw(isDrawing_, true);
+  OverlaySwitches switches = Overlays->Switches();
+  const bool isZoomIn = switches.IsOn(OverlayKind::ZoomIn);
+  if (ArmZoom(state_, isZoomIn)) {
+    Detail->Tools->StopDrawing();
+    return;
+  }
+  if (LeaveZoom(state_, isZoomIn)) {
+    constexpr int kButtonsOfFullView = 11;  // the estimated habitability is left as it is
+    Overlays->EnableButtons(kButtonsOfFullView);
+    Detail->Tools->StopDrawing();
+  }
+  if (switches.IsOn(OverlayKind::ClearMap)) {
+    switches.ClearMap();
+    Overlays->Show(switches);
+  }
+  switches.RaceName = ToText(Combo1->currentText());
+  quorvane::DrawOverlays({.Session = session_,
+                          .View = state_.View,
+                          .Switches = switches,
+                          .Universe = Universe->Surface(),
+                          .Universe2 = Universe2->Surface(),
+                          .Progress = ProgressDisplay()});
+  Universe->update();
+}
+
+ShowProgress Main::ProgressDisplay() {
+  return [this](int value, int maximum) {
+    ProgressBar1->setRange(0, maximum);
+    ProgressBar1->setValue(value);
+    ProgressBar1->repaint();
+  };
+}
+
+void Main::mnuHideSelect_Click() {
+  session_.SelectedX = 0;
+  session_.SelectedY = 0;
+}
+
+void Main::mnuSaveRaceC_Click() {
+  const Result<void> saved = WriteRaceColourFile(session_);
+  prompts_.Inform(saved ? "Current Colour settings saved" : saved.Message());
+}
+
+void Main::mnuExit_Click() {
+  close();
+  QApplication::quit();
+}
+
+}  // namespace quorvane

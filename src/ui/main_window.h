@@ -1,0 +1,94 @@
+#pragma once
+
+#include <QComboBox>
+#include <QLabel>
+#include <QMainWindow>
+#include <QProgressBar>
+#include <filesystem>
+#include <memory>
+
+#include "model/game_session.h"
+#include "model/progress.h"
+#include "platform/toolkit/picture_box.h"
+#include "render/map_state.h"
+#include "ui/main_menu.h"
+#include "ui/open_file.h"
+#include "ui/prompts.h"
+
+class QScrollArea;
+
+namespace quorvane {
+
+class DetailsPanel;
+class Legend;
+class OverlayBar;
+
+/// The program's one long-lived window: the map with its overlay switches, details, legend, status
+/// line and menus. It owns the loaded game.
+class Main : public QMainWindow {
+  Q_OBJECT
+
+ public:
+  /// @param startFolder  where the open dialog starts
+  /// @param prompts      how to talk to the user; nullptr: message boxes
+  explicit Main(std::filesystem::path startFolder, Prompts* prompts = nullptr);
+  ~Main() override;
+
+  /// "Load Data": lets the user choose a game in the open dialog and loads it.
+  void mnuMap_Click();
+  /// Loads the game that the open dialog left chosen. A load that fails says why, and the game on
+  /// screen stays.
+  void LoadChosenGame();
+  /// Repaints the map from the switches and the view.
+  void DrawOverlays();
+
+  const GameSession& Session() const { return session_; }
+  const MapState& State() const { return state_; }
+
+  MainMenu Menu;
+  PictureBox* Universe = nullptr;
+  PictureBox* Universe2 = nullptr;
+  OverlayBar* Overlays = nullptr;
+  DetailsPanel* Detail = nullptr;
+  Legend* RaceLegend = nullptr;
+  QComboBox* Combo1 = nullptr;
+  QLabel* XYCoord = nullptr;
+  QLabel* theplanet = nullptr;
+  QProgressBar* ProgressBar1 = nullptr;
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+  void moveEvent(QMoveEvent* event) override;
+  bool eventFilter(QObject* target, QEvent* event) override;
+
+ private:
+  void Form_Load();
+  void Form_Resize();
+  bool Form_KeyDown(int key, Qt::KeyboardModifiers modifiers);
+  void Universe_MouseDown(double x, double y);
+  void Universe_MouseMove(double x, double y);
+  void Universe_Resize();
+  void Combo1_Click();
+  void mnuHideSelect_Click();
+  void mnuSaveRaceC_Click();
+  void mnuExit_Click();
+
+  void BuildArea();
+  void ConnectMenus();
+  void ShowLoadedGame();
+  void ResetWindow();
+  ShowProgress ProgressDisplay();
+
+  std::unique_ptr<Prompts> ownPrompts_;
+  Prompts& prompts_;
+  OpenState open_;
+  std::unique_ptr<OpenFile> openFile_;
+  GameSession session_;
+  MapState state_;
+  QScrollArea* scroll_ = nullptr;
+  QWidget* area_ = nullptr;
+  OutlineShape* zoomBox_ = nullptr;
+  bool isDrawing_ = false;
+};
+
+}  // namespace quorvane

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "ui/prompts.h"
+
+class QWidget;
+
+namespace quorvane {
+
+/// Prompts as message boxes in front of whichever window is active, or else of their parent.
+class MessageBoxPrompts : public Prompts {
+ public:
+  explicit MessageBoxPrompts(QWidget& parent) : parent_(parent) {}
+
+  void Inform(const std::string& text) override;
+  bool AskYesNo(const std::string& title, const std::string& question) override;
+
+ private:
+  QWidget* Parent() const;
+
+  QWidget& parent_;
+};
+
+}  // namespace quorvane

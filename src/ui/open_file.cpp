@@ -1,0 +1,298 @@
+#include "ui/open_file.h"
+
+#include <QCloseEvent>
+#include <QDir>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+#include "loading/dialog_files.h"
+#include "loading/open_checks.h"
+#include "loading/report_finder.h"
+#include "platform/files/files.h"
+#include "ui/file_chooser.h"
+#include "ui/icons.h"
+#include "ui/report_rows.h"
+#include "ui/texts.h"
+
+namespace quorvane {
+namespace {
+
+QLabel* NewLabel(const char* name, const QString& text, QWidget* parent) {
+  auto* label = new QLabel(text, parent);
+  label->setObjectName(name);
+  label->setTextFormat(Qt::PlainText);
+  return label;
+}
+
+template <typename Widget>
+Widget* Named(Widget* widget, const char* name, const QString& accessibleName) {
+  widget->setObjectName(name);
+  widget->setAccessibleName(accessibleName);
+  return widget;
+}
+
+QPushButton* NewButton(const char* name, const QString& caption, QBoxLayout& row, QWidget* parent) {
+  auto* button = new QPushButton(caption, parent);
+  button->setObjectName(name);
+  button->setAutoDefault(false);
+  row.addWidget(button);
+  return button;
+}
+
+}  // namespace
+
+OpenFile::OpenFile(OpenState& state, Prompts& prompts, QWidget* parent)
+    : QDialog(parent), state_(state), prompts_(prompts) {
+  setObjectName("OpenFile");
+  setWindowTitle("Open Stars! game files");
+  Build();
+  ConnectControls();
+  ShowStartFolder();
+}
+
+void OpenFile::Build() {
+  auto* columns = new QHBoxLayout(this);
+  columns->setSpacing(16);
+  auto* left = new QVBoxLayout();
+  auto* right = new QVBoxLayout();
+  left->setSpacing(6);
+  right->setSpacing(10);
+  columns->addLayout(left, 2);
+  columns->addLayout(right, 3);
+  AddFileChooser(*left);
+  AddReports(*right);
+  AddSettings(*right);
+  AddButtons(*right);
+  resize(820, 560);
+}
+
+void OpenFile::AddFileChooser(QBoxLayout& column) {
+  QLabel* heading = NewLabel("Label3", "Choose a MAP file:", this);
+  Drive1 = Named(new DriveList(this), "Drive1", tr("Drive"));
+  Dir1 = Named(new FolderList(this), "Dir1", tr("Folder"));
+  File1 = Named(new ChoiceList(this), "File1", tr("Map files"));
+  heading->setBuddy(File1);
+  column.addWidget(heading);
+  column.addWidget(Drive1);
+  column.addWidget(Dir1, 3);
+  column.addWidget(File1, 2);
+}
+
+void OpenFile::AddReports(QBoxLayout& column) {
+  Label1 = NewLabel("Label1",
+                    "Mark the option button next to the file which represents your race. Enter the "
+                    "Year of each report in the box next to the filename:",
+                    this);
+  Label1->setWordWrap(true);
+  PLALabelText = NewLabel("PLALabelText", "", this);
+  PLALabelText->setWordWrap(true);
+  Rows = new ReportRows(state_.Choice, this);
+  // The rows come and go; the room for them stays, so that nothing below them jumps.
+  auto* area = new QWidget(this);
+  auto* areaLayout = new QVBoxLayout(area);
+  areaLayout->setContentsMargins(0, 0, 0, 0);
+  areaLayout->addWidget(Label1);
+  areaLayout->addWidget(PLALabelText);
+  areaLayout->addWidget(Rows);
+  areaLayout->addStretch(1);
+  area->setMinimumHeight(290);
+  column.addWidget(area, 1);
+  Label1->hide();
+  PLALabelText->hide();
+}
+
+void OpenFile::AddSettings(QBoxLayout& column) {
+  auto* yearRow = new QHBoxLayout();
+  QLabel* yearLabel = NewLabel("Label2", "Current Game Year:", this);
+  txtGameYear = Named(new QLineEdit(this), "txtGameYear", tr("Current game year"));
+  txtGameYear->setMaxLength(10);
+  txtGameYear->setFixedWidth(80);
+  yearLabel->setBuddy(txtGameYear);
+  yearRow->addWidget(yearLabel);
+  yearRow->addWidget(txtGameYear);
+  yearRow->addStretch(1);
+  column.addLayout(yearRow);
+
+  auto* frame = new QGroupBox("Sphere of Influence Setting", this);
+  frame->setObjectName("Frame1");
+  auto* frameRow = new QHBoxLayout(frame);
+  txtSOI = Named(new QLineEdit("100", frame), "txtSOI", tr("Sphere of influence in light years"));
+  txtSOI->setMaxLength(10);
+  txtSOI->setFixedWidth(60);
+  QLabel* advice = NewLabel(
+      "Label4",
+      "By altering this value, you can increase/decrease the SOI of each planet, thus changing the "
+      "maximum radius of a planets border. Increasing the SOI will slow the loading and may cause "
+      "an "
+      "overflow in some universes. I recommend you stick with 100ly",
+      frame);
+  advice->setWordWrap(true);
+  frameRow->addWidget(txtSOI, 0, Qt::AlignTop);
+  frameRow->addWidget(advice, 1);
+  column.addWidget(frame);
+}
+
+void OpenFile::AddButtons(QBoxLayout& column) {
+  auto* row = new QHBoxLayout();
+  RemRace = NewButton("RemRace", "&Remember My Race", *row, this);
+  SaveYears = NewButton("SaveYears", "Save &Years", *row, this);
+  row->addStretch(1);
+  Command1 = NewButton("Command1", "&Load && Generate Data", *row, this);
+  Command2 = NewButton("Command2", "&Cancel", *row, this);
+  Command1->setDefault(true);
+  Command1->setIcon(ThemedIcon("load"));
+  QSizePolicy keepsRoom = RemRace->sizePolicy();
+  keepsRoom.setRetainSizeWhenHidden(true);
+  RemRace->setSizePolicy(keepsRoom);
+  column.addLayout(row);
+}
+
+void OpenFile::ConnectControls() {
+  connect(Drive1, &QComboBox::activated, this, &OpenFile::Drive1_Change);
+  connect(Dir1, &FolderList::FolderChanged, this, &OpenFile::Dir1_Change);
+  connect(Dir1, &FolderList::FolderRefused, this, [this](const QString& folder) {
+    prompts_.Inform(ToText(tr("The folder %1 cannot be opened.").arg(folder)));
+  });
+  connect(File1, &ChoiceList::Chosen, this, &OpenFile::File1_Click);
+  connect(RemRace, &QPushButton::clicked, this, &OpenFile::RemRace_Click);
+  connect(SaveYears, &QPushButton::clicked, this, &OpenFile::SaveYears_Click);
+  connect(txtSOI, &QLineEdit::textChanged, this, &OpenFile::txtSOI_Change);
+  connect(Command1, &QPushButton::clicked, this, &OpenFile::Command1_Click);
+  connect(Command2, &QPushButton::clicked, this, &OpenFile::Command2_Click);
+}
+
+void OpenFile::ShowStartFolder() {
+  if (!Dir1->ShowFolder(state_.StarsInstallDir)) {
+#if defined(Q_OS_WIN)
+    Dir1->ShowFolder("C:\\");
+#else
+    if (!Dir1->ShowFolder(ToPath(QDir::homePath()))) Dir1->ShowFolder("/");
+#endif
+  }
+  Drive1->SelectDriveOf(Dir1->Folder());
+}
+
+void OpenFile::Drive1_Change() {
+  if (Dir1->ShowFolder(Drive1->Drive())) return;
+  prompts_.Inform(ToText(tr("The drive %1 cannot be read.").arg(Drive1->currentText())));
+  Drive1->SelectDriveOf(Dir1->Folder());
+}
+
+void OpenFile::Dir1_Change() {
+  File1->clear();
+  for (const std::string& name : FilesNamedLike(Dir1->Folder(), "", ".map")) {
+    File1->addItem(ToQString(name));
+  }
+  state_.Choice.MapDirectory = " ";
+  Command1->setEnabled(false);
+  SaveYears->setEnabled(false);
+  RemRace->hide();
+  Rows->HideAll();
+  Label1->hide();
+  PLALabelText->hide();
+}
+
+void OpenFile::File1_Click() {
+  const QListWidgetItem* map = File1->currentItem();
+  if (map == nullptr) return;
+  Command1->setEnabled(true);
+  RemRace->show();
+  ChooseMap(state_.Choice, Dir1->Folder() / ToPath(map->text()));
+  state_.StarsInstallDir = state_.Choice.MapDirectory;
+  const auto askForNewStyle = [this] {
+    return prompts_.AskYesNo("Map Error",
+                             "PLA and P?? files have both been found for this map.\r\n\r\n"
+                             "Import New style P?? files? (NO will import PLA file)");
+  };
+  if (!FindReportFiles(state_.Choice, ToText(txtGameYear->text()), askForNewStyle)) {
+    prompts_.Inform("No Player files found for this map");
+    return;
+  }
+  ClearReports();
+  if (state_.Choice.ReportStyle == kNewReportStyle) {
+    ShowNewReports();
+  } else {
+    ShowOldReport();
+  }
+}
+
+void OpenFile::ClearReports() {
+  PLALabelText->hide();
+  Label1->hide();
+  Rows->Clear();
+}
+
+void OpenFile::ShowOldReport() {
+  RemRace->hide();
+  const QString caption = "Old Report game using " + ToQString(OldReportFileName(state_.Choice));
+  Rows->SetOldReport(caption);
+  PLALabelText->setText(caption);
+  PLALabelText->show();
+}
+
+void OpenFile::ShowNewReports() {
+  SaveYears->setEnabled(true);
+  Label1->show();
+  Rows->ShowReports();
+  if (const auto years = LoadYearsFile(state_.Choice.YearsFilePath)) Rows->SetYears(*years);
+  const auto row = LoadRememberedRace(state_.Choice.RememberedRaceFilePath);
+  if (row && Rows->IsShown(*row)) Rows->Player[static_cast<std::size_t>(*row)]->setChecked(true);
+}
+
+void OpenFile::RemRace_Click() {
+  const Result<void> saved =
+      SaveRememberedRace(state_.Choice.RememberedRaceFilePath, state_.Choice.MyRaceRow);
+  prompts_.Inform(saved ? "Your Race number has been remembered" : saved.Message());
+}
+
+void OpenFile::SaveYears_Click() {
+  const Result<void> saved = SaveYearsFile(state_.Choice.YearsFilePath, Rows->Years());
+  prompts_.Inform(saved ? "Year Information saved" : saved.Message());
+}
+
+void OpenFile::txtSOI_Change() {
+  if (!IsSoiTooLarge(ToText(txtSOI->text()))) return;
+  prompts_.Inform("Maximum SOI must be 500ly");
+  txtSOI->setText(QString::number(kLargestSoiSetting));
+}
+
+void OpenFile::Command1_Click() {
+  const OpenProblem problem =
+      AcceptOpenInput(state_.Choice, {.Soi = ToText(txtSOI->text()),
+                                      .GameYear = ToText(txtGameYear->text()),
+                                      .Years = Rows->Years()});
+  if (problem.Message.empty()) {
+    state_.OpenDialogResult = 0;
+    accept();
+    return;
+  }
+  prompts_.Inform(problem.Message);
+  switch (problem.Remedy) {
+    case OpenRemedy::UseSmallestSoi:
+      txtSOI->setText(QString::number(kSmallestSoiSetting));
+      break;
+    case OpenRemedy::UseLargestSoi:
+      txtSOI->setText(QString::number(kLargestSoiSetting));
+      break;
+    case OpenRemedy::FindReportsAgain:
+      File1_Click();
+      break;
+    case OpenRemedy::None:
+      break;
+  }
+}
+
+void OpenFile::Command2_Click() { reject(); }
+
+void OpenFile::reject() {
+  state_.OpenDialogResult = 1;
+  QDialog::reject();
+}
+
+void OpenFile::closeEvent(QCloseEvent* event) {
+  isDiscarded_ = true;
+  QDialog::closeEvent(event);  // ends in reject
+}
+
+}  // namespace quorvane

@@ -1,0 +1,87 @@
+#pragma once
+
+#include <QDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <filesystem>
+
+#include "model/game_choice.h"
+#include "ui/prompts.h"
+
+class QBoxLayout;
+
+namespace quorvane {
+
+class ChoiceList;
+class DriveList;
+class FolderList;
+class ReportRows;
+
+/// What the open dialog works on; it outlives the dialog.
+struct OpenState {
+  GameChoice Choice;
+  /// The folder in which the dialog starts: the game's own, later that of the last chosen map.
+  std::filesystem::path StarsInstallDir;
+  /// 0: the choice is to be loaded; 1: cancelled.
+  int OpenDialogResult = 1;
+};
+
+/// The dialog "Open Stars! game files": choose a game's map, its reports, the user's own race, the
+/// years and the sphere of influence. Hidden between uses, so that everything stays as it was.
+class OpenFile : public QDialog {
+  Q_OBJECT
+
+ public:
+  OpenFile(OpenState& state, Prompts& prompts, QWidget* parent = nullptr);
+
+  /// Whether the close box was used: the next opening starts afresh.
+  bool IsDiscarded() const { return isDiscarded_; }
+
+  DriveList* Drive1 = nullptr;
+  FolderList* Dir1 = nullptr;
+  ChoiceList* File1 = nullptr;
+  ReportRows* Rows = nullptr;
+  QLabel* Label1 = nullptr;
+  QLabel* PLALabelText = nullptr;
+  QLineEdit* txtGameYear = nullptr;
+  QLineEdit* txtSOI = nullptr;
+  QPushButton* RemRace = nullptr;
+  QPushButton* SaveYears = nullptr;
+  QPushButton* Command1 = nullptr;
+  QPushButton* Command2 = nullptr;
+
+ public slots:
+  void reject() override;
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  void Build();
+  void AddFileChooser(QBoxLayout& column);
+  void AddReports(QBoxLayout& column);
+  void AddSettings(QBoxLayout& column);
+  void AddButtons(QBoxLayout& column);
+  void ConnectControls();
+  void ShowStartFolder();
+
+  void Drive1_Change();
+  void Dir1_Change();
+  void File1_Click();
+  void RemRace_Click();
+  void SaveYears_Click();
+  void txtSOI_Change();
+  void Command1_Click();
+  void Command2_Click();
+
+  void ClearReports();
+  void ShowOldReport();
+  void ShowNewReports();
+
+  OpenState& state_;
+  Prompts& prompts_;
+  bool isDiscarded_ = false;
+};
+
+}  // namespace quorvane

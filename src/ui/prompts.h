@@ -1,0 +1,17 @@
+#pragma once
+
+#include <string>
+
+namespace quorvane {
+
+/// How windows talk to the user. The program shows message boxes; tests answer from a script.
+class Prompts {
+ public:
+  virtual ~Prompts() = default;
+  /// Shows a message with an OK button.
+  virtual void Inform(const std::string& text) = 0;
+  /// Asks with Yes and No buttons. @return whether the answer was Yes
+  virtual bool AskYesNo(const std::string& title, const std::string& question) = 0;
+};
+
+}  // namespace quorvane

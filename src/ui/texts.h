@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QString>
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+#include "platform/files/files.h"
+
+namespace quorvane {
+
+/// The title of message boxes.
+inline constexpr const char* kProgramName = "Quorvane";
+
+inline QString ToQString(std::string_view text) {
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+inline QString PathText(const std::filesystem::path& path) { return ToQString(TextFromPath(path)); }
+inline std::string ToText(const QString& text) { return text.toStdString(); }
+inline std::filesystem::path ToPath(const QString& text) { return PathFromText(ToText(text)); }
+
+/// A text that a control shows as it stands, where "&" would otherwise mark an access key.
+inline QString WithoutAccessKeys(QString text) { return text.replace("&", "&&"); }
+
+/// The object name of a control array's member: `OvButt(4)`.
+inline QString IndexedName(const char* array, int index) {
+  return QString("%1(%2)").arg(array).arg(index);
+}
+
+}  // namespace quorvane

@@ -1,0 +1,13 @@
+// Window tests run with the program's own look on the offscreen platform.
+#include <gtest/gtest.h>
+
+#include <QApplication>
+
+#include "ui/theme.h"
+
+int main(int argc, char* argv[]) {
+  testing::InitGoogleTest(&argc, argv);
+  QApplication application(argc, argv);
+  quorvane::ApplyTheme(application);
+  return RUN_ALL_TESTS();
+}

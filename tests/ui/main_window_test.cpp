@@ -1,0 +1,214 @@
+#include "ui/main_window.h"
+
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QTest>
+#include <QTimer>
+#include <QToolButton>
+#include <tuple>
+
+#include "platform/toolkit/twips.h"
+#include "support/game_folder.h"
+#include "support/scripted_prompts.h"
+#include "support/window_driver.h"
+
+namespace quorvane {
+namespace {
+
+class MainWindowTest : public testing::Test {
+ protected:
+  MainWindowTest() : window(folder.Path(), &prompts) {
+    window.show();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+  }
+  WindowDriver Driver() { return WindowDriver(window); }
+
+  // "Load Data", and in the open dialog the map, a year and the load button.
+  void Load() {
+    QTimer::singleShot(0, &window, [this] {
+      WindowDriver dialog(*QApplication::activeModalWidget());
+      dialog.ClickEntry("File1", "Demo.MAP").Type("txtGameYear", "2450").Click("Command1");
+    });
+    Driver().Choose("mnuMap");
+  }
+
+  QImage Map() { return Driver().Find<PictureBox>("Universe").Surface().Picture(); }
+  bool IsBlank(const QImage& picture) {
+    QImage blank(picture.size(), picture.format());
+    blank.fill(Qt::black);
+    return picture == blank;
+  }
+
+  GameFolder folder;
+  ScriptedPrompts prompts;
+  Main window;
+};
+
+TEST_F(MainWindowTest, OpensWithoutAGame) {
+  WindowDriver driver = Driver();
+  EXPECT_EQ(window.windowTitle(), "Quorvane for Stars!   Version 1.6.8");
+  EXPECT_FALSE(driver.Action("mnuOver").isEnabled());
+  EXPECT_FALSE(driver.Action("mnuData").isEnabled());
+  EXPECT_TRUE(driver.Action("mnuMap").isEnabled());
+  EXPECT_FALSE(driver.IsEnabled("OvButt(4)"));
+  EXPECT_EQ(driver.Text("Combo1"), "Select a Race, then click Show Boundary");
+}
+
+TEST_F(MainWindowTest, LoadsTheGameChosenInTheDialog) {
+  Load();
+  EXPECT_EQ(prompts.Shown(), Texts());
+  WindowDriver driver = Driver();
+  EXPECT_EQ(window.windowTitle(), "Quorvane for Stars!   Version 1.6.8  { Demo.MAP  Year: 2450 }");
+  EXPECT_EQ(driver.Text("Race(0)"), "Humanoid");
+  EXPECT_EQ(driver.Text("RName(1)"), "Drask");
+  EXPECT_TRUE(driver.IsVisible("RaceC(1)"));
+  EXPECT_FALSE(driver.IsVisible("RaceC(2)"));
+  EXPECT_EQ(driver.Text("Combo1"), "Humanoid");
+  EXPECT_TRUE(driver.IsEnabled("OvButt(11)"));
+  EXPECT_TRUE(driver.Action("mnuStarGate").isEnabled());
+  EXPECT_TRUE(IsBlank(Map()));  // until an overlay is switched on
+  const QImage swatch = driver.Find<PictureBox>("RaceC(0)").Surface().Picture();
+  EXPECT_EQ(swatch.pixelColor(1, 1), QColor(255, 0, 0));
+}
+
+TEST_F(MainWindowTest, KeepsTheGameOnScreenWhenAnotherCannotBeLoaded) {
+  Load();
+  Driver().Click("OvButt(4)");
+  const QImage before = Map();
+  folder.Write("Demo.MAP", "#\r\nnothing\r\n");
+  Load();
+  EXPECT_EQ(prompts.Shown(), Texts{"Demo.MAP, line 2: the planet number is no number: nothing"});
+  EXPECT_EQ(Map(), before);
+  EXPECT_TRUE(Driver().Action("mnuOver").isEnabled());
+  EXPECT_EQ(window.Session().PlayerCount, 2);
+}
+
+TEST_F(MainWindowTest, CancelKeepsEverything) {
+  QTimer::singleShot(0, &window,
+                     [] { WindowDriver(*QApplication::activeModalWidget()).Click("Command2"); });
+  Driver().Choose("mnuMap");
+  EXPECT_EQ(window.Session().PlanetCount, 0);
+  EXPECT_FALSE(Driver().IsEnabled("OvButt(4)"));
+}
+
+TEST_F(MainWindowTest, ButtonsAndMenuItemsSwitchTogether) {
+  Load();
+  WindowDriver driver = Driver();
+  driver.Click("OvButt(4)");
+  EXPECT_TRUE(driver.Action("mnuToolBarBut(4)").isChecked());
+  EXPECT_FALSE(IsBlank(Map()));
+  EXPECT_EQ(window.Session().BordersCached, 1);
+  EXPECT_EQ(window.focusWidget(), &driver.Find("Universe"));
+  driver.Choose("mnuToolBarBut(4)");
+  EXPECT_FALSE(driver.IsDown("OvButt(4)"));
+  EXPECT_TRUE(IsBlank(Map()));
+  driver.Choose("mnuNames(0)").Choose("mnuNames(1)");
+  EXPECT_FALSE(driver.Action("mnuNames(0)").isChecked());
+  EXPECT_TRUE(driver.Action("mnuNames(1)").isChecked());
+  EXPECT_FALSE(IsBlank(Map()));
+  driver.Choose("mnuNames(1)");
+  EXPECT_TRUE(IsBlank(Map()));
+}
+
+TEST_F(MainWindowTest, ClearMapReleasesEverythingButTheZoom) {
+  Load();
+  WindowDriver driver = Driver();
+  driver.Click("OvButt(4)").Click("OvButt(2)").Choose("mnuTerrEdge").Choose("mnuNames(0)");
+  driver.Click("OvButt(0)");
+  EXPECT_TRUE(IsBlank(Map()));
+  for (const char* button : {"OvButt(0)", "OvButt(2)", "OvButt(4)"}) {
+    EXPECT_FALSE(driver.IsDown(button)) << button;
+  }
+  for (const char* item :
+       {"mnuToolBarButClear", "mnuToolBarBut(4)", "mnuTerrEdge", "mnuNames(0)"}) {
+    EXPECT_FALSE(driver.Action(item).isChecked()) << item;
+  }
+  driver.Choose("mnuToolBarButClear");
+  EXPECT_FALSE(driver.Action("mnuToolBarButClear").isChecked());
+}
+
+TEST_F(MainWindowTest, ZoomsByABoxAndScrollsWithTheArrowKeys) {
+  Load();
+  WindowDriver driver = Driver();
+  driver.Click("OvButt(4)");
+  const QImage full = Map();
+  driver.Press("Universe", Qt::Key_Right);
+  EXPECT_EQ(window.State().View.ViewXMin, 0);  // not zoomed
+  driver.Click("OvButt(1)");
+  EXPECT_EQ(Map(), full);
+  const int side = driver.Find("Universe").width();
+  driver.ClickAt("Universe", {side / 4, side / 4});
+  EXPECT_FALSE(driver.IsEnabled("OvButt(2)"));
+  driver.ClickAt("Universe", {side / 4, side / 4});  // no box yet: refused
+  EXPECT_EQ(window.State().ClickMode, kEndZoomBox);
+  driver.MoveTo("Universe", {side / 2, side / 3}).ClickAt("Universe", {side / 2, side / 3});
+  const MapView zoomed = window.State().View;
+  EXPECT_NEAR(zoomed.ViewXMin, 100, 1);
+  EXPECT_NEAR(zoomed.ViewXMax - zoomed.ViewXMin, 100, 1);
+  EXPECT_TRUE(driver.IsEnabled("OvButt(2)"));
+  EXPECT_NE(Map(), full);
+  const std::tuple<Qt::Key, Qt::KeyboardModifiers, int, int> moves[] = {
+      {Qt::Key_Right, Qt::NoModifier, 1, 0},
+      {Qt::Key_Down, Qt::ControlModifier, 0, 50},
+      {Qt::Key_Left, Qt::NoModifier, -1, 0},
+      {Qt::Key_A, Qt::NoModifier, 0, 0}};
+  for (const auto& [key, modifiers, dx, dy] : moves) {
+    const MapView before = window.State().View;
+    driver.Press("Universe", key, modifiers);
+    EXPECT_EQ(window.State().View.ViewXMin - before.ViewXMin, dx);
+    EXPECT_NEAR(window.State().View.ViewYMin - before.ViewYMin, dy, 1);
+  }
+  driver.Click("OvButt(1)");
+  EXPECT_EQ(Map(), full);
+  EXPECT_EQ(window.State().ZoomArmed, 0);
+}
+
+TEST_F(MainWindowTest, LaysOutItsPartsForItsOuterSize) {
+  WindowDriver driver = Driver();
+  const auto outerHeight = [this] { return TwipsFromPixels(window.frameGeometry().height()); };
+  for (const QSize size : {QSize(1280, 860), QSize(1000, 700), QSize(1400, 900), QSize(700, 400)}) {
+    window.resize(size);
+    const QRect map = driver.Find("Universe").geometry();
+    EXPECT_EQ(map.top(), 37);
+    EXPECT_EQ(map.width(), map.height());
+    EXPECT_NEAR(TwipsFromPixels(map.height()), outerHeight() - 1585, 8);
+    EXPECT_EQ(driver.Find("Detail").geometry().bottom(), map.bottom());
+    EXPECT_EQ(driver.Find("Universe2").geometry(), map);
+    EXPECT_NEAR(TwipsFromPixels(driver.Find("RaceC(8)").x()),
+                TwipsFromPixels(window.frameGeometry().width()) - 765, 8);
+  }
+  window.setMinimumSize(1, 1);
+  const QRect before = driver.Find("Universe").geometry();
+  window.resize(1000, 320);
+  EXPECT_EQ(driver.Find("Universe").geometry(), before);
+}
+
+TEST_F(MainWindowTest, RedrawsTheMapAtItsNewSize) {
+  Load();
+  Driver().Click("OvButt(4)");
+  window.resize(1100, 760);
+  EXPECT_EQ(Map().width(), Driver().Find("Universe").width());
+  EXPECT_FALSE(IsBlank(Map()));
+}
+
+TEST_F(MainWindowTest, ReleasesTheOverlaysWithTheNextLoad) {
+  Load();
+  WindowDriver driver = Driver();
+  driver.Click("OvButt(2)").Choose("mnuTerrEdge").Choose("mnuNames(0)");
+  Load();
+  EXPECT_FALSE(driver.IsDown("OvButt(2)"));
+  EXPECT_FALSE(driver.Action("mnuNames(0)").isChecked());
+  EXPECT_TRUE(driver.Action("mnuTerrEdge").isChecked());
+  EXPECT_TRUE(IsBlank(Map()));
+}
+
+TEST_F(MainWindowTest, SavesTheRaceColours) {
+  Load();
+  Driver().Choose("mnuSaveRaceC");
+  EXPECT_EQ(prompts.Shown(), Texts{"Current Colour settings saved"});
+  EXPECT_EQ(folder.Read("Demo.QVC"), "\"Humanoid\",1,255,0,0\r\n\"Drask\",2,0,255,0\r\n");
+}
+
+}  // namespace
+}  // namespace quorvane
