@@ -1,0 +1,57 @@
+# Installs what the build needs and this machine lacks. Sourced by run.sh and test.sh with the names
+# of further Debian packages; stops with one plain sentence where that is not possible.
+
+say() { printf '%s\n' "$*"; }
+stop() { printf '%s\n' "$*" >&2; exit 1; }
+
+# The packages of the list that are not installed.
+missing_packages() {
+  for package in "$@"; do
+    dpkg-query -W -f '${Status}' "$package" 2>/dev/null | grep -q 'install ok installed' ||
+      printf '%s ' "$package"
+  done
+}
+
+install_packages() {
+  command -v apt-get >/dev/null || {
+    say "This is no Debian system: please install cmake 3.25, ninja, a C++20 compiler, Qt 6.4 (with" \
+      "its SVG module), GoogleTest and Google Benchmark yourself."
+    return 0
+  }
+  missing=$(missing_packages "$@")
+  [ -n "$missing" ] || return 0
+  say "Installing: $missing"
+  if [ "$(id -u)" -eq 0 ]; then
+    run_as_root=
+  elif command -v sudo >/dev/null; then
+    run_as_root=sudo
+  else
+    stop "These packages are missing, and installing them needs root or sudo: $missing"
+  fi
+  $run_as_root env DEBIAN_FRONTEND=noninteractive apt-get update -qq ||
+    stop "The list of packages could not be fetched."
+  # shellcheck disable=SC2086 # one word for each package
+  $run_as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends \
+    $missing >/dev/null || stop "These packages could not be installed: $missing"
+}
+
+install_packages g++ cmake ninja-build qt6-base-dev qt6-svg-dev libqt6svg6 libgl-dev \
+  fonts-liberation libgtest-dev libbenchmark-dev "$@"
+
+# Configures and builds a preset; further words go to the configuration.
+build_preset() {
+  preset=$1
+  shift
+  cmake --preset "$preset" "$@" >"$(log_file configure)" 2>&1 || show_log configure
+  cmake --build --preset "$preset" >"$(log_file build)" 2>&1 || show_log build
+}
+
+log_file() {
+  mkdir -p build
+  printf 'build/%s.log' "$1"
+}
+
+show_log() {
+  cat "$(log_file "$1")" >&2
+  stop "The $1 step failed; what it said stands above."
+}
