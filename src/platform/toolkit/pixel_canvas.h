@@ -1,0 +1,68 @@
+#pragma once
+
+#include <QPointF>
+#include <QRgb>
+#include <QSize>
+#include <optional>
+#include <vector>
+
+#include "render/drawing_surface.h"
+
+namespace quorvane {
+
+/// Pixels first … last of a row; none when last is before first.
+struct PixelSpan {
+  int First = 0;
+  int Last = -1;
+};
+
+/// The pixels of a round dot: those whose centres lie within half the diameter of the dot's centre.
+class DotMask {
+ public:
+  /// @param pictureWidth of the pictures that the dot is to be stamped into
+  DotMask(int diameter, int pictureWidth);
+
+  int Diameter() const { return static_cast<int>(rows_.size()); }
+  /// From the top row down, counted from the mask's left edge.
+  const std::vector<PixelSpan>& Rows() const { return rows_; }
+  /// All pixels, counted from the mask's top left corner through the rows of the picture: what
+  /// small dots are stamped with. Empty for a large dot, which is filled row by row.
+  const std::vector<qsizetype>& Offsets() const { return offsets_; }
+
+ private:
+  std::vector<PixelSpan> rows_;
+  std::vector<qsizetype> offsets_;
+};
+
+/// Draws hard-edged shapes straight into the pixels of an RGB32 picture, whose rows follow each
+/// other without gaps. Positions are in pixels, (0, 0) being the top left corner of the top left
+/// pixel; shapes may lie anywhere, what is outside is cut off, and a position that is no number
+/// draws nothing.
+class PixelCanvas {
+ public:
+  PixelCanvas(QRgb* pixels, QSize size, DrawMode mode)
+      : pixels_(pixels), width_(size.width()), height_(size.height()), mode_(mode) {}
+
+  /// One dot; its mask keeps its shape wherever the dot lies.
+  void Dot(double x, double y, const DotMask& mask, QRgb colour);
+  /// A line with round ends, as wide as the mask.
+  void Line(QPointF from, QPointF to, const DotMask& mask, QRgb colour);
+  /// A circle with an outline centred on the radius and a filled inside, either of which may be
+  /// missing. However small it is, an outline shows at least one pixel.
+  void Circle(QPointF centre, double radius, double outlineWidth, std::optional<QRgb> outline,
+              std::optional<QRgb> fill);
+
+ private:
+  // Row by row, cut to the picture.
+  void FillDot(double left, double top, const DotMask& mask, QRgb colour);
+  void Fill(int y, PixelSpan span, QRgb colour);
+  // The pixels of row y whose centres lie within the radius, cut to the picture.
+  PixelSpan SpanWithin(QPointF centre, double radius, int y) const;
+
+  QRgb* pixels_;
+  int width_;
+  int height_;
+  DrawMode mode_;
+};
+
+}  // namespace quorvane

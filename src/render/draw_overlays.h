@@ -1,0 +1,30 @@
+#pragma once
+
+#include "model/game_session.h"
+#include "model/progress.h"
+#include "render/drawing_surface.h"
+#include "render/map_view.h"
+#include "render/overlay_kind.h"
+
+namespace quorvane {
+
+/// Everything that one redraw of the map reads and draws on.
+struct MapDrawing {
+  /// Only `BordersCached` is written.
+  GameSession& Session;
+  const MapView& View;
+  const OverlaySwitches& Switches;
+  /// The map.
+  DrawingSurface& Universe;
+  /// Its twin of the same size, which is never shown and keeps the picture of the borders.
+  DrawingSurface& Universe2;
+  /// Told how far the painting of the borders is.
+  const ShowProgress& Progress;
+};
+
+/// Blanks the map and draws every overlay that is on, each over the previous ones, in one fixed
+/// order. The influence borders come first; their picture at full view is kept on the twin and used
+/// again while `BordersCached` is 1.
+void DrawOverlays(const MapDrawing& map);
+
+}  // namespace quorvane

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "model/game_session.h"
+#include "model/progress.h"
+#include "render/drawing_surface.h"
+#include "render/map_view.h"
+
+namespace quorvane {
+
+/// Paints every point of the influence grid in view as a dot in its holder's colour, dimmed by the
+/// strength of the hold. The dots overlap into closed areas. Points that nobody holds, or a player
+/// without a colour, stay as they are.
+void DrawInfluenceBorders(const GameSession& session, const MapView& view, DrawingSurface& surface,
+                          const ShowProgress& showProgress);
+
+/// Draws dots in the full race colours along both sides of every line where the holder of the
+/// influence grid changes.
+void DrawTerritoryEdges(const GameSession& session, const MapView& view, DrawingSurface& surface);
+
+}  // namespace quorvane

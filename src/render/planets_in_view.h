@@ -1,0 +1,23 @@
+#pragma once
+
+#include <vector>
+
+#include "model/game_session.h"
+#include "render/map_view.h"
+
+namespace quorvane {
+
+/// A planet that the map shows, and where it is drawn.
+struct PlanetInView {
+  const PlanetRecord& Planet;
+  SurfacePoint At;
+};
+
+/// Where a planet is drawn, whether or not the view shows that place.
+SurfacePoint PositionOf(const PlanetRecord& planet, const MapView& view);
+
+/// The planets strictly inside the view's window, in planet order. They refer to the session's
+/// records.
+std::vector<PlanetInView> PlanetsInView(const GameSession& session, const MapView& view);
+
+}  // namespace quorvane
