@@ -4,7 +4,6 @@
 #include <string>
 
 #include "loading/player_statistics.h"
-#include "loading/report_file.h"
 #include "loading/report_merge.h"
 #include "model/text.h"
 
@@ -17,8 +16,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const char* const names[] = {"A", "B", "A"};
   for (int i = 1; i <= 3; ++i) session.Planet(i)[quorvane::PlanetField::Name] = names[i - 1];
   quorvane::ReportMerge merge(session);
-  merge.AddOwnReport(quorvane::OwnReportLines(text), "2450");
-  merge.AddOtherReport(quorvane::OtherReportLines(text), text.substr(0, 5));
+  merge.AddOwnReport(text, "2450");
+  merge.AddOtherReport(text, text.substr(0, 5));
   quorvane::DiscoverPlayers(session);
   quorvane::GatherStatistics(session);
   for (int i = 1; i <= 3; ++i) quorvane::PlanetScore(session.Planet(i));

@@ -10,7 +10,6 @@
 #include "loading/map_file.h"
 #include "loading/player_statistics.h"
 #include "loading/race_colour_file.h"
-#include "loading/report_file.h"
 #include "loading/report_merge.h"
 #include "platform/files/files.h"
 
@@ -60,14 +59,14 @@ Result<void> MergeReports(GameSession& session) {
     const ReportFileSlot& own = session.ReportFiles.at(static_cast<std::size_t>(session.MyRaceRow));
     const Result<std::string> text = ReadReport(own);
     if (!text) return Failure{text.Message()};
-    merge.AddOwnReport(OwnReportLines(*text), own.Year);
+    merge.AddOwnReport(*text, own.Year);
   }
   for (int row = 1; row <= kMaxPlayers; ++row) {
     const ReportFileSlot& other = session.ReportFiles.at(static_cast<std::size_t>(row));
     if (row == session.MyRaceRow || !FieldValue(other.Included).ReadsAs(1)) continue;
     const Result<std::string> text = ReadReport(other);
     if (!text) return Failure{text.Message()};
-    merge.AddOtherReport(OtherReportLines(*text), other.Year);
+    merge.AddOtherReport(*text, other.Year);
   }
   return {};
 }

@@ -1,5 +1,8 @@
 #include "loading/report_file.h"
 
+#include <cstddef>
+#include <string>
+
 #include "model/data_items.h"
 #include "model/text.h"
 
@@ -9,34 +12,25 @@ namespace {
 // What follows the heading when that is read as one data item.
 std::string_view BehindHeading(std::string_view text) {
   DataItemReader reader(text);
-  reader.ReadText();
+  std::string heading;
+  reader.ReadLineItem(heading);
   return reader.Rest();
-}
-
-size_t CountLines(std::string_view rest) {
-  size_t count = 0;
-  for (; !rest.empty(); ++count) TakeLine(rest);
-  return count;
 }
 
 }  // namespace
 
-std::vector<std::string> OwnReportLines(std::string_view text) {
-  std::vector<std::string> lines;
-  for (std::string_view rest = BehindHeading(text); !rest.empty();) {
-    lines.emplace_back(TakeLine(rest));
-  }
-  return lines;
+void ForEachOwnReportLine(std::string_view text, const VisitReportLine& visit) {
+  for (std::string_view rest = BehindHeading(text); !rest.empty();) visit(TakeLine(rest));
 }
 
-std::vector<std::string> OtherReportLines(std::string_view text) {
-  const size_t count = CountLines(BehindHeading(text));
+void ForEachOtherReportLine(std::string_view text, const VisitReportLine& visit) {
   DataItemReader reader(text);
   reader.ReadWholeLine();
-  std::vector<std::string> lines;
-  lines.reserve(count);
-  while (lines.size() < count && !reader.IsExhausted()) lines.push_back(reader.ReadLineItem());
-  return lines;
+  std::string unquoted;
+  for (std::size_t left = CountLines(BehindHeading(text)); left > 0 && !reader.IsExhausted();
+       --left) {
+    visit(reader.ReadLineItem(unquoted));
+  }
 }
 
 }  // namespace quorvane

@@ -44,14 +44,14 @@ class ReportLine {
 
   /// How many fields the line has, at most 37; more are left out.
   std::size_t Count() const { return count_; }
-  std::string_view Text(std::size_t field) const {
-    return field < count_ ? fields_[field] : std::string_view();
-  }
+  std::string_view Text(std::size_t field) const;
   std::string_view Text(ReportField field) const { return Text(static_cast<std::size_t>(field)); }
   double Number(ReportField field) const { return NumericValue(Text(field)); }
-  /// The field as it is stored in a planet's record: its text, or an empty field.
-  FieldValue Value(std::size_t field) const;
-  FieldValue Value(ReportField field) const { return Value(static_cast<std::size_t>(field)); }
+  /// Stores the field in a planet's record: its text, or nothing where the line does not have it.
+  void CopyTo(FieldValue& target, std::size_t field) const;
+  void CopyTo(FieldValue& target, ReportField field) const {
+    CopyTo(target, static_cast<std::size_t>(field));
+  }
   /// Whether the whole field is this number; a missing field is 0.
   bool ReadsAs(std::size_t field, double number) const;
   bool ReadsAs(ReportField field, double number) const {
@@ -62,10 +62,11 @@ class ReportLine {
   std::optional<double> Age() const;
 
  private:
-  void Add(std::string_view text);
-
-  std::array<std::string_view, kReportFields> fields_;
-  std::size_t count_ = 0;
+  std::string_view line_;
+  /// Where each field ends; the next one begins behind it.
+  std::array<std::size_t, kReportFields + 1> ends_;
+  std::size_t splitCount_ = 0;
+  std::size_t count_ = 0;  // with the zeros behind a closing percentage, which are not in the line
 };
 
 }  // namespace quorvane

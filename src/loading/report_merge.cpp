@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "loading/report_file.h"
 #include "loading/sphere_of_influence.h"
 
 namespace quorvane {
@@ -14,11 +15,24 @@ constexpr const char* kRemoteMining = "Remote";
 std::size_t NumberOf(ReportField field) { return static_cast<std::size_t>(field); }
 std::size_t NumberOf(PlanetField field) { return static_cast<std::size_t>(field); }
 
-// Copies fields that stand side by side both in the line and in the record.
-void CopyFields(PlanetRecord& planet, PlanetField to, const ReportLine& line, ReportField from,
-                std::size_t count) {
-  for (std::size_t i = 0; i < count; ++i) {
-    planet.Field(NumberOf(to) + i) = line.Value(NumberOf(from) + i);
+// Fields that stand side by side both in the line and in the record.
+struct FieldCopy {
+  PlanetField To;
+  ReportField From;
+  std::size_t Count;
+};
+
+constexpr FieldCopy kCommonCopies[] = {
+    {PlanetField::Owner, ReportField::Owner, 2},  // and the starbase
+    {PlanetField::Mines, ReportField::Mines, 2},  // and the factories
+    {PlanetField::Resources, ReportField::Resources, 1},
+    {PlanetField::DefencePercent, ReportField::Defence, 4},  // and the three stored minerals
+    {PlanetField::IronMC, ReportField::IronMC, 3}};
+constexpr FieldCopy kEnvironmentCopy = {PlanetField::Gravity, ReportField::Gravity, 6};
+
+void CopyFields(PlanetRecord& planet, const ReportLine& line, const FieldCopy& copy) {
+  for (std::size_t i = 0; i < copy.Count; ++i) {
+    line.CopyTo(planet.Field(NumberOf(copy.To) + i), NumberOf(copy.From) + i);
   }
 }
 
@@ -26,17 +40,17 @@ void StoreMiningRates(PlanetRecord& planet, const ReportLine& line) {
   for (std::size_t mineral = 0; mineral < 3; ++mineral) {
     const std::size_t field = NumberOf(ReportField::IronMR) + mineral;
     FieldValue& rate = planet.Field(NumberOf(PlanetField::IronMR) + mineral);
-    rate = line.ReadsAs(field, -1) ? FieldValue(kRemoteMining) : line.Value(field);
+    line.CopyTo(rate, field);
+    if (line.ReadsAs(field, -1)) rate = kRemoteMining;
   }
 }
 
 // A starbase without colonists counts as populated.
-FieldValue PopulationOf(const ReportLine& line) {
+void StorePopulation(PlanetRecord& planet, const ReportLine& line) {
+  FieldValue& population = planet[PlanetField::Population];
   const std::string_view starbase = line.Text(ReportField::Starbase);
-  if (line.ReadsAs(ReportField::Population, 0) && starbase != kNoStarbase) {
-    return StarbasePopulation(starbase);
-  }
-  return line.Value(ReportField::Population);
+  line.CopyTo(population, ReportField::Population);
+  if (population.ReadsAs(0) && starbase != kNoStarbase) population = StarbasePopulation(starbase);
 }
 
 double UnlimitedWhenMinusOne(double reading) { return reading == -1 ? kUnlimitedGate : reading; }
@@ -45,15 +59,14 @@ double GateReading(const ReportLine& line, ReportField field) {
   return line.ReadsAs(field, -1) ? kUnlimitedGate : line.Number(field);
 }
 
-// Calls `merge` for every line that has fields and names a planet of the map.
+// Makes a line visitor that calls `merge` with every planet that a line names and the line.
 template <typename Merge>
-void ForEachPlanetLine(const std::vector<std::string>& lines, const PlanetIndex& index,
-                       const Merge& merge) {
-  for (const std::string& text : lines) {
+VisitReportLine MergeLines(const PlanetIndex& index, const Merge& merge) {
+  return [&index, merge](std::string_view text) {
     const ReportLine line(text);
-    if (line.Count() == 0) continue;
+    if (line.Count() == 0) return;
     for (const int number : index.Find(line.Text(ReportField::PlanetName))) merge(number, line);
-  }
+  };
 }
 
 }  // namespace
@@ -71,26 +84,28 @@ ReportMerge::ReportMerge(GameSession& session)
       index_(session),
       isKnown_(static_cast<std::size_t>(session.PlanetCount) + 1) {}
 
-void ReportMerge::AddOwnReport(const std::vector<std::string>& lines, std::string_view year) {
+void ReportMerge::AddOwnReport(std::string_view report, std::string_view year) {
   const double reportAge = session_.GameYear - NumericValue(year);
-  ForEachPlanetLine(lines, index_, [&](int number, const ReportLine& line) {
+  const auto merge = [&](int number, const ReportLine& line) {
     std::optional<double> age = line.Age();
     if (!age && IsKnown(number)) return;  // never dated: it serves only where nothing is known
     if (age) *age += reportAge;
     MergeOwnLine(session_.Planet(number), line, age);
     isKnown_.at(static_cast<std::size_t>(number)) = true;
-  });
+  };
+  ForEachOwnReportLine(report, MergeLines(index_, merge));
 }
 
-void ReportMerge::AddOtherReport(const std::vector<std::string>& lines, std::string_view year) {
+void ReportMerge::AddOtherReport(std::string_view report, std::string_view year) {
   const double reportAge = session_.GameYear - NumericValue(year);
-  ForEachPlanetLine(lines, index_, [&](int number, const ReportLine& line) {
+  const auto merge = [&](int number, const ReportLine& line) {
     // What others say of the user's own planets never replaces what the user knows.
     if (line.Text(ReportField::Owner) == session_.MyRaceName) return;
     std::optional<double> age = line.Age();
     if (age) *age += reportAge;
     MergeOtherLine(number, line, age);
-  });
+  };
+  ForEachOtherReportLine(report, MergeLines(index_, merge));
 }
 
 void ReportMerge::MergeOwnLine(PlanetRecord& planet, const ReportLine& line,
@@ -127,25 +142,16 @@ bool ReportMerge::IsNews(int number, std::optional<double> age) const {
 
 void ReportMerge::StoreCommonFields(PlanetRecord& planet, const ReportLine& line,
                                     std::optional<double> age) {
-  planet[PlanetField::Owner] = line.Value(ReportField::Owner);
-  planet[PlanetField::Starbase] = line.Value(ReportField::Starbase);
+  for (const FieldCopy& copy : kCommonCopies) CopyFields(planet, line, copy);
+  if (session_.ReportStyle == kNewReportStyle) CopyFields(planet, line, kEnvironmentCopy);
   planet[PlanetField::ReportAge] = age ? FieldValue(*age) : FieldValue();
   planet[PlanetField::AgeText] = age ? FieldValue(AgeTextOf(*age)) : FieldValue();
-  planet[PlanetField::Population] = PopulationOf(line);
+  StorePopulation(planet, line);
+  StoreMiningRates(planet, line);
   planet[PlanetField::SoiRadius] = SphereRadius({.Population = planet.Population(),
                                                  .Starbase = line.Text(ReportField::Starbase),
                                                  .Defence = line.Text(ReportField::Defence),
                                                  .SoiSetting = session_.SoiSetting});
-  planet[PlanetField::Mines] = line.Value(ReportField::Mines);
-  planet[PlanetField::Factories] = line.Value(ReportField::Factories);
-  planet[PlanetField::Resources] = line.Value(ReportField::Resources);
-  planet[PlanetField::DefencePercent] = line.Value(ReportField::Defence);
-  CopyFields(planet, PlanetField::StoredIron, line, ReportField::StoredIron, 3);
-  StoreMiningRates(planet, line);
-  CopyFields(planet, PlanetField::IronMC, line, ReportField::IronMC, 3);
-  if (session_.ReportStyle == kNewReportStyle) {
-    CopyFields(planet, PlanetField::Gravity, line, ReportField::Gravity, 6);
-  }
 }
 
 void ReportMerge::StoreOwnEnvironment(PlanetRecord& planet, const ReportLine& line) {

@@ -22,11 +22,11 @@ class ReportMerge {
  public:
   explicit ReportMerge(GameSession& session);
 
-  /// Merges the user's own report. `lines` are its lines behind the heading, `year` the report's
-  /// year as text. Sets `MyRaceName` from a planet that yields resources.
-  void AddOwnReport(const std::vector<std::string>& lines, std::string_view year);
-  /// Merges another player's report.
-  void AddOtherReport(const std::vector<std::string>& lines, std::string_view year);
+  /// Merges the text of the user's own report; `year` is the report's year as text. Sets
+  /// `MyRaceName` from a planet that yields resources.
+  void AddOwnReport(std::string_view report, std::string_view year);
+  /// Merges the text of another player's report.
+  void AddOtherReport(std::string_view report, std::string_view year);
 
  private:
   void MergeOwnLine(PlanetRecord& planet, const ReportLine& line, std::optional<double> age);

@@ -10,9 +10,11 @@ namespace {
 
 constexpr std::string_view kTextBlanks = " ";  // a TAB may be the first, empty field of a report
 constexpr std::string_view kNumberBlanks = " \t";
-constexpr std::string_view kLineEnds = "\r\n";
-constexpr std::string_view kItemEnds = ",\r\n";
-constexpr std::string_view kNumberEnds = ", \t\r\n";
+constexpr CharacterSet kItemEnds(",\r\n");
+constexpr CharacterSet kLineItemEnds(",\n");
+constexpr CharacterSet kNumberEnds(", \t\r\n");
+constexpr std::string_view kSeparators[] = {",", "\r\n", "\n", "\r"};
+constexpr CharacterSet kQuote("\"");
 
 // The game's family of file formats drops the 0 before the point.
 std::string DataNumberText(double number) {
@@ -53,13 +55,14 @@ FieldValue DataItemReader::ReadField() {
   return number;
 }
 
-std::string DataItemReader::ReadLineItem() {
+std::string_view DataItemReader::ReadLineItem(std::string& unquoted) {
   Skip(kTextBlanks);
-  std::string line;
-  if (rest_.starts_with('"')) line = TakeQuoted();
-  line += TakeUntil(kItemEnds);
-  ConsumeSeparator();
-  return line;
+  const bool isQuoted = rest_.starts_with('"');
+  if (isQuoted) unquoted = TakeQuoted();
+  std::string_view item = TakeUntil(kLineItemEnds);
+  if (rest_.starts_with('\n') && item.ends_with('\r')) item.remove_suffix(1);
+  if (!rest_.empty()) rest_.remove_prefix(1);
+  return isQuoted ? unquoted += item : item;
 }
 
 std::string_view DataItemReader::ReadWholeLine() { return TakeLine(rest_); }
@@ -68,24 +71,24 @@ void DataItemReader::Skip(std::string_view blanks) {
   rest_.remove_prefix(std::min(rest_.find_first_not_of(blanks), rest_.size()));
 }
 
-std::string_view DataItemReader::TakeUntil(std::string_view ends) {
-  const std::string_view taken = rest_.substr(0, rest_.find_first_of(ends));
+std::string_view DataItemReader::TakeUntil(const CharacterSet& ends) {
+  const std::string_view taken = rest_.substr(0, ends.FindIn(rest_));
   rest_.remove_prefix(taken.size());
   return taken;
 }
 
 std::string_view DataItemReader::TakeQuoted() {
   rest_.remove_prefix(1);
-  const std::string_view taken = TakeUntil("\"");
+  const std::string_view taken = TakeUntil(kQuote);
   if (!rest_.empty()) rest_.remove_prefix(1);
   return taken;
 }
 
 void DataItemReader::ConsumeSeparator() {
-  if (rest_.starts_with(',')) {
-    rest_.remove_prefix(1);
-  } else if (!rest_.empty() && kLineEnds.find(rest_.front()) != kLineEnds.npos) {
-    TakeLine(rest_);
+  for (const std::string_view separator : kSeparators) {
+    if (!rest_.starts_with(separator)) continue;
+    rest_.remove_prefix(separator.size());
+    return;
   }
 }
 

@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+#include "model/character_set.h"
 #include "model/field_value.h"
 #include "model/result.h"
 
@@ -32,13 +33,15 @@ class DataItemReader {
   FieldValue ReadField();
   /// A line read as one item: it ends at its first comma or line end; a quoted part at its front
   /// loses the quotes, and a comma inside them does not end it.
-  std::string ReadLineItem();
+  /// @param unquoted  holds the item where it had quotes
+  /// @return a view of the text or of `unquoted`
+  std::string_view ReadLineItem(std::string& unquoted);
   /// The rest of the current line as it stands; the reader goes on with the next line.
   std::string_view ReadWholeLine();
 
  private:
   void Skip(std::string_view blanks);
-  std::string_view TakeUntil(std::string_view ends);
+  std::string_view TakeUntil(const CharacterSet& ends);
   std::string_view TakeQuoted();
   void ConsumeSeparator();
 

@@ -4,6 +4,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <iterator>
 #include <limits>
 #include <system_error>
 
@@ -93,10 +94,14 @@ LeadingNumber ReadLeadingNumber(std::string_view text) {
 
 std::string WithoutBlanks(std::string_view text) {
   std::string kept;
-  for (const char c : text) {
-    if (!IsIgnored(c)) kept += c;
-  }
+  std::ranges::remove_copy_if(text, std::back_inserter(kept), IsIgnored);
   return kept;
+}
+
+// Calls `read` with the text without its blanks; most texts have none.
+template <typename Read>
+auto ReadWithoutBlanks(std::string_view text, const Read& read) {
+  return std::ranges::none_of(text, IsIgnored) ? read(text) : read(WithoutBlanks(text));
 }
 
 // Most fields are short whole numbers; reading those without the general grammar keeps a load of
@@ -127,15 +132,17 @@ double NumericValue(std::string_view text) {
   if (first == text.npos) return 0;
   const char start = text[first];
   if (!IsDigit(start) && !IsSign(start) && start != '.' && start != '&') return 0;
-  return ReadLeadingNumber(WithoutBlanks(text)).Value;
+  return ReadWithoutBlanks(text,
+                           [](std::string_view kept) { return ReadLeadingNumber(kept).Value; });
 }
 
 std::optional<double> WholeTextNumber(std::string_view text) {
   if (const auto value = ReadShortWhole(text)) return value;
-  const std::string kept = WithoutBlanks(text);
-  const LeadingNumber number = ReadLeadingNumber(kept);
-  if (number.Length == 0 || number.Length != kept.size()) return std::nullopt;
-  return number.Value;
+  return ReadWithoutBlanks(text, [](std::string_view kept) -> std::optional<double> {
+    const LeadingNumber number = ReadLeadingNumber(kept);
+    if (number.Length == 0 || number.Length != kept.size()) return std::nullopt;
+    return number.Value;
+  });
 }
 
 std::string NumberText(double value) {
@@ -157,6 +164,12 @@ std::string NumberText(double value) {
 
 std::string NumberTextWithLeadingBlank(double value) {
   return (value < 0 ? "" : " ") + NumberText(value);
+}
+
+void FieldValue::SetText(std::string_view text) {
+  number_ = NumericValue(text);
+  kind_ = FieldKind::Text;
+  text_.assign(text);
 }
 
 bool FieldValue::ReadsAs(double number) const {

@@ -42,6 +42,9 @@ class FieldValue {
       : number_(static_cast<double>(number)), kind_(FieldKind::Whole) {}
   FieldValue(double number) : number_(number), kind_(FieldKind::Real) {}  // NOLINT
 
+  /// The same as assigning the text, without making a text of its own first.
+  void SetText(std::string_view text);
+
   FieldKind Kind() const { return kind_; }
   bool IsEmpty() const { return kind_ == FieldKind::Empty; }
   /// The text of a text field; empty for every other kind.

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <cstring>
 
 namespace quorvane {
 namespace {
@@ -40,8 +41,21 @@ bool IsSecondByteAllowed(unsigned char lead, unsigned char second) {
   }
 }
 
+// How many bytes at the front of a text are plain ASCII. Eight at a time: reports are long and have
+// few others.
+size_t AsciiRun(std::string_view bytes) {
+  constexpr std::uint64_t kHighBits = 0x8080808080808080;
+  size_t run = 0;
+  for (std::uint64_t eight = 0; run + sizeof eight <= bytes.size(); run += sizeof eight) {
+    std::memcpy(&eight, bytes.data() + run, sizeof eight);
+    if ((eight & kHighBits) != 0) break;
+  }
+  while (run < bytes.size() && static_cast<unsigned char>(bytes[run]) < 0x80) ++run;
+  return run;
+}
+
 bool IsUtf8(std::string_view bytes) {
-  for (size_t i = 0; i < bytes.size();) {
+  for (size_t i = AsciiRun(bytes); i < bytes.size(); i += AsciiRun(bytes.substr(i))) {
     const auto lead = static_cast<unsigned char>(bytes[i]);
     const size_t length = SequenceLength(lead);
     if (length == 0 || i + length > bytes.size()) return false;
@@ -72,9 +86,14 @@ void AppendUtf8(std::string& text, unsigned codePoint) {
 std::string FromWindows1252(std::string_view bytes) {
   std::string text;
   text.reserve(bytes.size() + bytes.size() / 8);
-  for (const char c : bytes) {
-    const auto byte = static_cast<unsigned char>(c);
-    AppendUtf8(text, byte >= 0x80 && byte < 0xA0 ? kWindows1252[byte - 0x80] : byte);
+  while (!bytes.empty()) {
+    const size_t run = AsciiRun(bytes);
+    text += bytes.substr(0, run);
+    bytes.remove_prefix(run);
+    if (bytes.empty()) break;
+    const auto byte = static_cast<unsigned char>(bytes.front());
+    AppendUtf8(text, byte < 0xA0 ? kWindows1252[byte - 0x80] : byte);
+    bytes.remove_prefix(1);
   }
   return text;
 }
@@ -99,15 +118,16 @@ bool EqualIgnoringCase(std::string_view left, std::string_view right) {
 }
 
 std::string_view TakeLine(std::string_view& rest) {
-  const size_t end = std::min(rest.find_first_of("\r\n"), rest.size());
-  const std::string_view line = rest.substr(0, end);
-  rest.remove_prefix(end);
-  if (rest.starts_with("\r\n")) {
-    rest.remove_prefix(2);
-  } else if (!rest.empty()) {
-    rest.remove_prefix(1);
-  }
+  const size_t end = std::min(rest.find('\n'), rest.size());
+  std::string_view line = rest.substr(0, end);
+  rest.remove_prefix(std::min(end + 1, rest.size()));
+  if (line.ends_with('\r')) line.remove_suffix(1);
   return line;
+}
+
+size_t CountLines(std::string_view text) {
+  const auto lineEnds = static_cast<size_t>(std::ranges::count(text, '\n'));
+  return lineEnds + (text.empty() || text.ends_with('\n') ? 0 : 1);
 }
 
 std::string Excerpt(std::string_view text) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -17,8 +18,11 @@ std::string_view Trimmed(std::string_view text);
 /// file names.
 bool EqualIgnoringCase(std::string_view left, std::string_view right);
 
-/// Takes the next line off the front of `rest`, without its line end (CR LF, LF or CR).
+/// Takes the next line off the front of `rest`, without its line end (CR LF or LF).
 std::string_view TakeLine(std::string_view& rest);
+
+/// How many lines `TakeLine` takes off a text; one that ends without a line end counts.
+std::size_t CountLines(std::string_view text);
 
 /// The beginning of a text for a message, not longer than a message box can show.
 std::string Excerpt(std::string_view text);

@@ -28,7 +28,9 @@ TEST(ReportLine, GivesEmptyFieldsTheirStandIn) {
 TEST(ReportLine, KeepsOnlyFieldsThatATabCloses) {
   const ReportLine line("Alpha\tHumanoid\tlost");
   EXPECT_EQ(line.Count(), 2U);
-  EXPECT_TRUE(line.Value(ReportField::Starbase).IsEmpty());
+  FieldValue starbase = "of another planet";
+  line.CopyTo(starbase, ReportField::Starbase);
+  EXPECT_TRUE(starbase.IsEmpty());
   EXPECT_TRUE(line.ReadsAs(ReportField::Population, 0));
   EXPECT_FALSE(line.ReadsAs(ReportField::Population, -1));
   EXPECT_EQ(ReportLine("Alpha").Count(), 0U);
@@ -52,13 +54,22 @@ TEST(ReportLine, KnowsALineThatWasNeverDated) {
   EXPECT_EQ(ReportLine("a\tb\t").Age(), 0);
 }
 
+using Lines = std::vector<std::string>;
+
+template <typename ForEachLine>
+Lines LinesOf(const ForEachLine& forEachLine, std::string_view text) {
+  Lines lines;
+  forEachLine(text, [&](std::string_view line) { lines.emplace_back(line); });
+  return lines;
+}
+
 TEST(ReportLines, CountAHeadingWithACommaAsTheReportsReadIt) {
   const std::string_view text = "Name, Owner\r\na\t1\r\nb, c\t2\r\nd\t3";
-  EXPECT_EQ(OwnReportLines(text), (std::vector<std::string>{" Owner", "a\t1", "b, c\t2", "d\t3"}));
-  EXPECT_EQ(OtherReportLines(text), (std::vector<std::string>{"a\t1", "b", "c\t2", "d\t3"}));
-  EXPECT_EQ(OtherReportLines("Name\na\nb, c\nd\n"), (std::vector<std::string>{"a", "b", "c"}));
-  EXPECT_TRUE(OwnReportLines("Name").empty());
-  EXPECT_TRUE(OtherReportLines("").empty());
+  EXPECT_EQ(LinesOf(ForEachOwnReportLine, text), (Lines{" Owner", "a\t1", "b, c\t2", "d\t3"}));
+  EXPECT_EQ(LinesOf(ForEachOtherReportLine, text), (Lines{"a\t1", "b", "c\t2", "d\t3"}));
+  EXPECT_EQ(LinesOf(ForEachOtherReportLine, "Name\na\nb, c\nd\n"), (Lines{"a", "b", "c"}));
+  EXPECT_TRUE(LinesOf(ForEachOwnReportLine, "Name").empty());
+  EXPECT_TRUE(LinesOf(ForEachOtherReportLine, "").empty());
 }
 
 }  // namespace

@@ -23,11 +23,12 @@ TEST(DataItemReader, EndsEachItemWhereItsKindEnds) {
 
 TEST(DataItemReader, CutsAReportLineAtItsFirstCommaOutsideLeadingQuotes) {
   DataItemReader reader("\"Odd, name\"\tOwner\t7, rest\n\tempty first\r\nplain,\"x\"\n");
-  EXPECT_EQ(reader.ReadLineItem(), "Odd, name\tOwner\t7");
-  EXPECT_EQ(reader.ReadLineItem(), "rest");
-  EXPECT_EQ(reader.ReadLineItem(), "\tempty first");
-  EXPECT_EQ(reader.ReadLineItem(), "plain");
-  EXPECT_EQ(reader.ReadLineItem(), "x");
+  std::string unquoted;
+  EXPECT_EQ(reader.ReadLineItem(unquoted), "Odd, name\tOwner\t7");
+  EXPECT_EQ(reader.ReadLineItem(unquoted), "rest");
+  EXPECT_EQ(reader.ReadLineItem(unquoted), "\tempty first");
+  EXPECT_EQ(reader.ReadLineItem(unquoted), "plain");
+  EXPECT_EQ(reader.ReadLineItem(unquoted), "x");
   EXPECT_TRUE(reader.IsExhausted());
 }
 

@@ -21,10 +21,12 @@ TEST(DecodeText, ReadsBytesThatAreNoUtf8AsWindows1252) {
   for (const auto& [bytes, text] : cases) EXPECT_EQ(DecodeText(bytes), text);
 }
 
-TEST(TakeLine, KnowsEveryLineEnd) {
+TEST(TakeLine, KnowsBothLineEnds) {
   std::string_view rest = "a\r\nb\nc\rd\r\n\r\ne";
-  for (const char* line : {"a", "b", "c", "d", "", "e"}) EXPECT_EQ(TakeLine(rest), line);
+  EXPECT_EQ(CountLines(rest), 5U);
+  for (const char* line : {"a", "b", "c\rd", "", "e"}) EXPECT_EQ(TakeLine(rest), line);
   EXPECT_TRUE(rest.empty());
+  EXPECT_EQ(CountLines("a\n\n"), 2U);
 }
 
 TEST(Trimmed, DropsBlanksOnly) {
