@@ -1,3 +1,5 @@
+cmake_minimum_required(VERSION 3.25)
+
 # Every core folder includes only headers of the folders below it, and none of Qt's.
 # Run as: cmake -D SOURCE=<src folder> -P include_layers.cmake
 set(model_may_use model)

@@ -24,9 +24,12 @@ QPixmap Faded(const QPixmap& picture) {
 QIcon ThemedIcon(const char* name) { return QIcon(QString(":/icons/%1.svg").arg(name)); }
 
 QIcon OverlayIcon(int button, int side) {
-  QIcon icon(QString(":/icons/overlay_%1.svg").arg(button, 2, 10, QChar('0')));
-  for (const double ratio : {1.0, 2.0}) {
-    icon.addPixmap(Faded(icon.pixmap(QSize(side, side), ratio)), QIcon::Disabled);
+  const QIcon drawing(QString(":/icons/overlay_%1.svg").arg(button, 2, 10, QChar('0')));
+  QIcon icon;
+  for (const double ratio : {1.0, 2.0, 3.0}) {
+    const QPixmap picture = drawing.pixmap(QSize(side, side), ratio);
+    icon.addPixmap(picture);
+    icon.addPixmap(Faded(picture), QIcon::Disabled);
   }
   return icon;
 }

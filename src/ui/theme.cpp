@@ -22,7 +22,8 @@ QToolButton[overlay="true"] {
 QToolButton[overlay="true"]:hover { background: #404959; border-color: #5f6b80; }
 QToolButton[overlay="true"]:checked { background: #3d6ea5; border-color: #6fa0d8; }
 QToolButton[overlay="true"]:focus { border-color: #8fb8e8; }
-QToolButton[overlay="true"]:disabled { background: #2b303a; border-color: #353c48; }
+QToolButton[overlay="true"]:disabled {
+  background: #2b303a; border-color: #353c48; color: #7a8495; }
 QPushButton {
   background: #3a4250; border: 1px solid #505b6f; border-radius: 4px; padding: 4px 12px; }
 QPushButton:hover { background: #455064; }

@@ -7,6 +7,7 @@
 
 int main(int argc, char* argv[]) {
   testing::InitGoogleTest(&argc, argv);
+  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication application(argc, argv);
   quorvane::ApplyTheme(application);
   return RUN_ALL_TESTS();
