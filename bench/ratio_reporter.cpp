@@ -1,0 +1,48 @@
+#include "ratio_reporter.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <string_view>
+
+namespace quorvane {
+namespace {
+
+constexpr std::string_view kFast = "fast/";
+constexpr std::string_view kPlain = "plain/";
+
+}  // namespace
+
+void RatioReporter::ReportRuns(const std::vector<Run>& runs) {
+  ConsoleReporter::ReportRuns(runs);
+  for (const Run& run : runs) {
+    if (run.run_type != Run::RT_Iteration || run.error_occurred || run.iterations == 0) continue;
+    const double milliseconds =
+        run.cpu_accumulated_time * 1e3 / static_cast<double>(run.iterations);
+    const auto [place, isNew] = quickest_.try_emplace(run.run_name.function_name, milliseconds);
+    if (!isNew) place->second = std::min(place->second, milliseconds);
+  }
+}
+
+void RatioReporter::Finalize() {
+  ConsoleReporter::Finalize();
+  std::printf("\n%-30s %12s %12s %14s\n", "quickest run", "fast, ms", "plain, ms", "times faster");
+  for (const auto& [name, fast] : quickest_) {
+    if (!name.starts_with(kFast)) continue;
+    const std::string what = name.substr(kFast.size());
+    const auto plain = quickest_.find(std::string(kPlain) + what);
+    if (plain == quickest_.end()) continue;
+    std::printf("%-30s %12.2f %12.2f %14.1f\n", what.c_str(), fast, plain->second,
+                plain->second / fast);
+  }
+}
+
+int RunRatioBenchmarks(int argc, char** argv) {
+  benchmark::Initialize(&argc, argv);
+  if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
+  RatioReporter reporter;
+  benchmark::RunSpecifiedBenchmarks(&reporter);
+  benchmark::Shutdown();
+  return 0;
+}
+
+}  // namespace quorvane

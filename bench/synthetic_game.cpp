@@ -1,0 +1,131 @@
+#include "synthetic_game.h"
+
+#include <algorithm>
+#include <cmath>
+#include <random>
+#include <vector>
+
+#include "loading/sphere_of_influence.h"
+
+namespace quorvane {
+namespace {
+
+constexpr double kHomeWorldPopulation = 1'100'000;
+constexpr int kSmallestSettledRadius = 5;
+
+struct Place {
+  int X = 0;
+  int Y = 0;
+};
+
+// The standard distributions differ between libraries, the engine does not.
+class Dice {
+ public:
+  explicit Dice(std::uint32_t seed) : engine_(seed) {}
+
+  /// 0 (included) … 1 (excluded).
+  double Fraction() { return static_cast<double>(engine_()) / 4294967296.0; }
+  int Below(int limit) { return static_cast<int>(Fraction() * limit); }
+  Place PlaceIn(int width) {
+    const int x = Below(width);
+    return {x, Below(width)};
+  }
+
+ private:
+  std::mt19937 engine_;
+};
+
+double Distance(const Place& a, const Place& b) {
+  const double dx = a.X - b.X;
+  const double dy = a.Y - b.Y;
+  return std::sqrt(dx * dx + dy * dy);
+}
+
+// Home worlds lie apart: each is the one of a few random places that has most room around it.
+std::vector<Place> ChooseHomeWorlds(const InfluenceGameShape& shape, Dice& dice) {
+  constexpr int kCandidates = 30;
+  std::vector<Place> homeWorlds;
+  const auto room = [&](const Place& place) {
+    double nearest = shape.Width;
+    for (const Place& other : homeWorlds) nearest = std::min(nearest, Distance(place, other));
+    return nearest;
+  };
+  while (homeWorlds.size() < static_cast<std::size_t>(shape.Players)) {
+    Place best = dice.PlaceIn(shape.Width);
+    for (int i = 1; i < kCandidates; ++i) {
+      const Place candidate = dice.PlaceIn(shape.Width);
+      if (room(candidate) > room(best)) best = candidate;
+    }
+    homeWorlds.push_back(best);
+  }
+  return homeWorlds;
+}
+
+// The player whose home world is nearest, give or take: borders are ragged.
+int ChooseOwner(const Place& place, const std::vector<Place>& homeWorlds, Dice& dice) {
+  int owner = 0;
+  double shortest = 0;
+  for (std::size_t i = 0; i < homeWorlds.size(); ++i) {
+    const double distance = Distance(place, homeWorlds[i]) * (1 + 0.4 * dice.Fraction());
+    if (owner == 0 || distance < shortest) {
+      owner = static_cast<int>(i) + 1;
+      shortest = distance;
+    }
+  }
+  return owner;
+}
+
+int RadiusOf(double population, int soiSetting, Dice& dice) {
+  constexpr std::string_view kDefences[] = {"97.92%", "76.21%", "38.50%", "0.00%", kUnknown};
+  const SphereInputs inputs = {.Population = population,
+                               .Starbase = dice.Below(3) == 0 ? "Space Station" : kNoStarbase,
+                               .Defence = kDefences[dice.Below(5)],
+                               .SoiSetting = soiSetting};
+  return std::max(SphereRadius(inputs), kSmallestSettledRadius);
+}
+
+void Settle(PlanetRecord& planet, int owner, double population, int soiSetting, Dice& dice) {
+  planet[PlanetField::OwnerIndex] = owner;
+  planet[PlanetField::Population] = population;
+  planet[PlanetField::SoiRadius] = RadiusOf(population, soiSetting, dice);
+}
+
+// Many colonies are young, few are as full as a home world.
+double ColonyPopulation(Dice& dice) {
+  const double share = dice.Fraction();
+  return kHomeWorldPopulation * share * share;
+}
+
+}  // namespace
+
+GameSession MakeInfluenceGame(const InfluenceGameShape& shape) {
+  Dice dice(shape.Seed);
+  GameSession session;
+  session.SoiSetting = shape.SoiSetting;
+  session.PlayerCount = shape.Players;
+  session.UniverseExtent = shape.Width + kUniverseOrigin;
+  session.GridCellSize = shape.Width / 650.0;
+  session.GridSize = static_cast<int>(std::floor(shape.Width / session.GridCellSize));
+  session.CreatePlanetTable(shape.Planets);
+  const std::vector<Place> homeWorlds = ChooseHomeWorlds(shape, dice);
+  for (int i = 1; i <= shape.Planets; ++i) {
+    const bool isHomeWorld = i <= shape.Players;
+    const Place place =
+        isHomeWorld ? homeWorlds.at(static_cast<std::size_t>(i) - 1) : dice.PlaceIn(shape.Width);
+    PlanetRecord& planet = session.Planet(i);
+    planet[PlanetField::Number] = i;
+    planet[PlanetField::X] = place.X;
+    planet[PlanetField::Y] = place.Y;
+    planet[PlanetField::OwnerIndex] = 0;
+    if (isHomeWorld) {
+      Settle(planet, i, kHomeWorldPopulation, shape.SoiSetting, dice);
+    } else if (shape.Players > 0 && dice.Fraction() < shape.SettledShare) {
+      const int owner =
+          shape.Clustered ? ChooseOwner(place, homeWorlds, dice) : 1 + dice.Below(shape.Players);
+      Settle(planet, owner, ColonyPopulation(dice), shape.SoiSetting, dice);
+    }
+  }
+  return session;
+}
+
+}  // namespace quorvane

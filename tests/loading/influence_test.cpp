@@ -1,0 +1,230 @@
+#include "loading/influence.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <random>
+#include <string>
+#include <tuple>
+#include <utility>
+#include <vector>
+
+#include "reference/plain_influence.h"
+#include "synthetic_game.h"
+
+namespace quorvane {
+namespace {
+
+struct Source {
+  int X;
+  int Y;
+  int Radius;
+  int Owner;
+};
+
+// A universe of 1300 light years, where a grid step is 2, with a sphere setting of 100.
+GameSession GameOf(const std::vector<Source>& sources) {
+  GameSession session = MakeInfluenceGame({.Width = 1300, .Planets = 0, .Players = 2});
+  session.CreatePlanetTable(static_cast<int>(sources.size()));
+  for (int i = 1; i <= session.PlanetCount; ++i) {
+    const Source& source = sources.at(static_cast<std::size_t>(i) - 1);
+    session.Planet(i)[PlanetField::X] = source.X;
+    session.Planet(i)[PlanetField::Y] = source.Y;
+    session.Planet(i)[PlanetField::SoiRadius] = source.Radius;
+    session.Planet(i)[PlanetField::OwnerIndex] = source.Owner;
+  }
+  return session;
+}
+
+InfluencePoint PointOf(GameSession session, int gx, int gy) {
+  ComputeInfluence(session, {});
+  return session.InfluenceGrid.At(gx, gy);
+}
+
+testing::AssertionResult SameInfluence(const GameSession& fast, const GameSession& plain) {
+  for (int gx = 0; gx <= plain.GridSize; ++gx) {
+    for (int gy = 0; gy <= plain.GridSize; ++gy) {
+      const InfluencePoint is = fast.InfluenceGrid.At(gx, gy);
+      const InfluencePoint mustBe = plain.InfluenceGrid.At(gx, gy);
+      if (is == mustBe) continue;
+      return testing::AssertionFailure()
+             << "point " << gx << ", " << gy << " is (" << is.Holder << ", " << is.Strength
+             << "), must be (" << mustBe.Holder << ", " << mustBe.Strength << ")";
+    }
+  }
+  for (int player = 0; player <= kMaxPlayers; ++player) {
+    if (!(fast.Player(player) == plain.Player(player))) {
+      return testing::AssertionFailure() << "the territory of player " << player << " differs";
+    }
+  }
+  return testing::AssertionSuccess();
+}
+
+TEST(ComputeInfluence, LeavesEverythingEmptyWithoutOwnedSpheres) {
+  GameSession session = GameOf({{100, 100, 0, 1}, {300, 300, -5, 1}, {200, 200, 80, 0}});
+  ComputeInfluence(session, {});
+  EXPECT_EQ(session.InfluenceGrid, InfluenceGrid(650));
+  for (const PlayerRecord& player : session.PlayerTable) {
+    EXPECT_TRUE(player[PlayerField::Territory].IsEmpty());
+  }
+}
+
+TEST(ComputeInfluence, FadesOutBehindTheSphere) {
+  GameSession session = GameOf({{100, 100, 100, 1}, {1000, 1000, 30, 2}});
+  ComputeInfluence(session, {});
+  // Light years east of the planet, its radius being 100 and 30; (S x r) / d up to 100.
+  const std::tuple<int, InfluencePoint, InfluencePoint> cases[] = {
+      {0, {1, 100}, {2, 100}},  {30, {1, 100}, {2, 100}}, {32, {1, 100}, {2, 93}},
+      {100, {1, 100}, {2, 30}}, {102, {1, 94}, {2, 28}},  {124, {1, 6}, {2, 2}},
+      {126, {0, 0}, {0, 0}},    {200, {0, 0}, {0, 0}}};
+  for (const auto& [east, strong, weak] : cases) {
+    EXPECT_EQ(session.InfluenceGrid.At((100 + east) / 2, 50), strong) << east;
+    EXPECT_EQ(session.InfluenceGrid.At((1000 + east) / 2, 500), weak) << east;
+  }
+}
+
+TEST(ComputeInfluence, CountsPointsThatFadeToNothingForNobody) {
+  // Half a point of influence is left 113 light years away, and rounded to the even 0.
+  GameSession session = GameOf({{500, 500, 1, 1}});
+  ComputeInfluence(session, {});
+  EXPECT_EQ(session.InfluenceGrid.At(306, 250), (InfluencePoint{1, 1}));
+  EXPECT_EQ(session.InfluenceGrid.At(307, 250), (InfluencePoint{0, 0}));
+  GameSession plain = GameOf({{500, 500, 1, 1}});
+  reference::PlainComputeInfluence(plain);
+  EXPECT_GT(plain.Player(0)[PlayerField::Territory].Number(), 0);
+  EXPECT_TRUE(SameInfluence(session, plain));
+}
+
+TEST(ComputeInfluence, GivesEqualSumsToTheLowerNumber) {
+  EXPECT_EQ(PointOf(GameOf({{400, 500, 50, 2}, {600, 500, 50, 1}}), 250, 250).Holder, 1);
+  EXPECT_EQ(PointOf(GameOf({{400, 500, 51, 2}, {600, 500, 50, 1}}), 250, 250).Holder, 2);
+  // Far above the limit of 32767, sums are equal as well.
+  EXPECT_EQ(PointOf(GameOf({{500, 500, 900, 2}, {500, 500, 400, 1}}), 250, 250).Holder, 1);
+  EXPECT_EQ(PointOf(GameOf({{500, 500, 900, 2}, {500, 500, 320, 1}}), 250, 250).Holder, 2);
+}
+
+TEST(ComputeInfluence, RoundsHalvesOfTheSumInMapOrder) {
+  // At (500, 500) one of the planets gives 1 and the other ½.
+  const Source whole = {400, 500, 1, 1};
+  const Source half = {612, 514, 1, 1};
+  EXPECT_EQ(PointOf(GameOf({whole, half}), 250, 250).Strength, 2);
+  EXPECT_EQ(PointOf(GameOf({half, whole}), 250, 250).Strength, 1);
+}
+
+TEST(ComputeInfluence, LetsARoundedHalfDecideATie) {
+  // The grid is so fine that all of it lies at 0, 0. The second player's planet gives 2 there,
+  // those of the first 1 and ½.
+  const Source rival = {0, 50, 1, 2};
+  const Source whole = {-100, 0, 1, 1};
+  const Source half = {112, 14, 1, 1};
+  const std::pair<std::vector<Source>, int> cases[] = {{{rival, whole, half}, 1},
+                                                       {{rival, half, whole}, 2}};
+  for (const auto& [sources, holder] : cases) {
+    GameSession session = GameOf(sources);
+    session.GridCellSize = 0.0001;
+    ComputeInfluence(session, {});
+    EXPECT_EQ(session.Player(holder)[PlayerField::Territory].Number(), 651 * 651) << holder;
+  }
+}
+
+TEST(ComputeInfluence, ForgetsAnEarlierResult) {
+  GameSession session = GameOf({{400, 500, 50, 1}});
+  ComputeInfluence(session, {});
+  session.Planet(1)[PlanetField::OwnerIndex] = 2;
+  ComputeInfluence(session, {});
+  EXPECT_TRUE(session.Player(1)[PlayerField::Territory].IsEmpty());
+  EXPECT_EQ(session.InfluenceGrid.At(200, 250).Holder, 2);
+}
+
+TEST(ComputeInfluence, ShowsProgressEveryTenColumns) {
+  const std::tuple<int, int> cases[] = {{1300, 650}, {5700, 649}};
+  for (const auto& [width, gridSize] : cases) {
+    GameSession session = MakeInfluenceGame({.Width = width, .Planets = 3, .Players = 2});
+    ASSERT_EQ(session.GridSize, gridSize);
+    std::vector<int> mustBe = {0};
+    for (int column = 0; column <= gridSize; column += 10) mustBe.push_back(column);
+    mustBe.push_back(gridSize + 1);
+    std::vector<int> shown;
+    ComputeInfluence(session, [&, most = gridSize + 1](int value, int maximum) {
+      EXPECT_EQ(maximum, most);
+      shown.push_back(value);
+    });
+    EXPECT_EQ(shown, mustBe);
+  }
+}
+
+TEST(ComputeInfluence, CopesWithPlanetsFarOutsideTheUniverse) {
+  GameSession fast = MakeInfluenceGame({.Width = 31700, .Planets = 4, .Players = 4});
+  const std::pair<int, int> positions[] = {
+      {-32768, -32768}, {32767, 32767}, {-32768, 32767}, {31760, -60}};
+  for (int i = 1; i <= 4; ++i) {
+    fast.Planet(i)[PlanetField::X] = positions[i - 1].first;
+    fast.Planet(i)[PlanetField::Y] = positions[i - 1].second;
+  }
+  GameSession plain = fast;
+  ComputeInfluence(fast, {});
+  reference::PlainComputeInfluence(plain);
+  EXPECT_EQ(fast.InfluenceGrid.At(650, 0).Holder, 4);
+  EXPECT_TRUE(SameInfluence(fast, plain));
+}
+
+// What is done to a made-up game, to make it harder.
+using Twist = std::function<void(PlanetRecord&, std::mt19937&)>;
+
+const std::pair<const char*, Twist> kTwists[] = {
+    {"as it is", [](PlanetRecord&, std::mt19937&) {}},
+    {"hardly any influence",
+     [](PlanetRecord& planet, std::mt19937& dice) {
+       planet[PlanetField::SoiRadius] = static_cast<int>(dice() % 6);
+     }},
+    {"sums beyond the limit",
+     [](PlanetRecord& planet, std::mt19937& dice) {
+       planet[PlanetField::SoiRadius] = static_cast<int>(300 + dice() % 3 * 100);
+       planet[PlanetField::X] = planet.X() / 2;
+     }},
+    {"exact halves and equal sums",
+     [](PlanetRecord& planet, std::mt19937& dice) {
+       planet[PlanetField::SoiRadius] = static_cast<int>(1 + dice() % 2) * 25;
+       planet[PlanetField::X] = planet.X() / 60 * 60;
+       planet[PlanetField::Y] = planet.Y() / 60 * 60;
+     }},
+    {"planets without owner, and of players without record",
+     [](PlanetRecord& planet, std::mt19937& dice) {
+       planet[PlanetField::OwnerIndex] = static_cast<int>(dice() % (kMaxPlayers + 1));
+     }},
+};
+
+// Any game of the series: the number decides everything about it.
+GameSession DrawGame(unsigned number, const Twist& twist) {
+  std::mt19937 dice(number);
+  const auto between = [&](int low, int high) {
+    return low + static_cast<int>(dice() % static_cast<unsigned>(high - low + 1));
+  };
+  constexpr int kSettings[] = {10, 50, 100, 500};
+  const bool isWholeGrid = number % 8 == 0;
+  GameSession session = MakeInfluenceGame(
+      {.Width = number % 16 == 0 ? 5700 : between(100, isWholeGrid ? 2000 : 1000),
+       .Planets = between(0, isWholeGrid ? 100 : 200),
+       .Players = between(0, kMaxPlayers),
+       .SoiSetting = number % 2 == 0 ? kSettings[between(0, 3)] : between(50, 500),
+       .Clustered = number % 3 != 0,
+       .Seed = number});
+  if (!isWholeGrid) session.GridSize = between(0, 200);  // a corner of the universe
+  for (int i = 1; i <= session.PlanetCount; ++i) twist(session.Planet(i), dice);
+  return session;
+}
+
+TEST(ComputeInfluence, GivesWhatThePlainSumsGive) {
+  constexpr unsigned kGames = 150;
+  for (unsigned number = 0; number < kGames; ++number) {
+    const auto& [what, twist] = kTwists[number % std::size(kTwists)];
+    GameSession fast = DrawGame(number, twist);
+    GameSession plain = fast;
+    ComputeInfluence(fast, {});
+    reference::PlainComputeInfluence(plain);
+    EXPECT_TRUE(SameInfluence(fast, plain)) << "game " << number << ": " << what;
+  }
+}
+
+}  // namespace
+}  // namespace quorvane
