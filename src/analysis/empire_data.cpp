@@ -51,17 +51,14 @@ Result<std::string> EmpireDataText(const GameSession& session) {
 }
 
 Result<void> ReadEmpireDataFile(GameSession& session) {
-  if (!FindFile(session.EmpireDataFilePath)) return {};
-  const Result<std::string> text = ReadTextFile(session.EmpireDataFilePath);
+  const Result<std::string> text = ReadOptionalTextFile(session.EmpireDataFilePath);
   if (!text) return Failure{text.Message()};
   ApplyEmpireData(*text, session);
   return {};
 }
 
 Result<void> WriteEmpireDataFile(const GameSession& session) {
-  const Result<std::string> text = EmpireDataText(session);
-  if (!text) return Failure{text.Message()};
-  return ReplaceFile(session.EmpireDataFilePath, *text);
+  return SaveText(session.EmpireDataFilePath, EmpireDataText(session));
 }
 
 }  // namespace quorvane

@@ -20,9 +20,7 @@ RowYears ParseYears(std::string_view text) {
 }
 
 Result<void> SaveYearsFile(const std::filesystem::path& path, const RowYears& years) {
-  const Result<std::string> text = YearsText(years);
-  if (!text) return Failure{text.Message()};
-  return ReplaceFile(path, *text);
+  return SaveText(path, YearsText(years));
 }
 
 std::optional<RowYears> LoadYearsFile(const std::filesystem::path& path) {
@@ -34,8 +32,7 @@ std::optional<RowYears> LoadYearsFile(const std::filesystem::path& path) {
 Result<void> SaveRememberedRace(const std::filesystem::path& path, int row) {
   DataItemWriter writer;
   writer.Number(row).EndRecord();
-  const Result<std::string> text = writer.Finish();
-  return ReplaceFile(path, *text);
+  return SaveText(path, writer.Finish());
 }
 
 std::optional<int> LoadRememberedRace(const std::filesystem::path& path) {

@@ -130,8 +130,7 @@ std::string DrawingLayerText(const std::vector<DrawingRecord>& records) {
 }
 
 Result<std::vector<DrawingRecord>> ReadDrawingFile(const GameSession& session) {
-  if (!FindFile(session.DrawingFilePath)) return std::vector<DrawingRecord>();
-  const Result<std::string> text = ReadTextFile(session.DrawingFilePath);
+  const Result<std::string> text = ReadOptionalTextFile(session.DrawingFilePath);
   if (!text) return Failure{text.Message()};
   return ParseDrawing(*text);
 }

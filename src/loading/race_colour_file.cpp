@@ -74,17 +74,14 @@ Result<std::string> RaceColoursText(const GameSession& session) {
 }
 
 Result<void> ReadRaceColourFile(GameSession& session) {
-  if (!FindFile(session.RaceColourFilePath)) return {};
-  const Result<std::string> text = ReadTextFile(session.RaceColourFilePath);
+  const Result<std::string> text = ReadOptionalTextFile(session.RaceColourFilePath);
   if (!text) return Failure{text.Message()};
   ApplyRaceColours(*text, session);
   return {};
 }
 
 Result<void> WriteRaceColourFile(const GameSession& session) {
-  const Result<std::string> text = RaceColoursText(session);
-  if (!text) return Failure{text.Message()};
-  return ReplaceFile(session.RaceColourFilePath, *text);
+  return SaveText(session.RaceColourFilePath, RaceColoursText(session));
 }
 
 }  // namespace quorvane

@@ -18,7 +18,8 @@ void ApplyRaceColours(std::string_view text, GameSession& session);
 /// name holds a double quote, which the file cannot keep.
 Result<std::string> RaceColoursText(const GameSession& session);
 
-/// Reads the race colour file of the session's map; a missing file changes nothing.
+/// Reads the race colour file of the session's map; without one every player has the slot of the
+/// player's own number.
 Result<void> ReadRaceColourFile(GameSession& session);
 
 /// Writes the race colour file of the session's map, replacing it whole.

@@ -148,6 +148,15 @@ Result<std::string> ReadTextFile(const fs::path& path) {
   return DecodeText(std::move(bytes));
 }
 
+Result<std::string> ReadOptionalTextFile(const fs::path& path) {
+  return FindFile(path) ? ReadTextFile(path) : std::string();
+}
+
+Result<void> SaveText(const fs::path& path, const Result<std::string>& text) {
+  if (!text) return Failure{text.Message()};
+  return ReplaceFile(path, *text);
+}
+
 Result<void> ReplaceFile(const fs::path& path, std::string_view content) {
   std::error_code error;
   fs::path target = FindFile(path).value_or(path);

@@ -37,9 +37,14 @@ std::vector<std::string> FilesNamedLike(const std::filesystem::path& folder, std
 /// that is missing, no plain file, unreadable or larger than `kLargestTextFile`.
 Result<std::string> ReadTextFile(const std::filesystem::path& path);
 
+/// The same for a file that need not be there: a missing one gives an empty text.
+Result<std::string> ReadOptionalTextFile(const std::filesystem::path& path);
+
 /// Replaces a file whole: the new content is written beside it, flushed and renamed over it, so
 /// that the old file is unharmed until the new one is complete. A file that exists in another case
 /// keeps its name. Fails with name and reason.
 Result<void> ReplaceFile(const std::filesystem::path& path, std::string_view content);
+/// Replaces a file by a text that may have failed to come about; it then stays untouched.
+Result<void> SaveText(const std::filesystem::path& path, const Result<std::string>& text);
 
 }  // namespace quorvane
