@@ -14,12 +14,11 @@
 #include "loading/load_game.h"
 #include "loading/race_colour_file.h"
 #include "platform/toolkit/twips.h"
-#include "render/draw_overlays.h"
 #include "render/main_layout.h"
-#include "render/zoom_box.h"
 #include "ui/details_panel.h"
 #include "ui/labels.h"
 #include "ui/legend.h"
+#include "ui/map_panel.h"
 #include "ui/message_box_prompts.h"
 #include "ui/overlay_bar.h"
 #include "ui/pixel_rect.h"
@@ -33,28 +32,6 @@ constexpr QSize kFirstSize(1280, 860);
 // the layout was made for; a thicker frame must not push the status line out of sight.
 constexpr int kFrameTwips = 735;
 constexpr const char* kChooserText = "Select a Race, then click Show Boundary";
-constexpr Colour kZoomBoxColour = {150, 150, 150};
-
-std::optional<ScrollKey> ScrollKeyOf(int key) {
-  switch (key) {
-    case Qt::Key_Left:
-      return ScrollKey::Left;
-    case Qt::Key_Up:
-      return ScrollKey::Up;
-    case Qt::Key_Right:
-      return ScrollKey::Right;
-    case Qt::Key_Down:
-      return ScrollKey::Down;
-    default:
-      return std::nullopt;
-  }
-}
-
-int ShiftMaskOf(Qt::KeyboardModifiers modifiers) {
-  return (modifiers.testFlag(Qt::ShiftModifier) ? 1 : 0) +
-         (modifiers.testFlag(Qt::ControlModifier) ? 2 : 0) +
-         (modifiers.testFlag(Qt::AltModifier) ? 4 : 0);
-}
 
 // Controls that the arrow keys belong to while they have the focus.
 bool UsesArrowKeys(const QWidget* widget) {
@@ -70,12 +47,6 @@ QSize AreaSize(QSize frame, QSize needed, int scrollBar) {
   const bool isHigh = needed.height() > frame.height() - (isWide ? scrollBar : 0);
   const QSize room = frame - QSize(isHigh ? scrollBar : 0, isWide ? scrollBar : 0);
   return room.expandedTo(needed);
-}
-
-PictureBox* NewMap(const char* name, QWidget* area) {
-  auto* map = new PictureBox(area);
-  map->setObjectName(name);
-  return map;
 }
 
 }  // namespace
@@ -119,12 +90,7 @@ void Main::BuildArea() {
   Combo1->setEditText(kChooserText);
   Combo1->setEnabled(false);
   Combo1->setGeometry(PixelRect(RaceChooserRect()));
-  Universe = NewMap("Universe", area_);
-  Universe->setAccessibleName(tr("Map of the universe"));
-  Universe2 = NewMap("Universe2", area_);
-  Universe2->hide();
-  zoomBox_ = &Universe->AddOutline();
-  zoomBox_->OutlineColour = kZoomBoxColour;
+  Map = new MapPanel(*area_);
   RaceLegend = new Legend(*area_);
   Detail = new DetailsPanel(area_);
   XYCoord = NewValue("XYCoord", area_);
@@ -136,15 +102,17 @@ void Main::BuildArea() {
   ProgressBar1->setValue(0);
 
   connect(Overlays, &OverlayBar::Switched, this, [this](bool isButton) {
-    if (isButton) Universe->setFocus();
+    if (isButton) Map->Universe->setFocus();
     DrawOverlays();
   });
   connect(Combo1, &QComboBox::currentIndexChanged, this, &Main::Combo1_Click);
-  connect(Universe, &PictureBox::Resized, this, &Main::Universe_Resize);
-  connect(Universe, &PictureBox::MouseDown, this,
-          [this](int, int, double x, double y) { Universe_MouseDown(x, y); });
-  connect(Universe, &PictureBox::MouseMove, this,
-          [this](int, int, double x, double y) { Universe_MouseMove(x, y); });
+  connect(Map, &MapPanel::Resized, this, &Main::Map_Resized);
+  connect(Map, &MapPanel::ZoomBoxStarted, this,
+          [this] { Overlays->EnableButtons(kOverlayButtonCount, false); });
+  connect(Map, &MapPanel::ZoomBoxEnded, this, [this] {
+    Overlays->EnableButtons(kOverlayButtonCount);
+    DrawOverlays();
+  });
 }
 
 void Main::ConnectMenus() {
@@ -183,8 +151,7 @@ void Main::Form_Resize() {
   const QRect map = PixelRect(layout->Universe);
   QRect detail = PixelRect(layout->Detail);
   detail.moveBottom(map.bottom());  // lined up to the pixel, whatever the rounding
-  Universe->setGeometry(map);
-  Universe2->setGeometry(map);
+  Map->Place(map);
   Detail->setGeometry(detail);
   XYCoord->setGeometry(PixelRect(layout->XYCoord));
   theplanet->setGeometry(PixelRect(layout->ThePlanet));
@@ -192,9 +159,7 @@ void Main::Form_Resize() {
   RaceLegend->Place(*layout);
 }
 
-// The picture has a new size: the kept borders are of the old one.
-void Main::Universe_Resize() {
-  Universe2->Surface().Resize(Universe->size(), Universe->devicePixelRatioF());
+void Main::Map_Resized() {
   session_.BordersCached = 0;
   if (session_.PlanetCount > 0) DrawOverlays();
 }
@@ -210,35 +175,9 @@ bool Main::eventFilter(QObject* target, QEvent* event) {
 }
 
 bool Main::Form_KeyDown(int key, Qt::KeyboardModifiers modifiers) {
-  const std::optional<ScrollKey> scrollKey = ScrollKeyOf(key);
-  if (!scrollKey || !ScrollView(state_, *scrollKey, ShiftMaskOf(modifiers))) return false;
+  if (!Map->Scroll(key, modifiers)) return false;
   DrawOverlays();
   return true;
-}
-
-void Main::Universe_MouseDown(double x, double y) {
-  if (session_.PlanetCount == 0) return;
-  if (state_.ClickMode == kStartZoomBox) {
-    Overlays->EnableButtons(kOverlayButtonCount, false);
-    StartZoomBox(state_, {x, y});
-    zoomBox_->Left = x;
-    zoomBox_->Top = y;
-    zoomBox_->Width = 1;
-    zoomBox_->Height = 1;
-    zoomBox_->Visible = true;
-  } else if (state_.ClickMode == kEndZoomBox && EndZoomBox(state_, zoomBox_->Width)) {
-    zoomBox_->Visible = false;
-    Overlays->EnableButtons(kOverlayButtonCount);
-    DrawOverlays();
-  }
-  Universe->update();
-}
-
-void Main::Universe_MouseMove(double x, double) {
-  if (state_.ClickMode != kEndZoomBox) return;
-  zoomBox_->Width = ZoomBoxSide(zoomBox_->Left, x);
-  zoomBox_->Height = zoomBox_->Width;
-  Universe->update();
 }
 
 void Main::Combo1_Click() {
@@ -277,8 +216,6 @@ void Main::LoadChosenGame() {
 void Main::ShowLoadedGame() {
   ResetWindow();
   setWindowTitle(ToQString(MainCaption(QUORVANE_VERSION, &session_)));
-  state_ = MapState();
-  state_.View.ShowAll(session_.UniverseExtent);
   for (int player = 1; player <= session_.PlayerCount; ++player) {
     Combo1->addItem(ToQString(session_.Player(player).Name()));
   }
@@ -306,12 +243,7 @@ void Main::ResetWindow() {
   Overlays->Show(switches);
   Combo1->clear();
   Combo1->clearEditText();
-  zoomBox_->Visible = false;
-  for (PictureBox* map : {Universe, Universe2}) {
-    map->Surface().SetBackground(nullptr);
-    map->Surface().Clear();
-    map->update();
-  }
+  Map->ShowUniverse(session_.UniverseExtent);
 }
 
 void Main::DrawOverlays() {
@@ -320,11 +252,11 @@ void Main::DrawOverlays() {
   const QScopedValueRollback oneRedraw(isDrawing_, true);
   OverlaySwitches switches = Overlays->Switches();
   const bool isZoomIn = switches.IsOn(OverlayKind::ZoomIn);
-  if (ArmZoom(state_, isZoomIn)) {
+  if (Map->ArmZoom(isZoomIn)) {
     Detail->Tools->StopDrawing();
     return;
   }
-  if (LeaveZoom(state_, isZoomIn)) {
+  if (Map->LeaveZoom(isZoomIn)) {
     constexpr int kButtonsOfFullView = 11;  // the estimated habitability is left as it is
     Overlays->EnableButtons(kButtonsOfFullView);
     Detail->Tools->StopDrawing();
@@ -334,13 +266,7 @@ void Main::DrawOverlays() {
     Overlays->Show(switches);
   }
   switches.RaceName = ToText(Combo1->currentText());
-  quorvane::DrawOverlays({.Session = session_,
-                          .View = state_.View,
-                          .Switches = switches,
-                          .Universe = Universe->Surface(),
-                          .Universe2 = Universe2->Surface(),
-                          .Progress = ProgressDisplay()});
-  Universe->update();
+  Map->Draw(session_, switches, ProgressDisplay());
 }
 
 ShowProgress Main::ProgressDisplay() {

@@ -9,8 +9,6 @@
 
 #include "model/game_session.h"
 #include "model/progress.h"
-#include "platform/toolkit/picture_box.h"
-#include "render/map_state.h"
 #include "ui/main_menu.h"
 #include "ui/open_file.h"
 #include "ui/prompts.h"
@@ -21,6 +19,7 @@ namespace quorvane {
 
 class DetailsPanel;
 class Legend;
+class MapPanel;
 class OverlayBar;
 
 /// The program's one long-lived window: the map with its overlay switches, details, legend, status
@@ -43,11 +42,9 @@ class Main : public QMainWindow {
   void DrawOverlays();
 
   const GameSession& Session() const { return session_; }
-  const MapState& State() const { return state_; }
 
   MainMenu Menu;
-  PictureBox* Universe = nullptr;
-  PictureBox* Universe2 = nullptr;
+  MapPanel* Map = nullptr;
   OverlayBar* Overlays = nullptr;
   DetailsPanel* Detail = nullptr;
   Legend* RaceLegend = nullptr;
@@ -65,9 +62,7 @@ class Main : public QMainWindow {
   void Form_Load();
   void Form_Resize();
   bool Form_KeyDown(int key, Qt::KeyboardModifiers modifiers);
-  void Universe_MouseDown(double x, double y);
-  void Universe_MouseMove(double x, double y);
-  void Universe_Resize();
+  void Map_Resized();
   void Combo1_Click();
   void mnuHideSelect_Click();
   void mnuSaveRaceC_Click();
@@ -84,10 +79,8 @@ class Main : public QMainWindow {
   OpenState open_;
   std::unique_ptr<OpenFile> openFile_;
   GameSession session_;
-  MapState state_;
   QScrollArea* scroll_ = nullptr;
   QWidget* area_ = nullptr;
-  OutlineShape* zoomBox_ = nullptr;
   bool isDrawing_ = false;
 };
 

@@ -12,6 +12,7 @@
 #include "support/game_folder.h"
 #include "support/scripted_prompts.h"
 #include "support/window_driver.h"
+#include "ui/map_panel.h"
 
 namespace quorvane {
 namespace {
@@ -134,16 +135,16 @@ TEST_F(MainWindowTest, ZoomsByABoxAndScrollsWithTheArrowKeys) {
   driver.Click("OvButt(4)");
   const QImage full = Map();
   driver.Press("Universe", Qt::Key_Right);
-  EXPECT_EQ(window.State().View.ViewXMin, 0);  // not zoomed
+  EXPECT_EQ(window.Map->State().View.ViewXMin, 0);  // not zoomed
   driver.Click("OvButt(1)");
   EXPECT_EQ(Map(), full);
   const int side = driver.Find("Universe").width();
   driver.ClickAt("Universe", {side / 4, side / 4});
   EXPECT_FALSE(driver.IsEnabled("OvButt(2)"));
   driver.ClickAt("Universe", {side / 4, side / 4});  // no box yet: refused
-  EXPECT_EQ(window.State().ClickMode, kEndZoomBox);
+  EXPECT_EQ(window.Map->State().ClickMode, kEndZoomBox);
   driver.MoveTo("Universe", {side / 2, side / 3}).ClickAt("Universe", {side / 2, side / 3});
-  const MapView zoomed = window.State().View;
+  const MapView zoomed = window.Map->State().View;
   EXPECT_NEAR(zoomed.ViewXMin, 100, 1);
   EXPECT_NEAR(zoomed.ViewXMax - zoomed.ViewXMin, 100, 1);
   EXPECT_TRUE(driver.IsEnabled("OvButt(2)"));
@@ -154,14 +155,14 @@ TEST_F(MainWindowTest, ZoomsByABoxAndScrollsWithTheArrowKeys) {
       {Qt::Key_Left, Qt::NoModifier, -1, 0},
       {Qt::Key_A, Qt::NoModifier, 0, 0}};
   for (const auto& [key, modifiers, dx, dy] : moves) {
-    const MapView before = window.State().View;
+    const MapView before = window.Map->State().View;
     driver.Press("Universe", key, modifiers);
-    EXPECT_EQ(window.State().View.ViewXMin - before.ViewXMin, dx);
-    EXPECT_NEAR(window.State().View.ViewYMin - before.ViewYMin, dy, 1);
+    EXPECT_EQ(window.Map->State().View.ViewXMin - before.ViewXMin, dx);
+    EXPECT_NEAR(window.Map->State().View.ViewYMin - before.ViewYMin, dy, 1);
   }
   driver.Click("OvButt(1)");
   EXPECT_EQ(Map(), full);
-  EXPECT_EQ(window.State().ZoomArmed, 0);
+  EXPECT_EQ(window.Map->State().ZoomArmed, 0);
 }
 
 TEST_F(MainWindowTest, LaysOutItsPartsForItsOuterSize) {
