@@ -9,6 +9,8 @@ if [ -z "${DISPLAY:-}${WAYLAND_DISPLAY:-}${QT_QPA_PLATFORM:-}" ] && [ "$(uname)"
 fi
 
 . scripts/setup.sh
+# shellcheck disable=SC2086 # one word for each package
+install_packages $build_packages
 echo "Building Quorvane ..."
 build_preset release
 exec build/release/quorvane "$@"

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
+#include <iterator>
 #include <random>
 #include <vector>
 
@@ -125,6 +127,57 @@ GameSession MakeInfluenceGame(const InfluenceGameShape& shape) {
       Settle(planet, owner, ColonyPopulation(dice), shape.SoiSetting, dice);
     }
   }
+  return session;
+}
+
+namespace {
+
+// What is done to a made-up game, to make it harder.
+using Twist = std::function<void(PlanetRecord&, std::mt19937&)>;
+
+const Twist kTwists[] = {
+    // As it is.
+    [](PlanetRecord&, std::mt19937&) {},
+    // Hardly any influence.
+    [](PlanetRecord& planet, std::mt19937& dice) {
+      planet[PlanetField::SoiRadius] = static_cast<int>(dice() % 6);
+    },
+    // Sums beyond the limit.
+    [](PlanetRecord& planet, std::mt19937& dice) {
+      planet[PlanetField::SoiRadius] = static_cast<int>(300 + dice() % 3 * 100);
+      planet[PlanetField::X] = planet.X() / 2;
+    },
+    // Exact halves and equal sums.
+    [](PlanetRecord& planet, std::mt19937& dice) {
+      planet[PlanetField::SoiRadius] = static_cast<int>(1 + dice() % 2) * 25;
+      planet[PlanetField::X] = planet.X() / 60 * 60;
+      planet[PlanetField::Y] = planet.Y() / 60 * 60;
+    },
+    // Planets without owner, and of players without record.
+    [](PlanetRecord& planet, std::mt19937& dice) {
+      planet[PlanetField::OwnerIndex] = static_cast<int>(dice() % (kMaxPlayers + 1));
+    },
+};
+
+}  // namespace
+
+GameSession MakeAwkwardGame(unsigned number) {
+  const Twist& twist = kTwists[number % std::size(kTwists)];
+  std::mt19937 dice(number);
+  const auto between = [&](int low, int high) {
+    return low + static_cast<int>(dice() % static_cast<unsigned>(high - low + 1));
+  };
+  constexpr int kSettings[] = {10, 50, 100, 500};
+  const bool isWholeGrid = number % 8 == 0;
+  GameSession session = MakeInfluenceGame(
+      {.Width = number % 16 == 0 ? 5700 : between(100, isWholeGrid ? 2000 : 1000),
+       .Planets = between(0, isWholeGrid ? 100 : 200),
+       .Players = between(0, kMaxPlayers),
+       .SoiSetting = number % 2 == 0 ? kSettings[between(0, 3)] : between(50, 500),
+       .Clustered = number % 3 != 0,
+       .Seed = number});
+  if (!isWholeGrid) session.GridSize = between(0, 200);  // a corner of the universe
+  for (int i = 1; i <= session.PlanetCount; ++i) twist(session.Planet(i), dice);
   return session;
 }
 

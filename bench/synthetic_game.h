@@ -29,4 +29,8 @@ inline constexpr InfluenceGameShape kVastGame = {3200, 5000, 16};
 /// same game with every compiler and on every machine.
 GameSession MakeInfluenceGame(const InfluenceGameShape& shape);
 
+/// Any game of a series made to find mistakes: hardly any influence or far too much of it, exact
+/// halves, ties, missing owners, odd settings, whole grids and corners. The number decides all.
+GameSession MakeAwkwardGame(unsigned number);
+
 }  // namespace quorvane

@@ -1,5 +1,8 @@
-# Installs what the build needs and this machine lacks. Sourced by run.sh and test.sh with the names
-# of further Debian packages; stops with one plain sentence where that is not possible.
+# What run.sh, test.sh and the continuous integration share: installing what the build needs and this
+# machine lacks, and building. Every step that is not possible stops with one plain sentence.
+
+build_packages="g++ cmake ninja-build qt6-base-dev qt6-svg-dev libqt6svg6 libgl-dev fonts-liberation
+  libgtest-dev libbenchmark-dev"
 
 say() { printf '%s\n' "$*"; }
 stop() { printf '%s\n' "$*" >&2; exit 1; }
@@ -34,9 +37,6 @@ install_packages() {
   $run_as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends \
     $missing >/dev/null || stop "These packages could not be installed: $missing"
 }
-
-install_packages g++ cmake ninja-build qt6-base-dev qt6-svg-dev libqt6svg6 libgl-dev \
-  fonts-liberation libgtest-dev libbenchmark-dev "$@"
 
 # Configures and builds a preset; further words go to the configuration.
 build_preset() {

@@ -58,16 +58,6 @@ TEST_F(OpenDialogRules, AskOnlyWhenBothStylesAreThere) {
   EXPECT_EQ(questions, 2);
 }
 
-TEST_F(OpenDialogRules, KeepTheRowsOfAMapWithoutReports) {
-  Choose({"Demo.P1"});
-  ASSERT_TRUE(Find());
-  folder.Write("Empty.map", "");
-  ChooseMap(choice, folder / "Empty.map");
-  EXPECT_FALSE(Find());
-  EXPECT_EQ(choice.ReportFiles[1].Path, folder / "Demo.P1");
-  EXPECT_EQ(choice.EmpireDataFilePath, folder / "Empty.QVD");
-}
-
 struct Case {
   const char* What;
   std::function<void(GameChoice&, OpenInput&)> Change;

@@ -1,0 +1,163 @@
+#include "platform/toolkit/picture_surface.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <limits>
+#include <string>
+#include <tuple>
+
+namespace quorvane {
+namespace {
+
+constexpr Colour kRed = {255, 0, 0};
+constexpr Colour kBlue = {0, 0, 255};
+constexpr Pen kDiscs = {.Style = DrawStyle::NoOutline, .Filled = true};
+
+// A picture whose logical units are its pixels, so that drawings can be read off pixel by pixel.
+PictureSurface SmallPicture(int width, int height, double ratio = 1) {
+  return PictureSurface({width, height}, ratio, QSizeF(width, height));
+}
+
+// The pixels row by row: R for red, B for blue, '.' for black, '/' after a row.
+std::string Shown(const PictureSurface& surface) {
+  const QImage& picture = surface.Picture();
+  std::string shown;
+  for (int y = 0; y < picture.height(); ++y) {
+    if (y > 0) shown += '/';
+    for (int x = 0; x < picture.width(); ++x) {
+      const Colour colour = ColourFrom(picture.pixel(x, y));
+      shown += colour.Red > 0 ? 'R' : colour.Blue > 0 ? 'B' : '.';
+    }
+  }
+  return shown;
+}
+
+TEST(PictureSurface, DotsAreRoundKeepTheirShapeAndAreCutOffAtTheEdges) {
+  const std::tuple<int, SurfacePoint, const char*> cases[] = {
+      {1, {2.99, 2.0}, "...../...../..R../...../....."},
+      {2, {2.5, 2.5}, "...../...../..RR./..RR./....."},
+      {2, {2.4, 2.4}, "...../.RR../.RR../...../....."},
+      {3, {0, 0}, "RR.../RR.../...../...../....."},
+      {3, {4.5, 2.5}, "...../...RR/...RR/...RR/....."},
+      {4, {2.9, 2.9}, "...../..RR./.RRRR/.RRRR/..RR."},
+      {5, {2.5, 2.5}, ".RRR./RRRRR/RRRRR/RRRRR/.RRR."}};
+  for (const auto& [width, at, expected] : cases) {
+    PictureSurface surface = SmallPicture(5, 5);
+    surface.SetPen({.Width = width});
+    surface.Point(at, kRed);
+    EXPECT_EQ(Shown(surface), expected) << "width " << width << " at " << at.X << "," << at.Y;
+  }
+}
+
+TEST(PictureSurface, LargeDotsCoverEveryPixelWhoseCentreLiesWithinThem) {
+  for (const auto& [diameter, pixels] : {std::pair(32, 812), std::pair(33, 861)}) {
+    PictureSurface surface = SmallPicture(33, 33);
+    surface.SetPen({.Width = diameter});
+    surface.Point({16.5, 16.5}, kRed);
+    EXPECT_EQ(std::ranges::count(Shown(surface), 'R'), pixels);
+  }
+}
+
+TEST(PictureSurface, CirclesHaveAnOutlineOfThePensWidthAroundTheFillHoweverLargeOrSmall) {
+  const std::tuple<Pen, SurfacePoint, double, const char*> cases[] = {
+      {{.Filled = true}, {2.5, 2.5}, 2, ".RRR./RBBBR/RBBBR/RBBBR/.RRR."},
+      {{.Width = 2}, {2.5, 2.5}, 1.5, ".RRR./RRRRR/RR.RR/RRRRR/.RRR."},
+      {{.Filled = true}, {1.02, 1.98}, 0, "...../.R.../...../...../....."},
+      {kDiscs, {1.02, 1.98}, 0, "...../...../...../...../....."},
+      {kDiscs, {-1e8, 1.5}, 1e8 + 2, "BB.../BB.../BB.../BB.../BB..."}};
+  for (const auto& [pen, centre, radius, expected] : cases) {
+    PictureSurface surface = SmallPicture(5, 5);
+    surface.SetPen(pen);
+    surface.SetFillColour(kBlue);
+    surface.Circle(centre, radius, kRed);
+    EXPECT_EQ(Shown(surface), expected) << "radius " << radius;
+  }
+}
+
+TEST(PictureSurface, LinesRunFromEndToEndWithHardEdgesHoweverLong) {
+  PictureSurface surface = SmallPicture(5, 5);
+  surface.Line({0.5, 0.5}, {3.5, 3.5}, kRed);
+  surface.Line({4.5, 3.5}, {4.5, 1.5}, kBlue);
+  surface.Line({-1e12, 4.5}, {1e12, 4.5}, kBlue);
+  EXPECT_EQ(Shown(surface), "R..../.R..B/..R.B/...RB/BBBBB");
+}
+
+TEST(PictureSurface, NothingHappensFarOutsideAndForWhatIsNoNumber) {
+  constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
+  constexpr double kInfinity = std::numeric_limits<double>::infinity();
+  PictureSurface surface = SmallPicture(3, 3);
+  surface.SetPen({.Filled = true, .Width = 3});
+  for (const SurfacePoint place :
+       {SurfacePoint{-5, 2}, {2, 1e9}, {-1e300, 1e300}, {kNan, 2}, {2, kNan}, {-kInfinity, 2}}) {
+    surface.Point(place, kRed);
+    surface.Circle(place, 2, kRed);
+    surface.Line(place, {place.X * 1.5, place.Y}, kRed);
+  }
+  for (const double radius : {kNan, -1.0}) surface.Circle({1, 1}, radius, kRed);
+  EXPECT_EQ(Shown(surface), ".../.../...");
+}
+
+TEST(PictureSurface, MergedColoursAreTheBitwiseOr) {
+  PictureSurface surface = SmallPicture(9, 3);
+  surface.SetPen({.Width = 3});
+  surface.Point({2.5, 1.5}, {0x81, 0x0F, 0x00});
+  surface.SetPen({.Mode = DrawMode::Merge, .Style = DrawStyle::NoOutline, .Filled = true});
+  surface.SetFillColour({0x01, 0xF0, 0x40});
+  surface.Circle({3.5, 1.5}, 1.2, kBlue);
+  surface.Line({0, 0}, {8, 0}, kBlue);  // only a solid pen draws lines
+  surface.SetPen({.Mode = DrawMode::Merge});
+  surface.Line({0, 0}, {8, 0}, {0x0A, 0, 0});
+  EXPECT_EQ(surface.Picture().pixel(2, 1), qRgb(0x81, 0xFF, 0x40));
+  EXPECT_EQ(surface.Picture().pixel(4, 1), qRgb(0x01, 0xF0, 0x40)) << "on black";
+  EXPECT_EQ(surface.Picture().pixel(2, 0), qRgb(0x8B, 0x0F, 0));
+}
+
+TEST(PictureSurface, BackgroundLiesBelowAndClearingGoesBackToIt) {
+  PictureSurface surface = SmallPicture(2, 1);
+  surface.Point({0, 0}, kRed);
+  const auto image = surface.Image();
+  surface.Point({1, 0}, kBlue);
+  surface.SetBackground(image);
+  EXPECT_EQ(Shown(surface), "R.") << "the image alone, as it was when taken";
+  surface.Point({1, 0}, kBlue);
+  surface.Clear();
+  EXPECT_EQ(Shown(surface), "R.");
+  surface.SetBackground(nullptr);
+  EXPECT_EQ(Shown(surface), "..");
+}
+
+TEST(PictureSurface, ResizedPictureIsBlankKeepsThePenAndRefusesBackgroundsOfTheOldSize) {
+  PictureSurface surface = SmallPicture(2, 2);
+  surface.SetPen({.Width = 2});
+  surface.Point({1, 1}, kRed);
+  const auto image = surface.Image();
+  EXPECT_FALSE(surface.Resize({2, 2}, 1));
+  EXPECT_EQ(Shown(surface), "RR/RR");
+  EXPECT_TRUE(surface.Resize({3, 3}, 2));  // the scale and the pen of ordinary pixels stay
+  EXPECT_EQ(surface.WidthInTwips(), 45);
+  surface.SetBackground(image);
+  surface.Point({1, 1}, kBlue);
+  EXPECT_EQ(Shown(surface), "....../..BB../.BBBB./.BBBB./..BB../......");
+}
+
+TEST(PictureText, HangsFromItsTopLeftCornerAndIsAsWideAsItSaysAtEveryDensity) {
+  for (const int ratio : {1, 2}) {
+    PictureSurface surface({200, 60}, ratio, QSizeF(400, 120));
+    surface.SetFontSize(24);  // 32 pixels of an ordinary screen
+    surface.Print({40, 20}, "HAMLET");
+    QRect inked;
+    for (int y = 0; y < 60 * ratio; ++y) {
+      for (int x = 0; x < 200 * ratio; ++x) {
+        if ((surface.Picture().pixel(x, y) & 0xFFFFFF) != 0) inked |= QRect(x, y, 1, 1);
+      }
+    }
+    EXPECT_NEAR(inked.left(), 20 * ratio, 4 * ratio);
+    EXPECT_NEAR(inked.right(), (20 + surface.TextWidth("HAMLET") / 2) * ratio, 4 * ratio);
+    EXPECT_NEAR(inked.bottom(), (10 + 32 * 0.9) * ratio, 4 * ratio);
+    EXPECT_NEAR(inked.height(), 32 * 0.7 * ratio, 3 * ratio) << "capitals";
+  }
+}
+
+}  // namespace
+}  // namespace quorvane

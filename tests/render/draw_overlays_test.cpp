@@ -1,0 +1,85 @@
+#include "render/draw_overlays.h"
+
+#include <gtest/gtest.h>
+
+#include <initializer_list>
+
+#include "support/game_builder.h"
+#include "support/map_views.h"
+#include "support/recording_surface.h"
+
+namespace quorvane {
+namespace {
+
+using Kind = OverlayKind;
+
+class DrawOverlaysTest : public testing::Test {
+ protected:
+  DrawOverlaysTest() {
+    session.GridCellSize = 100;
+    session.CreateInfluenceGrid(2);
+    session.InfluenceGrid.At(2, 2) = {1, 100};
+  }
+
+  // Redraws with these overlays on and gives what the map was told.
+  Texts Redraw(std::initializer_list<Kind> kinds) {
+    OverlaySwitches switches;
+    for (const Kind kind : kinds) switches.Set(kind, true);
+    map.Forget();
+    DrawOverlays({session, view, switches, map, twin, [this](int, int) { hasProgress = true; }});
+    return map.Lines();
+  }
+
+  GameSession session = GameBuilder().Planet("Alpha", {1500, 1500}).OwnedBy("Humanoid").Build();
+  MapView view = FullView();
+  RecordingSurface map, twin;
+  bool hasProgress = false;
+};
+
+TEST_F(DrawOverlaysTest, DrawsFromTheBordersUpToTheTerritoryEdgesWhateverWasSwitchedOnFirst) {
+  const Texts lines = Redraw({Kind::TerritoryEdges, Kind::NamesWhite, Kind::OwnedPlanets,
+                              Kind::Planets, Kind::InfluenceBorders});
+  EXPECT_EQ(lines, (Texts{"background none", "clear", "point 2000,2000 #ff0000 copy w2",
+                          "circle 5000,5000 r20 #000000 fill #000000 copy solid w1",
+                          "circle 5000,5000 r10 #ffffff fill #ffffff copy solid w1",
+                          "circle 5000,5000 r40 #000000 fill #000000 copy solid w1",
+                          "circle 5000,5000 r30 #000000 fill #ff0000 copy solid w1",
+                          "text 4750,5050 \"Alpha\" #ffffff 6pt",  //
+                          "point 2000,2500 #ff0000 copy w1", "point 2500,2000 #ff0000 copy w1"}));
+  EXPECT_TRUE(hasProgress);
+}
+
+TEST_F(DrawOverlaysTest, FullViewOfTheBordersIsKeptWithoutTheOverlaysAboveAndUsedAgain) {
+  Redraw({Kind::InfluenceBorders, Kind::Planets});
+  EXPECT_EQ(twin.Lines(), Texts{"background of 1 lines"});
+  EXPECT_EQ(Redraw({Kind::InfluenceBorders}),
+            (Texts{"background none", "clear", "background of 1 lines"}));
+  EXPECT_EQ(Redraw({}), (Texts{"background none", "clear", "background none", "clear"}));
+}
+
+TEST_F(DrawOverlaysTest, BordersArePaintedAndNotKeptWhileZoomIsPressed) {
+  // There is no zoom box yet, so the view is the full one.
+  Redraw({Kind::InfluenceBorders, Kind::ZoomIn});
+  EXPECT_EQ(twin.Lines(), Texts());
+  EXPECT_EQ(session.BordersCached, 0);
+
+  Redraw({Kind::InfluenceBorders});
+  twin.Forget();
+  view = Zoomed(100, 100, 200);
+  EXPECT_EQ(Redraw({Kind::InfluenceBorders, Kind::ZoomIn}).at(2),
+            "point 5000,5000 #ff0000 copy w9");
+  EXPECT_EQ(twin.Lines(), Texts());
+  EXPECT_EQ(session.BordersCached, 1) << "the picture of the full view";
+}
+
+TEST_F(DrawOverlaysTest, EveryOverlayBearsAnEmptySession) {
+  session = GameSession();
+  view = MapView();
+  OverlaySwitches switches;
+  for (const OverlayTexts& texts : kOverlayTable) switches.Set(texts.Kind, true);
+  DrawOverlays({session, view, switches, map, twin, nullptr});
+  EXPECT_EQ(map.Lines(), (Texts{"background none", "clear"}));
+}
+
+}  // namespace
+}  // namespace quorvane

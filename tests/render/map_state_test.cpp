@@ -1,0 +1,57 @@
+#include "render/map_state.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+
+#include "support/map_views.h"
+
+namespace quorvane {
+namespace {
+
+std::array<int, 4> EdgesOf(const MapView& view) {
+  return {view.ViewXMin, view.ViewXMax, view.ViewYMin, view.ViewYMax};
+}
+
+TEST(MapState, ZoomIsArmedOnceAndKeepsTheViewUntilTheButtonIsReleased) {
+  MapState state = {.View = Zoomed(300, 400, 200)};
+  EXPECT_TRUE(ArmZoom(state, true));
+  EXPECT_EQ(state.ClickMode, kStartZoomBox);
+  state.ClickMode = kEndZoomBox;
+  EXPECT_FALSE(ArmZoom(state, true)) << "the next redraw draws";
+  EXPECT_FALSE(LeaveZoom(state, true));
+  EXPECT_EQ(state.ClickMode, kEndZoomBox);
+  EXPECT_EQ(EdgesOf(state.View), EdgesOf(Zoomed(300, 400, 200)));
+
+  EXPECT_FALSE(ArmZoom(state, false));
+  EXPECT_TRUE(LeaveZoom(state, false));
+  EXPECT_EQ(state.ClickMode, kOrdinaryClick);
+  EXPECT_EQ(state.View.MapScale, 10);
+  EXPECT_TRUE(ArmZoom(state, true)) << "again";
+}
+
+TEST(MapState, ZoomedMapScrollsByWholeStepsThatStayClearOfTheUniversesEdge) {
+  using Key = ScrollKey;
+  struct Case {
+    Key Pressed;
+    int ShiftMask, XMin, YMin, Dx, Dy;
+  };
+  // The scale is 50, a step 12.5 times the mask; ties go to even.
+  const Case cases[] = {{Key::Left, 0, 300, 400, -1, 0},  {Key::Down, 0, 300, 400, 0, 1},
+                        {Key::Right, 1, 300, 400, 12, 0}, {Key::Up, 7, 300, 400, 0, -88},
+                        {Key::Left, 2, 25, 400, 0, 0},    {Key::Left, 2, 26, 400, -25, 0},
+                        {Key::Up, 2, 300, 25, 0, 0},      {Key::Up, 2, 300, 26, 0, -25},
+                        {Key::Right, 2, 775, 400, 0, 0},  {Key::Right, 2, 774, 400, 25, 0},
+                        {Key::Down, 2, 300, 775, 0, 0},   {Key::Down, 2, 300, 774, 0, 25}};
+  for (const auto& [key, shiftMask, xMin, yMin, dx, dy] : cases) {
+    MapState state = {.View = Zoomed(xMin, yMin, 200), .ZoomArmed = 1};
+    EXPECT_TRUE(ScrollView(state, key, shiftMask)) << "redrawn, moved or not";
+    EXPECT_EQ(EdgesOf(state.View), EdgesOf(Zoomed(xMin + dx, yMin + dy, 200)))
+        << xMin << "," << yMin << " mask " << shiftMask;
+    state.ZoomArmed = 0;
+    EXPECT_FALSE(ScrollView(state, key, shiftMask)) << "not zoomed";
+  }
+}
+
+}  // namespace
+}  // namespace quorvane
