@@ -4,6 +4,7 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 seconds=${1:-60}
 
+mkdir -p build
 cmake --preset fuzz >build/fuzz-configure.log 2>&1 || { cat build/fuzz-configure.log; exit 1; }
 for target in fuzz_map fuzz_report fuzz_companions; do
   cmake --build --preset fuzz --target "$target" >build/fuzz-build.log 2>&1 ||
