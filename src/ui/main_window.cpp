@@ -1,5 +1,7 @@
 #include "ui/main_window.h"
 
+#include <QAbstractItemView>
+#include <QAction>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -9,6 +11,7 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <algorithm>
+#include <optional>
 #include <utility>
 
 #include "loading/load_game.h"
@@ -58,6 +61,7 @@ Main::Main(std::filesystem::path startFolder, Prompts* prompts)
   open_.StarsInstallDir = std::move(startFolder);
   setObjectName("Main");
   BuildArea();
+  ConnectParts();
   ConnectMenus();
   Form_Load();
   resize(kFirstSize);
@@ -100,19 +104,26 @@ void Main::BuildArea() {
   ProgressBar1->setAccessibleName(tr("Progress of loading and drawing"));
   ProgressBar1->setTextVisible(false);
   ProgressBar1->setValue(0);
+}
 
+void Main::ConnectParts() {
   connect(Overlays, &OverlayBar::Switched, this, [this](bool isButton) {
     if (isButton) Map->Universe->setFocus();
     DrawOverlays();
   });
   connect(Combo1, &QComboBox::currentIndexChanged, this, &Main::Combo1_Click);
   connect(Map, &MapPanel::Resized, this, &Main::Map_Resized);
-  connect(Map, &MapPanel::ZoomBoxStarted, this,
-          [this] { Overlays->EnableButtons(kOverlayButtonCount, false); });
+  connect(Map, &MapPanel::ZoomBoxStarted, this, [this] { EnableOverlays(false); });
   connect(Map, &MapPanel::ZoomBoxEnded, this, [this] {
-    Overlays->EnableButtons(kOverlayButtonCount);
+    EnableOverlays(true);
     DrawOverlays();
   });
+}
+
+// No overlay may change in the middle of a zoom.
+void Main::EnableOverlays(bool isEnabled) {
+  Overlays->EnableButtons(kOverlayButtonCount, isEnabled);
+  Menu.mnuOver->setEnabled(isEnabled);
 }
 
 void Main::ConnectMenus() {
@@ -225,13 +236,12 @@ void Main::ShowLoadedGame() {
 
   Combo1->setCurrentIndex(session_.PlayerCount > 0 ? 0 : -1);
   Combo1->setEnabled(true);
-  Overlays->EnableButtons(kOverlayButtonCount);
+  EnableOverlays(true);
   const bool isNewStyle = session_.ReportStyle == kNewReportStyle;
   Overlays->Item(OverlayKind::ValueAfterTerraforming).setEnabled(isNewStyle);
   Overlays->Item(OverlayKind::CompleteStargateNetwork).setEnabled(isNewStyle);
   Menu.mnuSaveRaceC->setEnabled(true);
   Menu.mnuData->setEnabled(true);
-  Menu.mnuOver->setEnabled(true);
 }
 
 // Every load begins with a blank map and all overlays released.

@@ -69,7 +69,9 @@ class Main : public QMainWindow {
   void mnuExit_Click();
 
   void BuildArea();
+  void ConnectParts();
   void ConnectMenus();
+  void EnableOverlays(bool isEnabled);
   void ShowLoadedGame();
   void ResetWindow();
   ShowProgress ProgressDisplay();

@@ -15,7 +15,9 @@ void MessageBoxPrompts::Inform(const std::string& text) {
 }
 
 bool MessageBoxPrompts::AskYesNo(const std::string& title, const std::string& question) {
-  QMessageBox box(QMessageBox::Question, ToQString(title), ToQString(question),
+  // The game's line end is two characters, the box's is one.
+  const QString shown = ToQString(question).replace("\r\n", "\n");
+  QMessageBox box(QMessageBox::Question, ToQString(title), shown,
                   QMessageBox::Yes | QMessageBox::No, Parent());
   box.setObjectName("MessageBox");
   box.setTextFormat(Qt::PlainText);

@@ -141,6 +141,7 @@ TEST_F(MainWindowTest, ZoomsByABoxAndScrollsWithTheArrowKeys) {
   const int side = driver.Find("Universe").width();
   driver.ClickAt("Universe", {side / 4, side / 4});
   EXPECT_FALSE(driver.IsEnabled("OvButt(2)"));
+  EXPECT_FALSE(driver.Action("mnuOver").isEnabled());
   driver.ClickAt("Universe", {side / 4, side / 4});  // no box yet: refused
   EXPECT_EQ(window.Map->State().ClickMode, kEndZoomBox);
   driver.MoveTo("Universe", {side / 2, side / 3}).ClickAt("Universe", {side / 2, side / 3});
