@@ -20,8 +20,8 @@ constexpr int kStripColumns = 10;  // the steps in which progress is shown
 constexpr int kSmallTile = 30;
 
 // Every planet with a sphere and an owner, in map order.
-std::vector<RadiatingPlanet> ListPlanets(const GameSession& session, InfluenceTables& tables) {
-  std::vector<RadiatingPlanet> planets;
+InfluenceList ListPlanets(const GameSession& session, InfluenceTables& tables) {
+  InfluenceList planets;
   for (int i = 1; i <= session.PlanetCount; ++i) {
     const PlanetRecord& planet = session.Planet(i);
     const auto whole = [&](PlanetField field) { return ToWhole16(planet[field].Number()); };
@@ -99,7 +99,7 @@ class InfluenceRun {
 
   GameSession& session_;
   InfluenceTables tables_;
-  std::vector<RadiatingPlanet> planets_;
+  InfluenceList planets_;
   std::vector<int> lines_;
   InfluenceSums sums_{tables_.Distances(), session_.PlayerCount};
   std::vector<InfluencePlace> places_;

@@ -21,7 +21,7 @@ struct SumBounds {
 // is negative, the bounds of the shares add up to bounds of the sums.
 // @param reaching  receives the planets that reach the area
 SumBounds BoundSums(std::span<const RadiatingPlanet> planets, const LightYearArea& area,
-                    InfluenceDistances distances, std::vector<RadiatingPlanet>& reaching) {
+                    InfluenceDistances distances, InfluenceList& reaching) {
   SumBounds bounds;
   for (const RadiatingPlanet& planet : planets) {
     const int nearX = area.X.Nearest(planet.X);

@@ -17,6 +17,9 @@ struct RadiatingPlanet {
   const InfluenceByDistance* Influence = nullptr;
 };
 
+/// Planets that radiate, in map order: where exact halves meet, the order decides the rounding.
+using InfluenceList = std::vector<RadiatingPlanet>;
+
 /// A range of whole light years in one direction, both ends included.
 struct LightYears {
   int First = 0;
@@ -36,7 +39,7 @@ struct LightYearArea {
 struct Contest {
   /// The planets that matter there, in map order: of those that reach the area, the ones of players
   /// whose sum may be the winning one at some point.
-  std::vector<RadiatingPlanet> Planets;
+  InfluenceList Planets;
   /// The player who is certain to reach the largest sum, the lower number among equals; 0: nobody
   /// is certain of any, and every planet that reaches the area matters.
   int Leader = 0;

@@ -17,13 +17,6 @@ static_assert(IsTableInOrder(), "buttons and menus find an overlay's texts by it
 
 }  // namespace
 
-void OverlaySwitches::Toggle(OverlayKind kind) {
-  const bool isOn = !IsOn(kind);
-  if (kind == OverlayKind::NamesColoured) Set(OverlayKind::NamesWhite, false);
-  if (kind == OverlayKind::NamesWhite) Set(OverlayKind::NamesColoured, false);
-  Set(kind, isOn);
-}
-
 void OverlaySwitches::ClearMap() {
   const bool isZoomed = IsOn(OverlayKind::ZoomIn);
   on_.reset();

@@ -87,9 +87,6 @@ class OverlaySwitches {
  public:
   bool IsOn(OverlayKind kind) const { return on_.test(static_cast<std::size_t>(kind)); }
   void Set(OverlayKind kind, bool isOn) { on_.set(static_cast<std::size_t>(kind), isOn); }
-  /// Turns a switch over, as a click does. Of the two kinds of names at most one is shown, so that
-  /// switching one on switches the other off.
-  void Toggle(OverlayKind kind);
   /// What Clear Map does: everything off, itself included, but the zoom stays as it is.
   void ClearMap();
   /// What every load does: all off but territory edges and empire expansion, which stay.

@@ -2,9 +2,10 @@
 
 #include <QGridLayout>
 #include <QVBoxLayout>
+#include <array>
 #include <span>
-#include <utility>
 
+#include "platform/toolkit/colours.h"
 #include "platform/toolkit/twips.h"
 #include "ui/labels.h"
 #include "ui/texts.h"
@@ -50,8 +51,37 @@ PictureBox* NewPie(const char* name, const QString& accessibleName, int left, QW
   pie->setObjectName(name);
   pie->setAccessibleName(accessibleName);
   pie->setFocusPolicy(Qt::NoFocus);
+  pie->Surface().SetPlainColour(ColourFrom(page->palette().color(QPalette::Window).rgb()));
   Place(*pie, left, kPieTop, kPieSide, kPieSide);
   return pie;
+}
+
+// One row of the minerals tab: a caption and the control names of its three values.
+struct MineralRow {
+  const char* Caption;
+  std::array<const char*, 3> Names;
+};
+
+void FillMineralTable(QWidget* table) {
+  constexpr std::array kHeadings = {"Mining:", "Conc.:", "Stored:"};
+  constexpr MineralRow kRows[] = {{"Ironium:", {"IronMR", "IronMCT", "IronS"}},
+                                  {"Boranium:", {"BoraMR", "BoraMCT", "BoraS"}},
+                                  {"Germanium:", {"GermMR", "GermMCT", "GermS"}}};
+  QGridLayout* grid = NewGrid(table);
+  grid->setContentsMargins(8, 0, 8, 0);
+  grid->setVerticalSpacing(0);
+  for (std::size_t i = 0; i < kHeadings.size(); ++i) {
+    const int column = static_cast<int>(i) + 1;
+    grid->addWidget(NewHeading(kHeadings[i], table), 0, column);
+    grid->setColumnStretch(column, 1);
+  }
+  for (const MineralRow& row : kRows) {
+    const int line = grid->rowCount();
+    grid->addWidget(NewCaption(row.Caption, table), line, 0);
+    for (std::size_t i = 0; i < row.Names.size(); ++i) {
+      grid->addWidget(NewValue(row.Names[i], table), line, static_cast<int>(i) + 1);
+    }
+  }
 }
 
 }  // namespace
@@ -83,13 +113,19 @@ void DetailsPanel::AddPlanetTab() {
   QGridLayout* grid = NewGrid(environment);
   grid->addWidget(NewHeading("Current", environment), 0, 1);
   grid->addWidget(NewHeading("Original", environment), 0, 2);
-  const std::pair<const char*, const char*> kinds[] = {
-      {"Gravity:", "Grav"}, {"Temperature:", "Temp"}, {"Radiation:", "Rad"}};
-  for (const auto& [caption, name] : kinds) {
+  struct Reading {
+    const char* Caption;
+    const char* Current;
+    const char* Original;
+  };
+  constexpr Reading kReadings[] = {{"Gravity:", "Grav1", "Grav2"},
+                                   {"Temperature:", "Temp1", "Temp2"},
+                                   {"Radiation:", "Rad1", "Rad2"}};
+  for (const Reading& reading : kReadings) {
     const int line = grid->rowCount();
-    grid->addWidget(NewCaption(caption, environment), line, 0);
-    grid->addWidget(NewValue(QString(name) + "1", environment), line, 1);
-    grid->addWidget(NewValue(QString(name) + "2", environment), line, 2);
+    grid->addWidget(NewCaption(reading.Caption, environment), line, 0);
+    grid->addWidget(NewValue(reading.Current, environment), line, 1);
+    grid->addWidget(NewValue(reading.Original, environment), line, 2);
   }
   grid->setColumnStretch(1, 1);
   grid->setColumnStretch(2, 1);
@@ -114,25 +150,7 @@ void DetailsPanel::AddMineralsTab() {
   Pie2 = NewPie("Pie2", tr("Stored minerals"), 2670, page);
 
   auto* table = new QWidget(page);
-  QGridLayout* grid = NewGrid(table);
-  grid->setContentsMargins(8, 0, 8, 0);
-  grid->setVerticalSpacing(0);
-  const std::pair<const char*, const char*> columns[] = {
-      {"Mining:", "MR"}, {"Conc.:", "MCT"}, {"Stored:", "S"}};
-  const std::pair<const char*, const char*> minerals[] = {
-      {"Ironium:", "Iron"}, {"Boranium:", "Bora"}, {"Germanium:", "Germ"}};
-  int column = 1;
-  for (const auto& [heading, ending] : columns) {
-    grid->addWidget(NewHeading(heading, table), 0, column);
-    grid->setColumnStretch(column, 1);
-    int line = 1;
-    for (const auto& [caption, mineral] : minerals) {
-      if (column == 1) grid->addWidget(NewCaption(caption, table), line, 0);
-      grid->addWidget(NewValue(QString(mineral) + ending, table), line, column);
-      ++line;
-    }
-    ++column;
-  }
+  FillMineralTable(table);
   Place(*table, 0, 2475, 4485, 1170);
   addTab(page, "Minerals");
 }

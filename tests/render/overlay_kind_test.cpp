@@ -18,17 +18,6 @@ Kinds KindsOn(const OverlaySwitches& switches) {
   return on;
 }
 
-TEST(OverlaySwitches, OneKindOfNamesReplacesTheOther) {
-  OverlaySwitches switches;
-  switches.Toggle(Kind::NamesColoured);
-  switches.Toggle(Kind::NamesWhite);
-  EXPECT_EQ(KindsOn(switches), Kinds{Kind::NamesWhite});
-  switches.Toggle(Kind::NamesColoured);
-  EXPECT_EQ(KindsOn(switches), Kinds{Kind::NamesColoured});
-  switches.Toggle(Kind::NamesColoured);
-  EXPECT_EQ(KindsOn(switches), Kinds());
-}
-
 TEST(OverlaySwitches, ClearMapLeavesTheZoomAndANewGameTerritoryEdgesAndEmpireExpansion) {
   OverlaySwitches cleared;
   for (const OverlayTexts& texts : kOverlayTable) cleared.Set(texts.Kind, true);

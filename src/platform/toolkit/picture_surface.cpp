@@ -25,10 +25,10 @@ class PictureImage : public SurfaceImage {
   QImage picture_;
 };
 
-QImage BlankPicture(QSize size, double ratio) {
+QImage BlankPicture(QSize size, double ratio, QRgb plain) {
   const QSize deviceSize = (QSizeF(size) * ratio).toSize().expandedTo({1, 1});
   QImage picture(deviceSize, QImage::Format_RGB32);
-  picture.fill(Qt::black);
+  picture.fill(plain);
   const int dotsPerMetre = qRound(kOrdinaryDotsPerInch * ratio * kInchesPerMetre);
   picture.setDotsPerMeterX(dotsPerMetre);
   picture.setDotsPerMeterY(dotsPerMetre);
@@ -52,6 +52,11 @@ bool PictureSurface::Resize(QSize size, double ratio) {
   ratio_ = ratio;
   MakePicture();
   return true;
+}
+
+void PictureSurface::SetPlainColour(Colour colour) {
+  plainColour_ = RgbOf(colour);
+  MakePicture();
 }
 
 void PictureSurface::Clear() { picture_ = background_; }
@@ -123,7 +128,7 @@ PixelCanvas PictureSurface::Canvas() {
 int PictureSurface::DevicePenWidth() const { return std::max(qRound(pen_.Width * ratio_), 1); }
 
 void PictureSurface::MakePicture() {
-  blank_ = BlankPicture(size_, ratio_);
+  blank_ = BlankPicture(size_, ratio_, plainColour_);
   deviceSize_ = blank_.size();
   background_ = blank_;
   picture_ = blank_;
