@@ -97,7 +97,7 @@ void AnalysePlayers(GameSession& session, const ShowProgress& showProgress) {
 }
 
 Result<void> ReadCompanions(GameSession& session) {
-  if (const Result<void> colours = ReadRaceColourFile(session); !colours) return colours;
+  if (Result<void> colours = ReadRaceColourFile(session); !colours) return colours;
   const Result<std::vector<DrawingRecord>> drawing = ReadDrawingFile(session);
   if (!drawing) return Failure{drawing.Message()};
   session.DrawingLayer = DrawingLayerText(*drawing);

@@ -30,7 +30,7 @@ bool DataItemReader::AtEnd() const { return rest_.find_first_not_of(" \t\r\n") =
 
 std::string DataItemReader::ReadText() {
   Skip(kTextBlanks);
-  const std::string text(rest_.starts_with('"') ? TakeQuoted() : TakeUntil(kItemEnds));
+  std::string text(rest_.starts_with('"') ? TakeQuoted() : TakeUntil(kItemEnds));
   Skip(kTextBlanks);
   ConsumeSeparator();
   return text;

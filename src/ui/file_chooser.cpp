@@ -70,8 +70,8 @@ void FolderList::Open(const QListWidgetItem& item) {
 void FolderList::AddFolder(const QString& name, const QString& path, int depth, bool isOnTheWay) {
   const QStyle::StandardPixmap icon =
       isOnTheWay ? QStyle::SP_DirOpenIcon : QStyle::SP_DirClosedIcon;
-  auto* item =
-      new QListWidgetItem(style()->standardIcon(icon), QString(2 * depth, ' ') + name, this);
+  auto* item = new QListWidgetItem(style()->standardIcon(icon),
+                                   QString(qsizetype{2} * depth, ' ') + name, this);
   item->setData(kPathRole, path);
   item->setToolTip(QDir::toNativeSeparators(path));
 }

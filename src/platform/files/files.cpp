@@ -90,7 +90,7 @@ std::optional<fs::path> FindFile(const fs::path& path) {
 }
 
 fs::path FolderIgnoringCase(const fs::path& parent, std::string_view name) {
-  const fs::path exact = parent / PathFromText(name);
+  fs::path exact = parent / PathFromText(name);
   std::error_code error;
   if (fs::is_directory(exact, error)) return exact;
   std::optional<fs::path> found;
@@ -133,7 +133,7 @@ Result<std::string> ReadTextFile(const fs::path& path) {
   if (error) return FileFailure(*found, "the file cannot be read", error);
   if (size > kLargestTextFile) {
     return Failure{TextFromPath(*found) + ": the file is too large to be one of the game's (" +
-                   std::to_string(size / (1024 * 1024)) + " MB)"};
+                   std::to_string(size / (1024ULL * 1024)) + " MB)"};
   }
   OpenFileHandle file = OpenForBytes(*found, false);
   if (!file) return FileFailure(*found, "the file cannot be opened", LastError());

@@ -12,7 +12,7 @@
 namespace quorvane {
 
 /// The largest file of text that the program reads; a game's own files are a hundred times smaller.
-inline constexpr std::uintmax_t kLargestTextFile = 8 * 1024 * 1024;
+inline constexpr std::uintmax_t kLargestTextFile = 8ULL * 1024 * 1024;
 
 /// Text in UTF-8 and paths, whatever the platform keeps paths in.
 std::filesystem::path PathFromText(std::string_view text);
