@@ -76,9 +76,13 @@ void ReadShape(DrawingFields& fields, DrawingRecord& record) {
   }
 }
 
+// Whether a text would be cut, or lose blanks at its ends, when it is read without quotes.
 bool NeedsQuotes(std::string_view text) {
-  return text.find(',') != text.npos || text.starts_with(' ') || text.ends_with(' ') ||
-         text.starts_with('\t') || text.ends_with('\t');
+  constexpr std::string_view kDroppedAtEnds = " \t";
+  if (text.empty()) return false;
+  return text.find_first_of(",\r\n") != text.npos ||
+         kDroppedAtEnds.find(text.front()) != kDroppedAtEnds.npos ||
+         kDroppedAtEnds.find(text.back()) != kDroppedAtEnds.npos;
 }
 
 std::string JoinFields(std::initializer_list<std::string> fields) {
