@@ -43,8 +43,8 @@ MapPanel::MapPanel(QWidget& area)
     : QObject(&area), Universe(NewMap("Universe", area)), Universe2(NewMap("Universe2", area)) {
   Universe->setAccessibleName(tr("Map of the universe"));
   Universe2->hide();
-  zoomBox_ = &Universe->AddOutline();
-  zoomBox_->OutlineColour = kZoomBoxColour;
+  ZoomBox = &Universe->AddOutline();
+  ZoomBox->OutlineColour = kZoomBoxColour;
   connect(Universe, &PictureBox::Resized, this, &MapPanel::Universe_Resize);
   connect(Universe, &PictureBox::MouseDown, this,
           [this](int, int, double x, double y) { Universe_MouseDown(x, y); });
@@ -60,7 +60,7 @@ void MapPanel::Place(const QRect& place) {
 void MapPanel::ShowUniverse(int universeExtent) {
   state_ = MapState();
   state_.View.ShowAll(universeExtent);
-  zoomBox_->Visible = false;
+  ZoomBox->Visible = false;
   for (PictureBox* map : {Universe, Universe2}) {
     map->Surface().SetBackground(nullptr);
     map->Surface().Clear();
@@ -87,14 +87,14 @@ void MapPanel::Draw(GameSession& session, const OverlaySwitches& switches,
 void MapPanel::Universe_MouseDown(double x, double y) {
   if (state_.ClickMode == kStartZoomBox) {
     StartZoomBox(state_, {x, y});
-    zoomBox_->Left = x;
-    zoomBox_->Top = y;
-    zoomBox_->Width = 1;
-    zoomBox_->Height = 1;
-    zoomBox_->Visible = true;
+    ZoomBox->Left = x;
+    ZoomBox->Top = y;
+    ZoomBox->Width = 1;
+    ZoomBox->Height = 1;
+    ZoomBox->Visible = true;
     emit ZoomBoxStarted();
-  } else if (state_.ClickMode == kEndZoomBox && EndZoomBox(state_, zoomBox_->Width)) {
-    zoomBox_->Visible = false;
+  } else if (state_.ClickMode == kEndZoomBox && EndZoomBox(state_, ZoomBox->Width)) {
+    ZoomBox->Visible = false;
     emit ZoomBoxEnded();
   }
   Universe->update();
@@ -102,8 +102,8 @@ void MapPanel::Universe_MouseDown(double x, double y) {
 
 void MapPanel::Universe_MouseMove(double x) {
   if (state_.ClickMode != kEndZoomBox) return;
-  zoomBox_->Width = ZoomBoxSide(zoomBox_->Left, x);
-  zoomBox_->Height = zoomBox_->Width;
+  ZoomBox->Width = ZoomBoxSide(ZoomBox->Left, x);
+  ZoomBox->Height = ZoomBox->Width;
   Universe->update();
 }
 

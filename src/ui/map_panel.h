@@ -32,6 +32,8 @@ class MapPanel : public QObject {
 
   PictureBox* Universe = nullptr;
   PictureBox* Universe2 = nullptr;
+  /// The area that is about to be shown, above the map while it is dragged.
+  OutlineShape* ZoomBox = nullptr;
 
  signals:
   /// The first corner of the zoom box was clicked.
@@ -47,7 +49,6 @@ class MapPanel : public QObject {
   void Universe_Resize();
 
   MapState state_;
-  OutlineShape* zoomBox_ = nullptr;
 };
 
 }  // namespace quorvane

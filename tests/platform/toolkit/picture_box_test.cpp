@@ -52,10 +52,5 @@ TEST_F(PictureBoxTest, ShapesAreShownAboveThePictureButAreNoPartOfIt) {
   EXPECT_EQ(box.Surface().Picture().pixel(50, 90), RgbOf({0, 0, 0}));
 }
 
-TEST(Twips, LengthsBecomeTheNearestPixels) {
-  const std::pair<double, int> cases[] = {{7, 0}, {8, 1}, {3416, 228}, {22.5, 2}, {-8, -1}};
-  for (const auto& [twips, pixels] : cases) EXPECT_EQ(PixelsFromTwips(twips), pixels) << twips;
-}
-
 }  // namespace
 }  // namespace quorvane
