@@ -24,6 +24,8 @@ double RoundToDecimals(double value, int decimals) {
   return RoundHalfEven(value * scale) / scale;
 }
 
+double TimesHundredths(double value, int hundredths) { return value * hundredths / 100; }
+
 std::int32_t ToWhole32(double value) { return CutToRange<std::int32_t>(RoundHalfEven(value)); }
 
 std::int16_t ToWhole16(double value) { return CutToRange<std::int16_t>(RoundHalfEven(value)); }

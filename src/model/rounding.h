@@ -11,6 +11,10 @@ double RoundHalfEven(double value);
 /// Rounds to a number of decimals (0 … 15), halves to the even neighbour: (0.125, 2) gives 0.12.
 double RoundToDecimals(double value, int decimals);
 
+/// value x hundredths / 100. Whole numbers give the decimal result to the digit, where a binary
+/// factor would miss it: 90 times 2.55 is 229.5 here, not a little less.
+double TimesHundredths(double value, int hundredths);
+
 /// `RoundHalfEven` into 32 bits; a value that does not fit gives the nearest one that does, and
 /// something that is no number gives 0.
 std::int32_t ToWhole32(double value);

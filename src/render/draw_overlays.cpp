@@ -2,9 +2,15 @@
 
 #include <optional>
 
+#include "render/hab_overlay.h"
 #include "render/influence_overlay.h"
+#include "render/mineral_overlay.h"
 #include "render/names_overlay.h"
 #include "render/planets_overlay.h"
+#include "render/population_overlay.h"
+#include "render/report_age_overlay.h"
+#include "render/scan_overlay.h"
+#include "render/stargate_overlay.h"
 
 namespace quorvane {
 namespace {
@@ -33,18 +39,23 @@ void DrawBorders(const MapDrawing& map) {
   map.Session.BordersCached = 1;
 }
 
-void DrawPlanetsLayer(const MapDrawing& map) { DrawPlanets(map.Session, map.View, map.Universe); }
-
-void DrawOwnedPlanetsLayer(const MapDrawing& map) {
-  DrawOwnedPlanets(map.Session, map.View, map.Universe);
+// An overlay that depends on nothing but the game and the view.
+template <auto DrawOverlay>
+void Draw(const MapDrawing& map) {
+  DrawOverlay(map.Session, map.View, map.Universe);
 }
 
-void DrawNamesLayer(const MapDrawing& map) {
+void DrawNames(const MapDrawing& map) {
   DrawPlanetNames(map.Session, map.View, map.Universe, map.Switches.IsOn(Kind::NamesColoured));
 }
 
-void DrawTerritoryEdgesLayer(const MapDrawing& map) {
-  DrawTerritoryEdges(map.Session, map.View, map.Universe);
+void DrawEstimatedHab(const MapDrawing& map) {
+  DrawEstimatedHabValues(map.Session, map.View, map.Universe, map.Switches.RaceName);
+}
+
+void DrawStargateLinks(const MapDrawing& map) {
+  DrawStargates(map.Session, map.View, map.Universe,
+                map.Switches.IsOn(Kind::CompleteStargateNetwork));
 }
 
 // One overlay above the borders: what switches it on and what draws it.
@@ -60,24 +71,24 @@ struct Layer {
 
 // The stack of overlays, the bottom one first.
 constexpr Layer kLayers[] = {
-    {Kind::ScannedPlanets, nullptr},
-    {Kind::SafeStargateDistances, nullptr, Kind::CompleteStargateNetwork},
-    {Kind::Planets, DrawPlanetsLayer},
-    {Kind::CurrentHabValues, nullptr},
-    {Kind::OwnedPlanets, DrawOwnedPlanetsLayer},
-    {Kind::DifficultyOfAttack, nullptr},
-    {Kind::Growth, nullptr},
+    {Kind::ScannedPlanets, Draw<DrawScannedPlanets>},
+    {Kind::SafeStargateDistances, DrawStargateLinks, Kind::CompleteStargateNetwork},
+    {Kind::Planets, Draw<DrawPlanets>},
+    {Kind::CurrentHabValues, Draw<DrawCurrentHabValues>},
+    {Kind::OwnedPlanets, Draw<DrawOwnedPlanets>},
+    {Kind::DifficultyOfAttack, Draw<DrawDifficultyOfAttack>},
+    {Kind::Growth, Draw<DrawGrowth>},
     {Kind::QvlDrawing, nullptr},
-    {Kind::EstimateHabValues, nullptr},
-    {Kind::NamesColoured, DrawNamesLayer, Kind::NamesWhite},
-    {Kind::IroniumConcentration, nullptr},
-    {Kind::BoraniumConcentration, nullptr},
-    {Kind::GermaniumConcentration, nullptr},
-    {Kind::AverageMineralConcentration, nullptr},
-    {Kind::ReportAgeOverlay, nullptr},
-    {Kind::ValueAfterTerraforming, nullptr},
-    {Kind::EmpireExpansion, nullptr},
-    {Kind::TerritoryEdges, DrawTerritoryEdgesLayer},
+    {Kind::EstimateHabValues, DrawEstimatedHab},
+    {Kind::NamesColoured, DrawNames, Kind::NamesWhite},
+    {Kind::IroniumConcentration, Draw<DrawIroniumConcentration>},
+    {Kind::BoraniumConcentration, Draw<DrawBoraniumConcentration>},
+    {Kind::GermaniumConcentration, Draw<DrawGermaniumConcentration>},
+    {Kind::AverageMineralConcentration, Draw<DrawAverageMineralConcentration>},
+    {Kind::ReportAgeOverlay, Draw<DrawReportAge>},
+    {Kind::ValueAfterTerraforming, Draw<DrawValueAfterTerraforming>},
+    {Kind::EmpireExpansion, Draw<DrawEmpireExpansion>},
+    {Kind::TerritoryEdges, Draw<DrawTerritoryEdges>},
 };
 
 }  // namespace

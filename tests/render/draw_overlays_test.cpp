@@ -72,6 +72,49 @@ TEST_F(DrawOverlaysTest, BordersArePaintedAndNotKeptWhileZoomIsPressed) {
   EXPECT_EQ(session.BordersCached, 1) << "the picture of the full view";
 }
 
+TEST_F(DrawOverlaysTest, StacksAllOverlaysInOneOrder) {
+  PlanetRecord& planet = session.Planet(1);
+  planet[PlanetField::AgeText] = "Current";
+  planet[PlanetField::HabValue] = "50";
+  planet[PlanetField::Population] = planet[PlanetField::Resources] = 100;
+  planet[PlanetField::IronMC] = planet[PlanetField::BoraMC] = planet[PlanetField::GermMC] = 40;
+  session.MyRaceName = "Humanoid";
+  OverlaySwitches switches;
+  for (const OverlayTexts& texts : kOverlayTable) switches.Set(texts.Kind, true);
+  switches.RaceName = "Humanoid";
+  DrawOverlays({session, view, switches, map, twin, nullptr});
+  Texts kinds;  // what is drawn at the planet, without its place
+  for (const std::string& line : map.Lines()) {
+    if (line.find("5000,5000 ") == std::string::npos) continue;
+    kinds.push_back(line.substr(line.find("5000,5000 ") + 10));
+  }
+  EXPECT_EQ(kinds, (Texts{"#ffff00 copy w4",                               // current report
+                          "r20 #000000 fill #000000 copy solid w1",        // planet
+                          "r10 #ffffff fill #ffffff copy solid w1",        //
+                          "r75 #00ff00 fill #00ff00 merge no-outline w1",  // its habitability
+                          "r40 #000000 fill #000000 copy solid w1",        // owner
+                          "r30 #000000 fill #ff0000 copy solid w1",        //
+                          "r50 #00ff00 fill #00ff00 copy solid w1",        // difficulty of attack
+                          "r50 #00ff00 fill #00ff00 copy solid w1",        // growth
+                          "r30 #ffff00 fill #ffff00 merge no-outline w1",  // estimated habitability
+                          "r40 #0000ff fill #0000ff merge no-outline w1",  // minerals, in its mode
+                          "r40 #00ff00 fill #00ff00 merge no-outline w1",  //
+                          "r40 #ffff00 fill #ffff00 merge no-outline w1",  //
+                          "r40 #666666 fill #666666 copy no-outline w1",   // their average
+                          "r60 #00ff00 fill #00ff00 copy solid w1",        // report age
+                          "r30 #503c3c fill #503c3c copy no-outline w1",   // terraforming
+                          "r100 #ffe600 fill #ffe600 copy no-outline w1"}));  // expansion
+}
+
+TEST_F(DrawOverlaysTest, SingleMineralsTakeTheModeOfTheRedrawBefore) {
+  session.Planet(1)[PlanetField::IronMC] = 40;
+  EXPECT_EQ(Redraw({Kind::IroniumConcentration}).back(),
+            "circle 5000,5000 r40 #0000ff fill #0000ff copy no-outline w1");
+  Redraw({Kind::EstimateHabValues});
+  EXPECT_EQ(Redraw({Kind::IroniumConcentration}).back(),
+            "circle 5000,5000 r40 #0000ff fill #0000ff merge no-outline w1");
+}
+
 TEST_F(DrawOverlaysTest, EveryOverlayBearsAnEmptySession) {
   session = GameSession();
   view = MapView();
