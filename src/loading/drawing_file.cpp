@@ -133,10 +133,22 @@ std::string DrawingLayerText(const std::vector<DrawingRecord>& records) {
   return text;
 }
 
+std::optional<std::string> DrawnTextFault(std::string_view text) {
+  if (text.find('"') != text.npos) return "A text on the map cannot hold a double quote";
+  if (text.find_first_of("\r\n") != text.npos) return "A text on the map must fit on one line";
+  return std::nullopt;
+}
+
 Result<std::vector<DrawingRecord>> ReadDrawingFile(const GameSession& session) {
   const Result<std::string> text = ReadOptionalTextFile(session.DrawingFilePath);
   if (!text) return Failure{text.Message()};
   return ParseDrawing(*text);
+}
+
+Result<void> WriteDrawingFile(const GameSession& session, std::string_view layer) {
+  std::string text;
+  while (!layer.empty()) text.append(TakeLine(layer)).append("\r\n");
+  return ReplaceFile(session.DrawingFilePath, text);
 }
 
 }  // namespace quorvane

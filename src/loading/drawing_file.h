@@ -1,36 +1,15 @@
 #pragma once
 
-#include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "model/drawing_record.h"
 #include "model/game_session.h"
 #include "model/result.h"
 
 namespace quorvane {
-
-enum class DrawingKind : char { Line = 'L', Circle = 'C', Text = 'T' };
-
-/// One shape of the drawing layer, in game coordinates.
-struct DrawingRecord {
-  DrawingKind Kind = DrawingKind::Line;
-  /// Where a line starts, a circle's centre, a text's top left corner.
-  std::int32_t X = 0;
-  std::int32_t Y = 0;
-  /// Where a line ends.
-  std::int32_t X2 = 0;
-  std::int32_t Y2 = 0;
-  /// A circle's radius in light years.
-  std::int32_t Radius = 0;
-  std::string Text;
-  /// A text's font size in points; decimals only until the record was read from a file.
-  double Size = 0;
-  /// 1 … 7 of the drawing colours; other numbers have no colour and are not drawn.
-  int ColourNumber = 1;
-
-  bool operator==(const DrawingRecord&) const = default;
-};
 
 /// Reads drawing records: fields end at commas and line ends, blanks around them are dropped, a
 /// quoted field may hold commas, numbers are rounded to whole ones. Other kinds are dropped field
@@ -44,8 +23,18 @@ std::string DrawingRecordText(const DrawingRecord& record);
 /// The records one a line, each line ended by CR LF: the layer as the user sees it.
 std::string DrawingLayerText(const std::vector<DrawingRecord>& records);
 
+/// What keeps a text from being drawn: a quote or a line break in it would not come back from the
+/// drawing file.
+/// @return the sentence for the user, or nothing for a text that can be kept
+std::optional<std::string> DrawnTextFault(std::string_view text);
+
 /// Reads the drawing file of the session's map. A missing file gives no records; the caller asks
 /// for it where the difference matters.
 Result<std::vector<DrawingRecord>> ReadDrawingFile(const GameSession& session);
+
+/// Replaces the drawing file of the session's map by the layer as the user sees it, hand-made lines
+/// included, each line ended by CR LF.
+/// @param layer lines ended by LF or CR LF
+Result<void> WriteDrawingFile(const GameSession& session, std::string_view layer);
 
 }  // namespace quorvane

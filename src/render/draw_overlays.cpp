@@ -2,6 +2,7 @@
 
 #include <optional>
 
+#include "render/drawing_layer.h"
 #include "render/hab_overlay.h"
 #include "render/influence_overlay.h"
 #include "render/mineral_overlay.h"
@@ -58,10 +59,14 @@ void DrawStargateLinks(const MapDrawing& map) {
                 map.Switches.IsOn(Kind::CompleteStargateNetwork));
 }
 
+void DrawUserDrawing(const MapDrawing& map) {
+  DrawDrawingLayer(map.Drawing, map.View, map.Universe);
+}
+
 // One overlay above the borders: what switches it on and what draws it.
 struct Layer {
   Kind Switch;
-  DrawLayer Draw;                                  // nullptr: nothing draws it yet
+  DrawLayer Draw;
   std::optional<Kind> OtherSwitch = std::nullopt;  // switches the same drawing on as well
 
   bool IsOn(const OverlaySwitches& switches) const {
@@ -78,7 +83,7 @@ constexpr Layer kLayers[] = {
     {Kind::OwnedPlanets, Draw<DrawOwnedPlanets>},
     {Kind::DifficultyOfAttack, Draw<DrawDifficultyOfAttack>},
     {Kind::Growth, Draw<DrawGrowth>},
-    {Kind::QvlDrawing, nullptr},
+    {Kind::QvlDrawing, DrawUserDrawing},
     {Kind::EstimateHabValues, DrawEstimatedHab},
     {Kind::NamesColoured, DrawNames, Kind::NamesWhite},
     {Kind::IroniumConcentration, Draw<DrawIroniumConcentration>},
@@ -97,7 +102,7 @@ void DrawOverlays(const MapDrawing& map) {
   Blank(map.Universe);
   DrawBorders(map);
   for (const Layer& layer : kLayers) {
-    if (layer.Draw != nullptr && layer.IsOn(map.Switches)) layer.Draw(map);
+    if (layer.IsOn(map.Switches)) layer.Draw(map);
   }
 }
 

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <span>
+
+#include "model/drawing_record.h"
 #include "model/game_session.h"
 #include "model/progress.h"
 #include "render/drawing_surface.h"
@@ -20,6 +23,8 @@ struct MapDrawing {
   DrawingSurface& Universe2;
   /// Told how far the painting of the borders is.
   const ShowProgress& Progress;
+  /// The user's drawings as their file has them.
+  std::span<const DrawingRecord> Drawing = {};
 };
 
 /// Blanks the map and draws every overlay that is on, each over the previous ones, in one fixed

@@ -4,9 +4,9 @@
 
 namespace quorvane {
 
-void PaintSwatch(Colour colour, DrawingSurface& surface) {
+void PaintColourDiscs(Colour colour, DrawingSurface& surface, SurfacePoint centre, double step,
+                      std::optional<Colour> outline) {
   constexpr int kDiscs = 10;
-  constexpr double kRadiusStep = 150;
   surface.SetPen({.Mode = DrawMode::Copy, .Style = DrawStyle::Solid, .Filled = true, .Width = 1});
   for (int disc = kDiscs; disc > 0; --disc) {
     const auto dimmed = [disc](int component) {
@@ -14,8 +14,13 @@ void PaintSwatch(Colour colour, DrawingSurface& surface) {
     };
     const Colour shade = {dimmed(colour.Red), dimmed(colour.Green), dimmed(colour.Blue)};
     surface.SetFillColour(shade);
-    surface.Circle({0, 0}, kRadiusStep * disc, shade);
+    surface.Circle(centre, step * disc, outline.value_or(shade));
   }
+}
+
+void PaintSwatch(Colour colour, DrawingSurface& surface, std::optional<Colour> outline) {
+  constexpr double kRadiusStep = 150;
+  PaintColourDiscs(colour, surface, {0, 0}, kRadiusStep, outline);
 }
 
 }  // namespace quorvane

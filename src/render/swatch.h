@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include "render/drawing_surface.h"
 
 namespace quorvane {
@@ -8,8 +10,14 @@ namespace quorvane {
 inline constexpr int kSwatchWidth = 645;
 inline constexpr int kSwatchHeight = 330;
 
-/// Paints a race's colour as discs around the swatch's top left corner, dark at the rim and the
-/// full colour in the middle.
-void PaintSwatch(Colour colour, DrawingSurface& surface);
+/// Paints a colour as ten discs around a point, dark at the rim and the full colour in the middle.
+/// @param step    by how much each disc is wider than the one above it
+/// @param outline of the discs; nothing: each disc's own colour
+void PaintColourDiscs(Colour colour, DrawingSurface& surface, SurfacePoint centre, double step,
+                      std::optional<Colour> outline);
+
+/// Paints a race's colour around the top left corner of its swatch.
+void PaintSwatch(Colour colour, DrawingSurface& surface,
+                 std::optional<Colour> outline = std::nullopt);
 
 }  // namespace quorvane

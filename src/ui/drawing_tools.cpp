@@ -2,9 +2,12 @@
 
 #include <QGridLayout>
 #include <QGroupBox>
+#include <QStyle>
+#include <QTextCursor>
 #include <QVBoxLayout>
+#include <algorithm>
 
-#include "model/race_colours.h"
+#include "model/drawing_record.h"
 #include "ui/texts.h"
 
 namespace quorvane {
@@ -12,14 +15,6 @@ namespace {
 
 constexpr std::array<const char*, 4> kTools = {"Stop Drawing", "Draw a Circle", "Draw a Line",
                                                "Add text"};
-
-constexpr std::array<Colour, 7> kDrawColours = {{{255, 255, 255},
-                                                 {255, 0, 0},
-                                                 {0, 255, 0},
-                                                 {0, 0, 255},
-                                                 {255, 255, 0},
-                                                 {0, 255, 255},
-                                                 {255, 0, 255}}};
 
 // The number stays readable on its own colour.
 QString ColourButtonStyle(const Colour& colour) {
@@ -43,22 +38,75 @@ DrawingTools::DrawingTools(QWidget* parent) : QWidget(parent) {
   PlotBox->setObjectName("PlotBox");
   PlotBox->setAccessibleName(tr("Drawing records"));
   PlotBox->setLineWrapMode(QPlainTextEdit::NoWrap);
-  PlotBox->setReadOnly(true);
-  SaveQVL = new QPushButton(tr("Save QVL"), this);
-  SaveQVL->setObjectName("SaveQVL");
-  ClearQVL = new QPushButton(tr("Clear QVL"), this);
-  ClearQVL->setObjectName("ClearQVL");
+  PlotBox->setTabChangesFocus(true);
+  AddButtons();
   grid->addWidget(PlotBox, 1, 0, 1, 2);
   grid->addWidget(SaveQVL, 2, 0);
   grid->addWidget(ClearQVL, 2, 1);
   grid->setRowStretch(1, 1);
-  for (QRadioButton* tool : Draw) tool->setEnabled(false);
-  for (QRadioButton* colour : DColour) colour->setEnabled(false);
-  SaveQVL->setEnabled(false);
-  ClearQVL->setEnabled(false);
+  connect(PlotBox, &QPlainTextEdit::textChanged, this, &DrawingTools::PlotBox_Change);
+  EnableTools(false);
+}
+
+void DrawingTools::ShowSavedLayer(const QString& layer) {
+  PlotBox->setPlainText(layer);
+  LayerSaved();
+  EnableTools(true);
+}
+
+void DrawingTools::LayerSaved() {
+  savedLayer_ = PlotBox->toPlainText();
+  PlotBox_Change();
+}
+
+bool DrawingTools::IsUnsaved() const { return PlotBox->toPlainText() != savedLayer_; }
+
+void DrawingTools::AppendRecord(const QString& record) {
+  QTextCursor end(PlotBox->document());
+  end.movePosition(QTextCursor::End);
+  // A line that was typed may not have been ended yet.
+  if (!end.atBlockStart()) end.insertText("\n");
+  end.insertText(record + "\n");
+  PlotBox->setTextCursor(end);
+}
+
+void DrawingTools::ClearLayer() { PlotBox->clear(); }
+
+DrawingTool DrawingTools::Tool() const {
+  const auto chosen = std::ranges::find_if(Draw, &QRadioButton::isChecked);
+  return static_cast<DrawingTool>(chosen - Draw.begin());
 }
 
 void DrawingTools::StopDrawing() { Draw[0]->setChecked(true); }
+
+void DrawingTools::ResetColour() { DColour[0]->setChecked(true); }
+
+void DrawingTools::AddButtons() {
+  SaveQVL = new QPushButton(tr("Save QVL"), this);
+  SaveQVL->setObjectName("SaveQVL");
+  SaveQVL->setToolTip("You need to save for the lines to redraw");
+  ClearQVL = new QPushButton(tr("Clear QVL"), this);
+  ClearQVL->setObjectName("ClearQVL");
+}
+
+void DrawingTools::EnableTools(bool isEnabled) {
+  for (QRadioButton* tool : Draw) tool->setEnabled(isEnabled);
+  for (QRadioButton* colour : DColour) colour->setEnabled(isEnabled);
+  PlotBox->setReadOnly(!isEnabled);
+  SaveQVL->setEnabled(isEnabled);
+  ClearQVL->setEnabled(isEnabled);
+}
+
+void DrawingTools::DColour_Click(int index) {
+  DrawColourIndex = index + 1;
+  emit ColourChanged();
+}
+
+// The button stands out while there is something to save.
+void DrawingTools::PlotBox_Change() {
+  SaveQVL->setProperty("attention", IsUnsaved());
+  SaveQVL->style()->polish(SaveQVL);
+}
 
 QWidget* DrawingTools::NewToolList() {
   auto* list = new QWidget(this);
@@ -80,11 +128,14 @@ QWidget* DrawingTools::NewColourFrame() {
   auto* grid = new QGridLayout(frame);
   grid->setContentsMargins(4, 2, 4, 4);
   grid->setSpacing(3);
-  for (int colour = 0; colour < static_cast<int>(kDrawColours.size()); ++colour) {
+  for (int colour = 0; colour < static_cast<int>(DrawColours.size()); ++colour) {
     const auto index = static_cast<std::size_t>(colour);
     DColour[index] = new QRadioButton(QString::number(colour + 1), frame);
     DColour[index]->setObjectName(IndexedName("DColour", colour));
-    DColour[index]->setStyleSheet(ColourButtonStyle(kDrawColours[index]));
+    DColour[index]->setStyleSheet(ColourButtonStyle(DrawColours[index]));
+    connect(DColour[index], &QRadioButton::toggled, this, [this, colour](bool isChosen) {
+      if (isChosen) DColour_Click(colour);
+    });
     grid->addWidget(DColour[index], colour / kColoursPerRow, colour % kColoursPerRow);
   }
   DColour[0]->setChecked(true);

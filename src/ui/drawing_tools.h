@@ -8,16 +8,36 @@
 
 namespace quorvane {
 
-/// The "QVL" tab: tools and colours for drawing on the map, and the drawing layer as text. The
-/// layer is shown; drawing, saving and clearing are disabled.
+/// What a click on the map does while drawing.
+enum class DrawingTool { StopDrawing, Circle, Line, Text };
+
+/// The "QVL" tab: tools and colours for drawing on the map, and the drawing layer as text, which
+/// the user may edit by hand. Nothing can be drawn before a game is loaded.
 class DrawingTools : public QWidget {
   Q_OBJECT
 
  public:
   explicit DrawingTools(QWidget* parent);
 
+  /// Shows the layer as its file has it, and lets the user draw.
+  void ShowSavedLayer(const QString& layer);
+  /// What the layer holds has just been saved.
+  void LayerSaved();
+  /// Whether the layer holds something that its file does not.
+  bool IsUnsaved() const;
+  /// Adds a record at the end of the layer.
+  void AppendRecord(const QString& record);
+  /// Empties the layer; its file stays as it is.
+  void ClearLayer();
+
+  DrawingTool Tool() const;
   /// Selects "Stop Drawing": clicks on the map show details again.
   void StopDrawing();
+  /// Selects the first drawing colour, white.
+  void ResetColour();
+
+  /// The drawing colour, 1 … 7.
+  int DrawColourIndex = 1;
 
   std::array<QRadioButton*, 4> Draw = {};
   std::array<QRadioButton*, 7> DColour = {};
@@ -25,9 +45,19 @@ class DrawingTools : public QWidget {
   QPushButton* SaveQVL = nullptr;
   QPushButton* ClearQVL = nullptr;
 
+ signals:
+  /// The user chose another drawing colour.
+  void ColourChanged();
+
  private:
   QWidget* NewToolList();
   QWidget* NewColourFrame();
+  void AddButtons();
+  void EnableTools(bool isEnabled);
+  void DColour_Click(int index);
+  void PlotBox_Change();
+
+  QString savedLayer_;
 };
 
 }  // namespace quorvane

@@ -1,5 +1,8 @@
 #include "ui/legend.h"
 
+#include <QKeyEvent>
+#include <QPainter>
+
 #include "render/swatch.h"
 #include "ui/labels.h"
 #include "ui/pixel_rect.h"
@@ -7,16 +10,49 @@
 
 namespace quorvane {
 
+RaceSwatch::RaceSwatch(QWidget* parent) : PictureBox(parent, QSizeF(kSwatchWidth, kSwatchHeight)) {
+  setToolTip("Click to Change Colour");
+  setCursor(Qt::PointingHandCursor);
+  connect(this, &PictureBox::MouseDown, this, &RaceSwatch::Chosen);
+}
+
+void RaceSwatch::keyPressEvent(QKeyEvent* event) {
+  const bool isChoice = event->key() == Qt::Key_Space || event->key() == Qt::Key_Return ||
+                        event->key() == Qt::Key_Enter;
+  if (isChoice) {
+    emit Chosen();
+  } else {
+    PictureBox::keyPressEvent(event);
+  }
+}
+
+void RaceSwatch::paintEvent(QPaintEvent* event) {
+  PictureBox::paintEvent(event);
+  if (!hasFocus()) return;
+  QPainter painter(this);
+  painter.setPen(Qt::white);
+  painter.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
+void RaceSwatch::focusInEvent(QFocusEvent* event) {
+  PictureBox::focusInEvent(event);
+  update();
+}
+
+void RaceSwatch::focusOutEvent(QFocusEvent* event) {
+  PictureBox::focusOutEvent(event);
+  update();
+}
+
 Legend::Legend(QWidget& area) : QObject(&area) {
   for (int row = 0; row < kLegendRows; ++row) {
     const auto index = static_cast<std::size_t>(row);
     Race[index] = NewValue(IndexedName("Race", row), &area);
-    RaceC[index] = new PictureBox(&area, QSizeF(kSwatchWidth, kSwatchHeight));
+    RaceC[index] = new RaceSwatch(&area);
     RaceC[index]->setObjectName(IndexedName("RaceC", row));
-    RaceC[index]->setToolTip("Click to Change Colour");
-    RaceC[index]->setEnabled(false);
     RaceC[index]->hide();
     connect(RaceC[index], &PictureBox::Resized, this, [this, index] { PaintRow(index); });
+    connect(RaceC[index], &RaceSwatch::Chosen, this, [this, row] { emit Chosen(row); });
   }
 }
 
@@ -37,14 +73,31 @@ void Legend::ShowPlayers(const GameSession& session) {
     Race[index]->setToolTip(name);  // a long name does not fit
     RaceC[index]->setAccessibleName(tr("Colour of %1").arg(name));
     RaceC[index]->setVisible(!name.isEmpty());
-    const Colour* colour = isPlayer ? session.ColourOf(player) : nullptr;
-    colours_[index] = colour != nullptr ? *colour : Colour();
-    PaintRow(index);
+  }
+  outlines_ = {};
+  ShowColours(session);
+}
+
+void Legend::ShowChangedColours(const GameSession& session) {
+  const auto before = colours_;
+  ShowColours(session);
+  for (std::size_t row = 0; row < colours_.size(); ++row) {
+    if (colours_[row] != before[row]) outlines_[row] = Colour();
+    PaintRow(row);
+  }
+}
+
+void Legend::ShowColours(const GameSession& session) {
+  for (std::size_t row = 0; row < colours_.size(); ++row) {
+    const int player = static_cast<int>(row) + 1;
+    const Colour* colour = player <= session.PlayerCount ? session.ColourOf(player) : nullptr;
+    colours_[row] = colour != nullptr ? *colour : Colour();
+    PaintRow(row);
   }
 }
 
 void Legend::PaintRow(std::size_t row) {
-  PaintSwatch(colours_[row], RaceC[row]->Surface());
+  PaintSwatch(colours_[row], RaceC[row]->Surface(), outlines_[row]);
   RaceC[row]->update();
 }
 

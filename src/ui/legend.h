@@ -3,12 +3,30 @@
 #include <QLabel>
 #include <QObject>
 #include <array>
+#include <optional>
 
 #include "model/game_session.h"
 #include "platform/toolkit/picture_box.h"
 #include "render/main_layout.h"
 
 namespace quorvane {
+
+/// A swatch of the legend: clicked, or chosen by the keyboard, it lets its colour be changed.
+class RaceSwatch : public PictureBox {
+  Q_OBJECT
+
+ public:
+  explicit RaceSwatch(QWidget* parent);
+
+ signals:
+  void Chosen();
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
+};
 
 /// The race legend: every player's name beside a swatch of the player's colour.
 class Legend : public QObject {
@@ -20,14 +38,23 @@ class Legend : public QObject {
   void Place(const MainLayout& layout);
   /// Shows the players of a newly loaded game.
   void ShowPlayers(const GameSession& session);
+  /// Shows the colours of the game again after the user changed one.
+  void ShowChangedColours(const GameSession& session);
 
   std::array<QLabel*, kLegendRows> Race = {};
-  std::array<PictureBox*, kLegendRows> RaceC = {};
+  std::array<RaceSwatch*, kLegendRows> RaceC = {};
+
+ signals:
+  /// A swatch was chosen. @param row its place in the legend, from 0
+  void Chosen(int row);
 
  private:
+  void ShowColours(const GameSession& session);
   void PaintRow(std::size_t row);
 
   std::array<Colour, kLegendRows> colours_ = {};
+  // Only swatches that were changed have an outline.
+  std::array<std::optional<Colour>, kLegendRows> outlines_ = {};
 };
 
 }  // namespace quorvane

@@ -7,14 +7,17 @@
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QPlainTextEdit>
+#include <QRadioButton>
 #include <QScopedValueRollback>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QTabBar>
 #include <algorithm>
 #include <optional>
 #include <utility>
 
 #include "analysis/find_planet.h"
+#include "analysis/race_colour.h"
 #include "loading/load_game.h"
 #include "loading/map_picture_file.h"
 #include "loading/race_colour_file.h"
@@ -23,6 +26,7 @@
 #include "render/main_layout.h"
 #include "render/planet_pick.h"
 #include "ui/details_panel.h"
+#include "ui/drawing_board.h"
 #include "ui/find_planet.h"
 #include "ui/labels.h"
 #include "ui/legend.h"
@@ -30,6 +34,7 @@
 #include "ui/message_box_prompts.h"
 #include "ui/overlay_bar.h"
 #include "ui/pixel_rect.h"
+#include "ui/race_colour.h"
 #include "ui/texts.h"
 
 namespace quorvane {
@@ -45,6 +50,8 @@ constexpr const char* kChooserText = "Select a Race, then click Show Boundary";
 bool UsesArrowKeys(const QWidget* widget) {
   return qobject_cast<const QLineEdit*>(widget) != nullptr ||
          qobject_cast<const QPlainTextEdit*>(widget) != nullptr ||
+         qobject_cast<const QRadioButton*>(widget) != nullptr ||
+         qobject_cast<const QTabBar*>(widget) != nullptr ||
          qobject_cast<const QAbstractItemView*>(widget) != nullptr;
 }
 
@@ -102,6 +109,7 @@ void Main::BuildArea() {
   Map = new MapPanel(*area_);
   RaceLegend = new Legend(*area_);
   Detail = new DetailsPanel(area_);
+  Board = new DrawingBoard(session_, *Map, *Detail->Tools, prompts_);
   XYCoord = NewValue("XYCoord", area_);
   theplanet = NewValue("theplanet", area_);
   ProgressBar1 = new QProgressBar(area_);
@@ -124,8 +132,11 @@ void Main::ConnectParts() {
     DrawOverlays();
     PlaceSelector();
   });
+  connect(Map->Universe, &PictureBox::MouseDown, this, &Main::Universe_MouseDown);
   connect(Map, &MapPanel::Clicked, this, &Main::Universe_Clicked);
   connect(Map, &MapPanel::Hovered, this, &Main::Universe_Hovered);
+  connect(Board, &DrawingBoard::Cleared, this, &Main::Board_Cleared);
+  connect(RaceLegend, &Legend::Chosen, this, &Main::RaceC_Click);
   connect(Detail, &DetailsPanel::ChartsSwitched, this, [this] { Map->Universe->setFocus(); });
 }
 
@@ -181,9 +192,13 @@ void Main::Form_Resize() {
   RaceLegend->Place(*layout);
 }
 
+// The picture of a resized map is blank. It gets back all that it showed, drawings that are not
+// saved yet included.
 void Main::Map_Resized() {
   session_.BordersCached = 0;
-  if (session_.PlanetCount > 0) DrawOverlays();
+  if (session_.PlanetCount == 0 || isDrawing_) return;
+  DrawMap(Overlays->Switches());
+  Board->DrawShapes();
 }
 
 bool Main::eventFilter(QObject* target, QEvent* event) {
@@ -207,6 +222,11 @@ void Main::Combo1_Click() {
   if (Overlays->Switches().IsOn(OverlayKind::EstimateHabValues)) DrawOverlays();
 }
 
+void Main::Universe_MouseDown(int button, int shift, double x, double y) {
+  if (Board->Universe_MouseDown({x, y})) return;
+  Map->Universe_MouseDown(button, shift, x, y);
+}
+
 // Tells all that is known of the planet that was clicked.
 void Main::Universe_Clicked(SurfacePoint at) {
   const int planet = PlanetAt(session_, Map->State().View, at);
@@ -224,6 +244,27 @@ void Main::Universe_Hovered(SurfacePoint at, bool isPicking) {
     Map->Universe->setToolTip(planet > 0 ? "Click for more details on " + name : QString());
   }
   XYCoord->setText(ToQString(PointerText(view, at)));
+  Board->Universe_MouseMove(at);
+}
+
+// Without the layer, its overlay is off.
+void Main::Board_Cleared() {
+  {
+    const QScopedValueRollback oneRedraw(isDrawing_, true);
+    Overlays->OvButt[static_cast<std::size_t>(OverlayKind::QvlDrawing)]->setChecked(false);
+  }
+  DrawOverlays();
+}
+
+void Main::RaceC_Click(int index) {
+  const QString name = RaceLegend->Race[static_cast<std::size_t>(index)]->text();
+  const int slot = ColourSlotOf(session_, ToText(name));
+  if (slot == 0) return;
+  RaceColour dialog(session_, index, slot, name, this);
+  if (dialog.exec() == QDialog::Accepted) RaceLegend->ShowChangedColours(session_);
+  session_.BordersCached = 0;
+  Map->Universe2->Surface().Clear();
+  DrawOverlays();
 }
 
 void Main::PlaceSelector() { Map->PlaceSelector(session_.SelectedX, session_.SelectedY); }
@@ -265,8 +306,7 @@ void Main::ShowLoadedGame() {
   }
   RaceLegend->ShowPlayers(session_);
   Detail->ShowRaces(session_);
-  Detail->Tools->PlotBox->setPlainText(ToQString(session_.DrawingLayer));
-  if (FindFile(session_.DrawingFilePath)) Map->TakeDrawingPen();
+  Board->ShowLoadedGame();
 
   Combo1->setCurrentIndex(session_.PlayerCount > 0 ? 0 : -1);
   Combo1->setEnabled(true);
@@ -313,8 +353,20 @@ void Main::DrawOverlays() {
     switches.ClearMap();
     Overlays->Show(switches);
   }
+  const bool wantsDrawing = switches.IsOn(OverlayKind::QvlDrawing);
+  const bool hasDrawing = wantsDrawing && Board->ReadLayer();
+  if (wantsDrawing && !hasDrawing) {
+    switches.Set(OverlayKind::QvlDrawing, false);
+    Overlays->Show(switches);
+  }
+  Board->ForgetShapes();
+  DrawMap(switches);
+  if (hasDrawing) Detail->Tools->ResetColour();
+}
+
+void Main::DrawMap(OverlaySwitches switches) {
   switches.RaceName = ToText(Combo1->currentText());
-  Map->Draw(session_, switches, ProgressDisplay());
+  Map->Draw(session_, switches, Board->Layer(), ProgressDisplay());
 }
 
 ShowProgress Main::ProgressDisplay() {
@@ -338,7 +390,7 @@ void Main::mnuSearchPlanet_Click() {
   if (!isSelected || findPlanet_->ShowFoundDetails != 1) return;
   const SurfacePoint at = Map->State().View.ToSurface(
       {static_cast<double>(session_.SelectedX), static_cast<double>(session_.SelectedY)});
-  Map->Universe_MouseDown(1, 0, at.X, at.Y);
+  Universe_MouseDown(1, 0, at.X, at.Y);
 }
 
 void Main::mnuSave_Click() {

@@ -10,6 +10,7 @@
 #include "model/game_session.h"
 #include "model/progress.h"
 #include "render/map_view.h"
+#include "render/overlay_kind.h"
 #include "ui/main_menu.h"
 #include "ui/open_file.h"
 #include "ui/prompts.h"
@@ -19,6 +20,7 @@ class QScrollArea;
 namespace quorvane {
 
 class DetailsPanel;
+class DrawingBoard;
 class FindPlanet;
 class Legend;
 class MapPanel;
@@ -49,6 +51,7 @@ class Main : public QMainWindow {
   MapPanel* Map = nullptr;
   OverlayBar* Overlays = nullptr;
   DetailsPanel* Detail = nullptr;
+  DrawingBoard* Board = nullptr;
   Legend* RaceLegend = nullptr;
   QComboBox* Combo1 = nullptr;
   QLabel* XYCoord = nullptr;
@@ -66,6 +69,9 @@ class Main : public QMainWindow {
   bool Form_KeyDown(int key, Qt::KeyboardModifiers modifiers);
   void Map_Resized();
   void Combo1_Click();
+  void Board_Cleared();
+  void RaceC_Click(int index);
+  void Universe_MouseDown(int button, int shift, double x, double y);
   void Universe_Clicked(SurfacePoint at);
   void Universe_Hovered(SurfacePoint at, bool isPicking);
   void mnuSearchPlanet_Click();
@@ -81,6 +87,7 @@ class Main : public QMainWindow {
   void PlaceSelector();
   void ShowLoadedGame();
   void ResetWindow();
+  void DrawMap(OverlaySwitches switches);
   ShowProgress ProgressDisplay();
 
   std::unique_ptr<Prompts> ownPrompts_;

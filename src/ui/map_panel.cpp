@@ -54,7 +54,6 @@ MapPanel::MapPanel(QWidget& area)
   Timer1->setObjectName("Timer1");
   Timer1->start(kMarkerPeriod);
   connect(Universe, &PictureBox::Resized, this, &MapPanel::Universe_Resize);
-  connect(Universe, &PictureBox::MouseDown, this, &MapPanel::Universe_MouseDown);
   connect(Universe, &PictureBox::MouseMove, this, &MapPanel::Universe_MouseMove);
   connect(Timer1, &QTimer::timeout, this, &MapPanel::Timer1_Timer);
 }
@@ -81,13 +80,14 @@ bool MapPanel::Scroll(int key, Qt::KeyboardModifiers modifiers) {
 }
 
 void MapPanel::Draw(GameSession& session, const OverlaySwitches& switches,
-                    const ShowProgress& progress) {
+                    std::span<const DrawingRecord> drawing, const ShowProgress& progress) {
   DrawOverlays({.Session = session,
                 .View = state_.View,
                 .Switches = switches,
                 .Universe = Universe->Surface(),
                 .Universe2 = Universe2->Surface(),
-                .Progress = progress});
+                .Progress = progress,
+                .Drawing = drawing});
   Universe->update();
 }
 

@@ -2,7 +2,9 @@
 
 #include <QObject>
 #include <QTimer>
+#include <span>
 
+#include "model/drawing_record.h"
 #include "model/game_session.h"
 #include "model/progress.h"
 #include "platform/toolkit/picture_box.h"
@@ -30,15 +32,17 @@ class MapPanel : public QObject {
   bool LeaveZoom(bool isZoomIn) { return quorvane::LeaveZoom(state_, isZoomIn); }
   /// Moves a zoomed map. @return whether it is to be drawn again
   bool Scroll(int key, Qt::KeyboardModifiers modifiers);
-  void Draw(GameSession& session, const OverlaySwitches& switches, const ShowProgress& progress);
+  /// @param drawing the user's drawing layer
+  void Draw(GameSession& session, const OverlaySwitches& switches,
+            std::span<const DrawingRecord> drawing, const ShowProgress& progress);
 
-  /// Gives the map the pen of the drawing layer, as a drawing file that is loaded does. Overlays that
-  /// keep the pen's mode draw in this one next.
+  /// Gives the map the pen of the drawing layer, as a drawing file that is loaded does. Overlays
+  /// that keep the pen's mode draw in this one next.
   void TakeDrawingPen();
   /// Places the selection marker around a planet at a stored position, or hides it where there is
   /// nothing to mark.
   void PlaceSelector(int x, int y);
-  /// A press of a mouse button, whichever, at a place of the picture.
+  /// A press of a mouse button, whichever, at a place of the picture while nothing is being drawn.
   void Universe_MouseDown(int button, int shift, double x, double y);
 
   PictureBox* Universe = nullptr;

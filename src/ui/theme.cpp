@@ -30,6 +30,8 @@ QPushButton:hover { background: #455064; }
 QPushButton:pressed { background: #2f3643; }
 QPushButton:default { border-color: #6fa0d8; }
 QPushButton:focus { border-color: #8fb8e8; }
+QPushButton[attention="true"] { background: #8a5a14; border-color: #d89a3c; color: #ffffff; }
+QPushButton[attention="true"]:hover { background: #9c6819; }
 QPushButton:disabled { background: #2f3541; border-color: #3a4250; color: #7a8495; }
 QTabWidget#Detail::pane { border: 1px solid #454e5f; top: -1px; background: #2b303b; }
 QTabWidget#Detail > QTabBar::tab {

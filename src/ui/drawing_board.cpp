@@ -1,0 +1,135 @@
+#include "ui/drawing_board.h"
+
+#include <QPushButton>
+#include <optional>
+#include <string>
+#include <utility>
+
+#include "loading/drawing_file.h"
+#include "platform/files/files.h"
+#include "ui/drawing_tools.h"
+#include "ui/map_panel.h"
+#include "ui/texts.h"
+
+namespace quorvane {
+namespace {
+
+constexpr double kSmallestFont = 8;
+
+Colour ColourOf(const DrawingTools& tools) {
+  return DrawColours.at(static_cast<std::size_t>(tools.DrawColourIndex) - 1);
+}
+
+}  // namespace
+
+DrawingBoard::DrawingBoard(GameSession& session, MapPanel& map, DrawingTools& tools,
+                           Prompts& prompts)
+    : QObject(&map),
+      DrawLine(new LineShape(*map.Universe, "DrawLine")),
+      session_(session),
+      map_(map),
+      tools_(tools),
+      prompts_(prompts) {
+  connect(&tools, &DrawingTools::ColourChanged, this,
+          [this] { DrawLine->SetLineColour(ColourOf(tools_)); });
+  connect(tools.SaveQVL, &QPushButton::clicked, this, &DrawingBoard::SaveQVL_Click);
+  connect(tools.ClearQVL, &QPushButton::clicked, this, &DrawingBoard::ClearQVL_Click);
+}
+
+void DrawingBoard::ShowLoadedGame() {
+  DrawLine->hide();
+  ForgetShapes();
+  tools_.ShowSavedLayer(ToQString(session_.DrawingLayer));
+  if (FindFile(session_.DrawingFilePath)) map_.TakeDrawingPen();
+}
+
+bool DrawingBoard::Universe_MouseDown(SurfacePoint at) {
+  switch (tools_.Tool()) {
+    case DrawingTool::StopDrawing:
+      return false;
+    case DrawingTool::Circle:
+    case DrawingTool::Line:
+      StretchBand(at);
+      return true;
+    case DrawingTool::Text:
+      AddText(at);
+      return true;
+  }
+  return false;
+}
+
+void DrawingBoard::Universe_MouseMove(SurfacePoint at) {
+  if (DrawLine->isVisible()) DrawLine->Place(DrawLine->From(), at);
+}
+
+// The first click begins a shape, the second ends it with the tool that is selected then.
+void DrawingBoard::StretchBand(SurfacePoint at) {
+  if (!DrawLine->isVisible()) {
+    DrawLine->Place(at, at);
+    DrawLine->SetLineColour(ColourOf(tools_));
+    DrawLine->show();
+    return;
+  }
+  DrawLine->hide();
+  const auto finish = tools_.Tool() == DrawingTool::Circle ? CircleThrough : LineBetween;
+  AddShape(finish(DrawLine->From(), at, tools_.DrawColourIndex));
+}
+
+void DrawingBoard::AddText(SurfacePoint at) {
+  const std::optional<std::string> text =
+      prompts_.AskText("Enter Text", "Enter text to add here", "");
+  if (!text) return;
+  if (const std::optional<std::string> fault = DrawnTextFault(*text)) {
+    prompts_.Inform(*fault);
+    return;
+  }
+  const std::string answer =
+      prompts_.AskText("Enter size", "Enter size of font (minimum 8)", "8").value_or("");
+  const double size = NumericValue(answer);
+  if (text->empty() || size < kSmallestFont) return;
+  AddShape({.Kind = DrawingKind::Text,
+            .At = at,
+            .Text = *text,
+            .Size = size,
+            .ColourNumber = tools_.DrawColourIndex});
+}
+
+void DrawingBoard::AddShape(MapShape shape) {
+  tools_.AppendRecord(ToQString(DrawingRecordText(RecordOf(shape, map_.State().View))));
+  shapes_.push_back(std::move(shape));
+  DrawShape(shapes_.back(), map_.Universe->Surface());
+  map_.Universe->update();
+}
+
+bool DrawingBoard::ReadLayer() {
+  if (!FindFile(session_.DrawingFilePath)) {
+    tools_.ShowSavedLayer("");
+    prompts_.Inform("No file found for this map");
+    return false;
+  }
+  Result<std::vector<DrawingRecord>> layer = ReadDrawingFile(session_);
+  if (!layer) {
+    prompts_.Inform(layer.Message());
+    return false;
+  }
+  layer_ = std::move(*layer);
+  tools_.ShowSavedLayer(ToQString(DrawingLayerText(layer_)));
+  return true;
+}
+
+void DrawingBoard::DrawShapes() {
+  for (const MapShape& shape : shapes_) DrawShape(shape, map_.Universe->Surface());
+}
+
+void DrawingBoard::SaveQVL_Click() {
+  const Result<void> saved = WriteDrawingFile(session_, ToText(tools_.PlotBox->toPlainText()));
+  if (saved) tools_.LayerSaved();
+  prompts_.Inform(saved ? "Saved to " + TextFromPath(session_.DrawingFilePath) : saved.Message());
+}
+
+void DrawingBoard::ClearQVL_Click() {
+  tools_.ClearLayer();
+  emit Cleared();
+}
+
+}  // namespace quorvane

@@ -1,0 +1,99 @@
+#include "ui/race_colour.h"
+
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+#include "analysis/race_colour.h"
+#include "platform/toolkit/twips.h"
+#include "render/palette.h"
+#include "render/swatch.h"
+#include "ui/labels.h"
+
+namespace quorvane {
+namespace {
+
+constexpr int kPreviewWidth = 1995;
+constexpr int kPreviewHeight = 1905;
+constexpr int kSliderWidth = 220;
+
+QLabel* NewHiddenNumber(const char* name, int number, QWidget* parent) {
+  QLabel* label = NewValue(name, parent);
+  label->setText(QString::number(number));
+  label->hide();
+  return label;
+}
+
+}  // namespace
+
+RaceColour::RaceColour(GameSession& session, int position, int slot, const QString& raceName,
+                       QWidget* parent)
+    : QDialog(parent), session_(session) {
+  setObjectName("RaceColour");
+  setWindowTitle("Edit Race Colour for: " + raceName);
+  PN = NewHiddenNumber("PN", position, this);
+  PN2 = NewHiddenNumber("PN2", slot, this);
+  auto* row = new QHBoxLayout(this);
+  auto* column = new QVBoxLayout();
+  auto* sliders = new QFormLayout();
+  const Colour colour = Slot();
+  RedSlide = AddSlider("RedSlide", "Red", colour.Red);
+  GreenSlide = AddSlider("GreenSlide", "Green", colour.Green);
+  BlueSlide = AddSlider("BlueSlide", "Blue", colour.Blue);
+  sliders->addRow("Red", RedSlide);
+  sliders->addRow("Green", GreenSlide);
+  sliders->addRow("Blue", BlueSlide);
+  sliders->setVerticalSpacing(14);
+  butOK = new QPushButton("OK", this);
+  butOK->setObjectName("butOK");
+  butOK->setDefault(true);
+  column->addLayout(sliders);
+  column->addStretch(1);
+  column->addWidget(butOK, 0, Qt::AlignRight);
+  Picture1 = new PictureBox(this, QSizeF(kPreviewWidth, kPreviewHeight));
+  Picture1->setObjectName("Picture1");
+  Picture1->setAccessibleName(tr("Preview"));
+  Picture1->setFocusPolicy(Qt::NoFocus);
+  Picture1->setFixedSize(PixelsFromTwips(kPreviewWidth), PixelsFromTwips(kPreviewHeight));
+  row->addLayout(column);
+  row->addWidget(Picture1);
+  row->setSizeConstraint(QLayout::SetFixedSize);
+  connect(Picture1, &PictureBox::Resized, this, &RaceColour::ShowPreview);
+  connect(butOK, &QPushButton::clicked, this, &RaceColour::butOK_Click);
+  ShowPreview();
+}
+
+QSlider* RaceColour::AddSlider(const char* name, const QString& label, int value) {
+  constexpr int kFullComponent = 255;
+  auto* slider = new QSlider(Qt::Horizontal, this);
+  slider->setObjectName(name);
+  slider->setAccessibleName(label);
+  slider->setRange(0, kFullComponent);
+  slider->setValue(value);
+  slider->setMinimumWidth(kSliderWidth);
+  connect(slider, &QSlider::valueChanged, this, &RaceColour::ShowPreview);
+  return slider;
+}
+
+Colour& RaceColour::Slot() const {
+  return session_.RaceColours.at(static_cast<std::size_t>(PN2->text().toInt()) - 1);
+}
+
+Colour RaceColour::Mixed() const {
+  return {RedSlide->value(), GreenSlide->value(), BlueSlide->value()};
+}
+
+void RaceColour::ShowPreview() {
+  constexpr double kRadiusStep = kPreviewWidth / 15.0;
+  PaintColourDiscs(Mixed(), Picture1->Surface(), {kPreviewWidth / 2.0, kPreviewHeight / 2.0},
+                   kRadiusStep, kBlack);
+  Picture1->update();
+  butOK->setEnabled(IsRaceColour(Mixed()));
+}
+
+void RaceColour::butOK_Click() {
+  Slot() = Mixed();
+  accept();
+}
+
+}  // namespace quorvane

@@ -1,0 +1,149 @@
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QToolButton>
+
+#include "ui/details_panel.h"
+#include "ui/drawing_board.h"
+#include "ui/main_window_fixture.h"
+
+namespace quorvane {
+namespace {
+
+class DrawingTest : public MainWindowTest {
+ protected:
+  DrawingTest() {
+    Load();
+    window.Detail->setCurrentIndex(4);
+  }
+
+  std::string Layer() { return driver.Find<QPlainTextEdit>("PlotBox").toPlainText().toStdString(); }
+  // Whether a thin shape runs through a place.
+  bool Passes(GamePoint place, QColor colour) {
+    for (int x = -1; x <= 1; ++x) {
+      for (int y = -1; y <= 1; ++y) {
+        if (Map().pixelColor(At(place) + QPoint(x, y)) == colour) return true;
+      }
+    }
+    return false;
+  }
+  bool IsSaveWanted() { return driver.Find("SaveQVL").property("attention").toBool(); }
+
+  WindowDriver driver = Driver();
+};
+
+TEST_F(DrawingTest, TwoClicksMakeALineInTheColourChosenLast) {
+  driver.Click("Draw(2)").ClickAt("Universe", At({1100, 1300}));
+  EXPECT_TRUE(driver.IsVisible("DrawLine"));
+  driver.Click("DColour(2)");
+  EXPECT_EQ(window.Board->DrawLine->LineColour(), (Colour{0, 255, 0}));
+  driver.MoveTo("Universe", At({1200, 1250})).ClickAt("Universe", At({1300, 1300}));
+  EXPECT_FALSE(driver.IsVisible("DrawLine"));
+  EXPECT_TRUE(Passes({1200, 1300}, Qt::green));
+  const QStringList fields = QString::fromStdString(Layer()).trimmed().split(',');
+  ASSERT_EQ(fields.size(), 6);
+  EXPECT_EQ(fields[0] + fields[5], "L3");
+  EXPECT_NEAR(fields[1].toInt(), 1100, 1);
+  EXPECT_NEAR(fields[2].toInt(), 1300, 1);
+  EXPECT_NEAR(fields[3].toInt(), 1300, 1);
+  EXPECT_EQ(driver.Text("PlanetName"), "") << "no details while drawing";
+  EXPECT_TRUE(IsSaveWanted());
+}
+
+TEST_F(DrawingTest, ShapeInProgressIsFinishedByTheToolThatIsSelectedThen) {
+  driver.Click("Draw(2)").ClickAt("Universe", At({1200, 1200})).Click("Draw(0)");
+  driver.ClickAt("Universe", At({1050, 1300}));
+  EXPECT_EQ(driver.Text("PlanetName"), "Alpha");
+  EXPECT_TRUE(driver.IsVisible("DrawLine"));
+  driver.Click("Draw(1)").ClickAt("Universe", At({1200, 1240}));
+  EXPECT_EQ(Layer().substr(0, 2), "C,");
+  EXPECT_TRUE(Passes({1200, 1160}, Qt::white));
+  EXPECT_FALSE(Passes({1200, 1200}, Qt::white)) << "not filled";
+}
+
+TEST_F(DrawingTest, TextIsAskedForAndRefusedWhereItsFileCouldNotHoldIt) {
+  const std::tuple<const char*, const char*, const char*, int> cases[] = {
+      {"Home, sweet home", "10.5", ",\"Home, sweet home\",10.5,1\n", 2},
+      {"Fleet", "8", ",Fleet,8,1\n", 2},
+      {"Fleet", "7.9", "", 2},
+      {"Fleet", "abc", "", 2},
+      {"", "8", "", 1},
+      {"say \"hello\"", "8", "", 2}};
+  driver.Click("Draw(3)");
+  for (const auto& [text, size, ending, messages] : cases) {
+    window.Detail->Tools->ClearLayer();
+    prompts = {};
+    prompts.AnswerText(text);
+    prompts.AnswerText(size);
+    driver.ClickAt("Universe", At({1100, 1300}));
+    EXPECT_EQ(Layer().empty(), std::string(ending).empty()) << text;
+    EXPECT_TRUE(Layer().ends_with(ending)) << Layer();
+    const Texts shown = prompts.Shown();
+    EXPECT_EQ(shown.size(), static_cast<std::size_t>(messages)) << text;
+    EXPECT_EQ(shown.front(), "Enter Text: Enter text to add here []");
+  }
+  EXPECT_FALSE(IsBlank(Map()));
+}
+
+TEST_F(DrawingTest, LayerIsSavedShownClearedAndReadAnew) {
+  driver.Click("OvButt(10)");
+  EXPECT_EQ(prompts.Shown(), Texts{"No file found for this map"});
+  EXPECT_FALSE(driver.IsDown("OvButt(10)"));
+  EXPECT_FALSE(driver.Action("mnuToolBarBut(10)").isChecked());
+
+  auto& plot = driver.Find<QPlainTextEdit>("PlotBox");
+  plot.setPlainText("C,1200,1200,40,2\nX,1\nL , 1100 , 1100,1300,1100, 4");
+  EXPECT_TRUE(IsSaveWanted());
+  driver.Click("SaveQVL");
+  const std::filesystem::path file = folder / "Demo.QVL";
+  EXPECT_EQ(prompts.Shown(), Texts{"Saved to " + file.string()});
+  EXPECT_EQ(folder.Read("Demo.QVL"), "C,1200,1200,40,2\r\nX,1\r\nL , 1100 , 1100,1300,1100, 4\r\n");
+  EXPECT_FALSE(IsSaveWanted());
+
+  driver.Click("DColour(5)").Click("Draw(2)").Click("OvButt(10)");
+  EXPECT_EQ(Layer(), "C,1200,1200,40,2\nL,1100,1100,1300,1100,4\n");
+  EXPECT_TRUE(Passes({1200, 1160}, Qt::red));
+  EXPECT_TRUE(Passes({1200, 1100}, Qt::blue));
+  EXPECT_TRUE(driver.IsDown("DColour(0)"));
+  EXPECT_TRUE(driver.IsDown("Draw(0)"));
+  EXPECT_EQ(window.Detail->Tools->DrawColourIndex, 1);
+
+  driver.Click("ClearQVL");
+  EXPECT_EQ(Layer(), "");
+  EXPECT_FALSE(driver.IsDown("OvButt(10)"));
+  EXPECT_TRUE(IsBlank(Map()));
+  EXPECT_TRUE(IsSaveWanted());
+  EXPECT_NE(folder.Read("Demo.QVL"), "");
+  driver.Click("SaveQVL");
+  EXPECT_EQ(folder.Read("Demo.QVL"), "");
+  prompts.Shown();
+  driver.Click("OvButt(10)");
+  EXPECT_EQ(prompts.Shown(), Texts());
+  EXPECT_TRUE(driver.IsDown("OvButt(10)"));
+}
+
+TEST_F(DrawingTest, FileThatCannotBeReadOrWrittenIsToldAndTheLayerStays) {
+  std::filesystem::create_directory(folder / "Demo.QVL");
+  auto& plot = driver.Find<QPlainTextEdit>("PlotBox");
+  plot.setPlainText("C,1200,1200,40,2\n");
+  driver.Click("SaveQVL");
+  EXPECT_NE(prompts.Shown().at(0).find("Demo.QVL"), std::string::npos);
+  EXPECT_EQ(Layer(), "C,1200,1200,40,2\n");
+  EXPECT_TRUE(IsSaveWanted());
+}
+
+TEST_F(DrawingTest, ResizedMapKeepsWhatWasDrawnSinceItsRedrawAndALoadTheColour) {
+  driver.Click("DColour(1)").Click("Draw(2)").ClickAt("Universe", At({1100, 1300}));
+  driver.ClickAt("Universe", At({1300, 1300}));
+  window.resize(1100, 700);
+  EXPECT_TRUE(Passes({1200, 1300}, Qt::red));
+  driver.Click("OvButt(2)").Click("OvButt(2)");
+  EXPECT_FALSE(Passes({1200, 1300}, Qt::red));
+  folder.Write("Demo.QVL", "C,1200,1200,40,6\r\n");
+  Load();
+  EXPECT_EQ(Layer(), "C,1200,1200,40,6\n");
+  EXPECT_TRUE(driver.IsDown("DColour(1)"));
+  EXPECT_FALSE(IsSaveWanted());
+}
+
+}  // namespace
+}  // namespace quorvane
