@@ -13,6 +13,7 @@
 
 #include "render/planets_in_view.h"
 #include "ui/details_panel.h"
+#include "ui/legend.h"
 #include "ui/main_window.h"
 #include "ui/map_panel.h"
 #include "ui/overlay_bar.h"
@@ -78,6 +79,28 @@ void ShowFindDialog(Main& window, const ScreenshotJob& job) {
   window.findChild<QAction*>("mnuSearchPlanet")->trigger();
 }
 
+void ShowColourDialog(Main& window, const ScreenshotJob& job) {
+  QTimer::singleShot(100, &window, [&job] {
+    QWidget* dialog = QApplication::activeModalWidget();
+    Save(*dialog, job, "race-colour");
+    dialog->close();
+  });
+  emit window.RaceLegend->RaceC[3]->Chosen();
+}
+
+void TakeDrawings(Main& window, const ScreenshotJob& job) {
+  window.Detail->setCurrentWidget(window.Detail->Tools);
+  window.findChild<QToolButton*>("OvButt(10)")->setChecked(true);
+  window.Detail->Tools->Draw[2]->setChecked(true);
+  window.Detail->Tools->DColour[5]->setChecked(true);
+  emit window.Map->Universe->MouseDown(1, 0, 1000, 9000);
+  emit window.Map->Universe->MouseDown(1, 0, 7000, 8000);
+  emit window.Map->Universe->MouseDown(1, 0, 3000, 3000);
+  emit window.Map->Universe->MouseMove(0, 0, 6000, 5000);
+  Save(window, job, "main-drawing");
+  window.findChild<QToolButton*>("OvButt(10)")->setChecked(false);
+}
+
 void TakeOverlays(Main& window, const ScreenshotJob& job) {
   for (const OverlayTexts& overlay : kOverlayTable) {
     if (overlay.Kind <= OverlayKind::ZoomIn) continue;
@@ -124,6 +147,8 @@ void TakePictures(const ScreenshotJob& job) {
   Save(window, job, "main-window");
   TakeDetails(window, job);
   ShowFindDialog(window, job);
+  ShowColourDialog(window, job);
+  TakeDrawings(window, job);
 
   window.findChild<QToolButton*>("OvButt(1)")->setChecked(true);
   const SurfacePoint home = PositionOf(HomeWorld(window.Session()), window.Map->State().View);

@@ -1,6 +1,6 @@
 #include "ui/race_colour.h"
 
-#include <QFormLayout>
+#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
@@ -35,15 +35,11 @@ RaceColour::RaceColour(GameSession& session, int position, int slot, const QStri
   PN2 = NewHiddenNumber("PN2", slot, this);
   auto* row = new QHBoxLayout(this);
   auto* column = new QVBoxLayout();
-  auto* sliders = new QFormLayout();
+  auto* sliders = new QGridLayout();
   const Colour colour = Slot();
-  RedSlide = AddSlider("RedSlide", "Red", colour.Red);
-  GreenSlide = AddSlider("GreenSlide", "Green", colour.Green);
-  BlueSlide = AddSlider("BlueSlide", "Blue", colour.Blue);
-  sliders->addRow("Red", RedSlide);
-  sliders->addRow("Green", GreenSlide);
-  sliders->addRow("Blue", BlueSlide);
-  sliders->setVerticalSpacing(14);
+  RedSlide = AddSlider(*sliders, "RedSlide", "Red", colour.Red);
+  GreenSlide = AddSlider(*sliders, "GreenSlide", "Green", colour.Green);
+  BlueSlide = AddSlider(*sliders, "BlueSlide", "Blue", colour.Blue);
   butOK = new QPushButton("OK", this);
   butOK->setObjectName("butOK");
   butOK->setDefault(true);
@@ -63,15 +59,25 @@ RaceColour::RaceColour(GameSession& session, int position, int slot, const QStri
   ShowPreview();
 }
 
-QSlider* RaceColour::AddSlider(const char* name, const QString& label, int value) {
+// One row: the component's name, its slider and its number.
+QSlider* RaceColour::AddSlider(QGridLayout& rows, const char* name, const QString& component,
+                               int value) {
   constexpr int kFullComponent = 255;
   auto* slider = new QSlider(Qt::Horizontal, this);
   slider->setObjectName(name);
-  slider->setAccessibleName(label);
+  slider->setAccessibleName(component);
   slider->setRange(0, kFullComponent);
   slider->setValue(value);
   slider->setMinimumWidth(kSliderWidth);
+  QLabel* number = NewCaption(QString::number(value), this);
+  number->setMinimumWidth(number->fontMetrics().horizontalAdvance("255"));
+  number->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  connect(slider, &QSlider::valueChanged, number, qOverload<int>(&QLabel::setNum));
   connect(slider, &QSlider::valueChanged, this, &RaceColour::ShowPreview);
+  const int row = rows.rowCount();
+  rows.addWidget(NewCaption(component, this), row, 0);
+  rows.addWidget(slider, row, 1);
+  rows.addWidget(number, row, 2);
   return slider;
 }
 

@@ -8,6 +8,8 @@
 #include "model/game_session.h"
 #include "platform/toolkit/picture_box.h"
 
+class QGridLayout;
+
 namespace quorvane {
 
 /// The dialog that mixes a race's colour from three sliders. Only OK stores it.
@@ -32,7 +34,7 @@ class RaceColour : public QDialog {
  private:
   Colour& Slot() const;
   Colour Mixed() const;
-  QSlider* AddSlider(const char* name, const QString& label, int value);
+  QSlider* AddSlider(QGridLayout& rows, const char* name, const QString& component, int value);
   void ShowPreview();
   void butOK_Click();
 
