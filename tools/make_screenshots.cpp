@@ -14,6 +14,8 @@
 #include "render/planets_in_view.h"
 #include "ui/details_panel.h"
 #include "ui/legend.h"
+#include "ui/grid.h"
+#include "ui/grid_heading.h"
 #include "ui/main_window.h"
 #include "ui/map_panel.h"
 #include "ui/overlay_bar.h"
@@ -101,6 +103,23 @@ void TakeDrawings(Main& window, const ScreenshotJob& job) {
   window.findChild<QToolButton*>("OvButt(10)")->setChecked(false);
 }
 
+void ShowGrid(Main& window, const ScreenshotJob& job) {
+  window.findChild<QAction*>("mnuGrid")->trigger();
+  QApplication::processEvents();  // it becomes the active window
+  auto* grid = qobject_cast<Grid*>(QApplication::activeWindow());
+  constexpr int kResources = 12;
+  emit grid->findChild<GridHeading*>()->Clicked(kResources, Qt::RightButton);
+  Save(*grid, job, "planet-grid");
+  QTimer::singleShot(100, grid, [&job] {
+    QWidget* chooser = QApplication::activeModalWidget();
+    chooser->findChild<QListWidget*>()->item(1)->setCheckState(Qt::Unchecked);
+    Save(*chooser, job, "show-hide");
+    chooser->close();
+  });
+  grid->mnuSH->trigger();
+  grid->close();
+}
+
 void TakeOverlays(Main& window, const ScreenshotJob& job) {
   for (const OverlayTexts& overlay : kOverlayTable) {
     if (overlay.Kind <= OverlayKind::ZoomIn) continue;
@@ -149,6 +168,7 @@ void TakePictures(const ScreenshotJob& job) {
   ShowFindDialog(window, job);
   ShowColourDialog(window, job);
   TakeDrawings(window, job);
+  ShowGrid(window, job);
 
   window.findChild<QToolButton*>("OvButt(1)")->setChecked(true);
   const SurfacePoint home = PositionOf(HomeWorld(window.Session()), window.Map->State().View);

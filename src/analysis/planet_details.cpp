@@ -65,10 +65,6 @@ void AppendEnvironment(std::vector<DetailText>& texts, const PlanetRecord& plane
                              {"Rad2", reading(Field::Radiation2, "mR")}});
 }
 
-std::string GateLimit(const FieldValue& limit) {
-  return limit.ReadsAs(kUnlimitedGate) ? "Inf" : std::string(Trimmed(FieldText(limit)));
-}
-
 }  // namespace
 
 std::vector<DetailText> DescribePlanet(const GameSession& session, int planet) {
@@ -98,8 +94,7 @@ StargateDetails DescribeStargate(const GameSession& session, int planet) {
     details.Type = "None Detected";
     return details;
   }
-  details.Type =
-      GateLimit(sender[Field::GateMass]) + " Kt / " + GateLimit(sender[Field::GateRange]) + " l.y.";
+  details.Type = GateLimitsText(sender);
   for (int other = 1; other <= session.PlanetCount; ++other) {
     const PlanetRecord& receiver = session.Planet(other);
     if (other == planet || !(receiver[Field::GateRange].Number() > 0)) continue;

@@ -3,8 +3,16 @@
 #include <cmath>
 
 #include "model/rounding.h"
+#include "model/text.h"
 
 namespace quorvane {
+namespace {
+
+std::string LimitText(const FieldValue& limit) {
+  return limit.ReadsAs(kUnlimitedGate) ? "Inf" : std::string(Trimmed(FieldText(limit)));
+}
+
+}  // namespace
 
 std::int32_t GateDistance(const PlanetRecord& from, const PlanetRecord& to) {
   const double x = from.X() - to.X();
@@ -20,6 +28,11 @@ GateReach ReachOf(std::int32_t range, std::int32_t distance) {
 
 std::int32_t GateRangeOf(const PlanetRecord& planet) {
   return ToWhole32(planet[PlanetField::GateRange].Number());
+}
+
+std::string GateLimitsText(const PlanetRecord& planet) {
+  return LimitText(planet[PlanetField::GateMass]) + " Kt / " +
+         LimitText(planet[PlanetField::GateRange]) + " l.y.";
 }
 
 }  // namespace quorvane

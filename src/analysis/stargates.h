@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 
 #include "model/planet_record.h"
 
@@ -19,5 +20,8 @@ GateReach ReachOf(std::int32_t range, std::int32_t distance);
 
 /// The range of a planet's stargate in whole light years; 0 or less: it has none.
 std::int32_t GateRangeOf(const PlanetRecord& planet);
+
+/// What a planet's stargate can do, mass before range: "300 Kt / Inf l.y.".
+std::string GateLimitsText(const PlanetRecord& planet);
 
 }  // namespace quorvane

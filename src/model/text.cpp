@@ -117,6 +117,19 @@ bool EqualIgnoringCase(std::string_view left, std::string_view right) {
   return std::ranges::equal(left, right, {}, LowerCase, LowerCase);
 }
 
+std::string InLowerCase(std::string_view text) {
+  std::string lower(text);
+  std::ranges::transform(lower, lower.begin(), LowerCase);
+  for (size_t lead = lower.find('\xC3'); lead != lower.npos && lead + 1 < lower.size();
+       lead = lower.find('\xC3', lead + 2)) {
+    // U+00C0 … U+00DE lie 32 below their small letters; in their midst is the sign for "times".
+    const auto second = static_cast<unsigned char>(lower[lead + 1]);
+    const bool isCapital = second >= 0x80 && second <= 0x9E && second != 0x97;
+    if (isCapital) lower[lead + 1] = static_cast<char>(second + 0x20);
+  }
+  return lower;
+}
+
 std::string_view TakeLine(std::string_view& rest) {
   const size_t end = std::min(rest.find('\n'), rest.size());
   std::string_view line = rest.substr(0, end);

@@ -18,6 +18,10 @@ std::string_view Trimmed(std::string_view text);
 /// file names.
 bool EqualIgnoringCase(std::string_view left, std::string_view right);
 
+/// The text in small letters, for comparing names as people do: the accented capitals of Western
+/// Europe (À … Þ) become small as well as the ASCII ones.
+std::string InLowerCase(std::string_view text);
+
 /// Takes the next line off the front of `rest`, without its line end (CR LF or LF).
 std::string_view TakeLine(std::string_view& rest);
 

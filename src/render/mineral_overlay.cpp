@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "analysis/expansion_value.h"
 #include "model/rounding.h"
 #include "render/discs.h"
 #include "render/palette.h"
@@ -45,12 +46,6 @@ void DrawAverage(DrawingSurface& surface, SurfacePoint at, const Concentrations&
                                      TimesHundredths(minerals.Boranium, 255),
                                      TimesHundredths(minerals.Ironium, 255));
   DrawDisc(surface, at, RoundHalfEven(average), mixed);
-}
-
-// Germanium, which factories need, counts most.
-double SettlingValue(const Concentrations& minerals, double habValue) {
-  return RoundHalfEven((1.5 * minerals.Ironium + minerals.Boranium + 2 * minerals.Germanium) / 4.5 *
-                       habValue / 100);
 }
 
 void DrawSettlingValue(DrawingSurface& surface, SurfacePoint at, double value) {
@@ -98,10 +93,8 @@ void DrawAverageMineralConcentration(const GameSession& session, const MapView& 
 void DrawEmpireExpansion(const GameSession& session, const MapView& view, DrawingSurface& surface) {
   surface.SetPen(kDiscPen);
   for (const auto& [planet, at] : PlanetsInView(session, view)) {
-    const Concentrations minerals(planet);
-    if (minerals.AreKnown()) {
-      const double habValue = planet[PlanetField::HabValue].Number();
-      DrawSettlingValue(surface, at, SettlingValue(minerals, habValue));
+    if (Concentrations(planet).AreKnown()) {
+      DrawSettlingValue(surface, at, RoundHalfEven(ExpansionValue(planet)));
     } else {
       DrawUnexploredDisc(surface, at);
     }

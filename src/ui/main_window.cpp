@@ -28,6 +28,7 @@
 #include "ui/details_panel.h"
 #include "ui/drawing_board.h"
 #include "ui/find_planet.h"
+#include "ui/grid.h"
 #include "ui/labels.h"
 #include "ui/legend.h"
 #include "ui/map_panel.h"
@@ -153,9 +154,10 @@ void Main::ConnectMenus() {
   connect(Menu.mnuSave, &QAction::triggered, this, &Main::mnuSave_Click);
   connect(Menu.mnuSearchPlanet, &QAction::triggered, this, &Main::mnuSearchPlanet_Click);
   connect(Menu.mnuHideSelect, &QAction::triggered, this, &Main::mnuHideSelect_Click);
+  connect(Menu.mnuGrid, &QAction::triggered, this, &Main::mnuGrid_Click);
   // A picture or colours to save exist once a game is loaded; the other windows are not built yet.
-  for (QAction* item : {Menu.mnuSave, Menu.mnuSaveRaceC, Menu.mnuGrid, Menu.mnuGrid2, Menu.mnuAbout,
-                        Menu.mnuThanks}) {
+  for (QAction* item :
+       {Menu.mnuSave, Menu.mnuSaveRaceC, Menu.mnuGrid2, Menu.mnuAbout, Menu.mnuThanks}) {
     item->setEnabled(false);
   }
 }
@@ -391,6 +393,12 @@ void Main::mnuSearchPlanet_Click() {
   const SurfacePoint at = Map->State().View.ToSurface(
       {static_cast<double>(session_.SelectedX), static_cast<double>(session_.SelectedY)});
   Universe_MouseDown(1, 0, at.X, at.Y);
+}
+
+void Main::mnuGrid_Click() {
+  if (grid_ == nullptr) grid_ = std::make_unique<Grid>();
+  grid_->Fill(session_);
+  grid_->ShowInFront();
 }
 
 void Main::mnuSave_Click() {

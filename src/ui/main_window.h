@@ -22,6 +22,7 @@ namespace quorvane {
 class DetailsPanel;
 class DrawingBoard;
 class FindPlanet;
+class Grid;
 class Legend;
 class MapPanel;
 class OverlayBar;
@@ -76,6 +77,7 @@ class Main : public QMainWindow {
   void Universe_Hovered(SurfacePoint at, bool isPicking);
   void mnuSearchPlanet_Click();
   void mnuHideSelect_Click();
+  void mnuGrid_Click();
   void mnuSave_Click();
   void mnuSaveRaceC_Click();
   void mnuExit_Click();
@@ -95,6 +97,7 @@ class Main : public QMainWindow {
   OpenState open_;
   std::unique_ptr<OpenFile> openFile_;
   std::unique_ptr<FindPlanet> findPlanet_;
+  std::unique_ptr<Grid> grid_;
   GameSession session_;
   QScrollArea* scroll_ = nullptr;
   QWidget* area_ = nullptr;

@@ -38,14 +38,15 @@ QTabWidget#Detail > QTabBar::tab {
   padding: 3px 5px; min-width: 20px; border: 1px solid #3a4250; border-bottom: none;
   border-top-left-radius: 3px; border-top-right-radius: 3px; background: #252a33; }
 QTabWidget#Detail > QTabBar::tab:selected { background: #3a4250; border-color: #55617a; }
-QRadioButton::indicator, QCheckBox::indicator {
+QListWidget#ShowHideList::item { padding: 2px; }
+QRadioButton::indicator, QCheckBox::indicator, QListView::indicator {
   width: 13px; height: 13px; border: 1px solid #77829a; background: #1f232b; }
 QRadioButton::indicator { border-radius: 7px; }
-QCheckBox::indicator { border-radius: 3px; }
+QCheckBox::indicator, QListView::indicator { border-radius: 3px; }
 QRadioButton::indicator:checked { border-color: #8fb8e8; background: qradialgradient(
   cx: 0.5, cy: 0.5, radius: 0.5, fx: 0.5, fy: 0.5,
   stop: 0 #ffffff, stop: 0.5 #ffffff, stop: 0.62 #3d6ea5, stop: 1 #3d6ea5); }
-QCheckBox::indicator:checked {
+QCheckBox::indicator:checked, QListView::indicator:checked {
   border-color: #8fb8e8; background: #3d6ea5; image: url(:/icons/check.svg); }
 QRadioButton::indicator:focus, QCheckBox::indicator:focus { border-color: #ffffff; }
 QRadioButton::indicator:disabled, QCheckBox::indicator:disabled { border-color: #4a5366; }

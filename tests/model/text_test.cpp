@@ -35,6 +35,12 @@ TEST(Trimmed, DropsBlanksOnly) {
   EXPECT_EQ(Trimmed("   "), "");
 }
 
+TEST(InLowerCase, KnowsAsciiAndTheAccentedCapitalsOfTheGame) {
+  const std::pair<const char*, const char*> cases[] = {
+      {"Alpha 9Z", "alpha 9z"}, {"ÀÉÖÞ", "àéöþ"}, {"×÷ßÿ€", "×÷ßÿ€"}, {"cut \xC3", "cut \xC3"}};
+  for (const auto& [text, lower] : cases) EXPECT_EQ(InLowerCase(text), lower);
+}
+
 TEST(Excerpt, NeverCutsThroughACharacter) {
   const std::string text = Excerpt(std::string(39, 'x') + "\xC2\xBA\xC2\xBA");
   EXPECT_EQ(text, std::string(39, 'x') + "...");

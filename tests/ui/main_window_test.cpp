@@ -6,6 +6,7 @@
 
 #include "platform/toolkit/twips.h"
 #include "ui/details_panel.h"
+#include "ui/grid.h"
 #include "ui/main_window_fixture.h"
 
 namespace quorvane {
@@ -285,6 +286,29 @@ TEST_F(MainWindowTest, FoundPlanetIsMarkedAndShownWhenAsked) {
   EXPECT_EQ(prompts.Shown(), Texts{"Planet Nowhere not found!"});
   EXPECT_FALSE(driver.IsVisible("CurrentSelected"));
   EXPECT_EQ(driver.Text("PlanetName"), "Beta");
+}
+
+TEST_F(MainWindowTest, PlanetGridIsFilledAnewByItsMenuItemAndStaysBesideTheWindow) {
+  Load();
+  const auto open = [&] {
+    Driver().Choose("mnuGrid");
+    QApplication::processEvents();  // it becomes the active window
+    return qobject_cast<Grid*>(QApplication::activeWindow());
+  };
+  Grid* const grid = open();
+  ASSERT_NE(grid, nullptr);
+  EXPECT_FALSE(grid->isModal());
+  EXPECT_EQ(grid->DG->model()->rowCount(), 4);
+  grid->SetColumnWidth(1, 0);
+  grid->showMinimized();
+  EXPECT_EQ(open(), grid);
+  EXPECT_FALSE(grid->isMinimized());
+  EXPECT_EQ(grid->ColumnWidth(1), 795);
+  // The program ends with its main window, whatever the grid does.
+  constexpr int kPatience = 5000;
+  QTimer::singleShot(0, &window, &Main::close);
+  QTimer::singleShot(kPatience, &window, [] { QApplication::exit(1); });
+  EXPECT_EQ(QApplication::exec(), 0);
 }
 
 TEST_F(MainWindowTest, SavesTheMapAsItIsWithoutTheMarker) {

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "model/planet_record.h"
+
+namespace quorvane {
+
+/// What a planet is worth to a growing empire, not rounded: its mineral concentrations, of which
+/// germanium, which factories need, counts most, times its value for the user's own race.
+double ExpansionValue(const PlanetRecord& planet);
+
+}  // namespace quorvane

@@ -1,0 +1,169 @@
+#include "ui/grid.h"
+
+#include <QAction>
+#include <QMenu>
+#include <QMenuBar>
+#include <QShortcut>
+#include <algorithm>
+
+#include "platform/toolkit/twips.h"
+#include "ui/grid_heading.h"
+#include "ui/grid_model.h"
+#include "ui/show_hide.h"
+
+namespace quorvane {
+namespace {
+
+constexpr QSize kFirstSize(1200, 640);
+constexpr int kSmallestTwips = 2000;
+constexpr int kDefaultWidthTwips = 960;
+// What the window's outer size has beyond the table: frame and menu bar.
+constexpr int kSidesTwips = 135;
+constexpr int kTopAndBottomTwips = 700;
+constexpr int kRowPadding = 6;
+constexpr double kFontSize = 8;
+
+void SetBehaviour(QTableView& table) {
+  table.setSelectionBehavior(QAbstractItemView::SelectRows);
+  table.setSelectionMode(QAbstractItemView::SingleSelection);
+  table.setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+  table.setWordWrap(false);
+  table.setCornerButtonEnabled(false);
+}
+
+void SetLook(QTableView& table) {
+  QPalette black = table.palette();
+  black.setColor(QPalette::Base, Qt::black);
+  table.setPalette(black);
+  // Columns have fixed first widths, which shall hold most texts whole.
+  QFont small = table.font();
+  small.setPointSizeF(kFontSize);
+  table.setFont(small);
+  table.horizontalHeader()->setFont(small);
+  table.verticalHeader()->hide();
+  // Rows of one height need no measuring, however many planets there are.
+  table.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  table.verticalHeader()->setDefaultSectionSize(QFontMetrics(small).height() + kRowPadding);
+}
+
+}  // namespace
+
+Grid::Grid() {
+  setObjectName("Grid");
+  setWindowTitle("Planet Grid");
+  setAttribute(Qt::WA_QuitOnClose, false);
+  mnuView = menuBar()->addMenu("&View");
+  mnuView->setObjectName("mnuView");
+  mnuView->menuAction()->setObjectName("mnuView");
+  mnuSH = mnuView->addAction("Show / Hide Columns", this, &Grid::mnuSH_Click);
+  mnuSH->setObjectName("mnuSH");
+  BuildTable();
+  AddKeys();
+  setMinimumSize(PixelsFromTwips(kSmallestTwips), PixelsFromTwips(kSmallestTwips));
+  resize(kFirstSize);
+}
+
+void Grid::BuildTable() {
+  setCentralWidget(new QWidget());
+  model_ = new GridModel(this);
+  DG = new QTableView(centralWidget());
+  DG->setObjectName("DG");
+  DG->setAccessibleName(tr("Planets"));
+  auto* heading = new GridHeading(DG);
+  heading->setToolTip(
+      tr("Click to sort, with the right button from the end.\n"
+         "Ctrl+Up and Ctrl+Down sort by the current column."));
+  connect(heading, &GridHeading::Clicked, this, &Grid::DG_Click);
+  DG->setHorizontalHeader(heading);
+  DG->setModel(model_);
+  SetBehaviour(*DG);
+  SetLook(*DG);
+  DG->setFocus();
+}
+
+void Grid::AddKeys() {
+  const auto sortCurrent = [this](Qt::SortOrder order) {
+    const QModelIndex current = DG->currentIndex();
+    if (current.isValid()) SortBy(current.column(), order);
+  };
+  const auto onKey = [this](const QKeySequence& key, const auto& act) {
+    connect(new QShortcut(key, this), &QShortcut::activated, this, act);
+  };
+  onKey(Qt::CTRL | Qt::Key_Up, [=] { sortCurrent(Qt::AscendingOrder); });
+  onKey(Qt::CTRL | Qt::Key_Down, [=] { sortCurrent(Qt::DescendingOrder); });
+  onKey(Qt::Key_Escape, [this] { close(); });
+}
+
+void Grid::Fill(const GameSession& session) {
+  model_->Show(FillPlanetGrid(session));
+  for (int column = 0; column < ColumnCount(); ++column) {
+    SetColumnWidth(column, model_->Snapshot().Columns[static_cast<std::size_t>(column)].Width);
+  }
+  DG->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
+  DG->setCurrentIndex(model_->index(0, 0));
+  DG->scrollToTop();
+}
+
+void Grid::ShowInFront() {
+  if (isMinimized()) {
+    showNormal();
+  } else {
+    show();
+  }
+  raise();
+  activateWindow();
+}
+
+int Grid::ColumnCount() const { return model_->columnCount(); }
+
+QString Grid::Heading(int column) const { return model_->Heading(column); }
+
+int Grid::ColumnWidth(int column) const {
+  return DG->isColumnHidden(column) ? 0 : TwipsFromPixels(DG->columnWidth(column));
+}
+
+void Grid::SetColumnWidth(int column, int twips) {
+  DG->setColumnHidden(column, twips == 0);
+  if (twips == 0) return;
+  DG->setColumnWidth(column,
+                     PixelsFromTwips(twips == kDefaultColumnWidth ? kDefaultWidthTwips : twips));
+}
+
+void Grid::resizeEvent(QResizeEvent* event) {
+  QMainWindow::resizeEvent(event);
+  Form_Resize();
+}
+
+// The frame that a window manager puts around the window becomes known with its first move.
+void Grid::moveEvent(QMoveEvent* event) {
+  QMainWindow::moveEvent(event);
+  Form_Resize();
+}
+
+void Grid::Form_Resize() {
+  if (isMinimized()) return;
+  const QSize room = centralWidget()->size();
+  const QSize outer = frameGeometry().size();
+  // A frame thicker than the rule expects must not push the scroll bars out of sight.
+  const int width =
+      std::min(room.width(), PixelsFromTwips(TwipsFromPixels(outer.width()) - kSidesTwips));
+  const int height = std::min(
+      room.height(), PixelsFromTwips(TwipsFromPixels(outer.height()) - kTopAndBottomTwips));
+  DG->setGeometry((room.width() - width) / 2, 0, width, height);
+}
+
+void Grid::DG_Click(int column, Qt::MouseButton button) {
+  SortBy(column, button == Qt::LeftButton ? Qt::AscendingOrder : Qt::DescendingOrder);
+}
+
+// The column sorted by is the current one, also for the keyboard.
+void Grid::SortBy(int column, Qt::SortOrder order) {
+  const int row = std::max(DG->currentIndex().row(), 0);
+  DG->setCurrentIndex(model_->index(row, column));
+  model_->sort(column, order);
+  DG->horizontalHeader()->setSortIndicator(column, order);
+}
+
+void Grid::mnuSH_Click() { ShowHide(*this).exec(); }
+
+}  // namespace quorvane

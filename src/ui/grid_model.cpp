@@ -1,0 +1,89 @@
+#include "ui/grid_model.h"
+
+#include <QBrush>
+#include <numeric>
+#include <utility>
+
+#include "platform/toolkit/colours.h"
+#include "ui/texts.h"
+
+namespace quorvane {
+namespace {
+
+Qt::Alignment AlignmentOf(std::size_t column) {
+  return Qt::AlignVCenter | (IsTextColumn(column) ? Qt::AlignLeft : Qt::AlignRight);
+}
+
+}  // namespace
+
+void GridModel::Show(PlanetGrid grid) {
+  beginResetModel();
+  grid_ = std::move(grid);
+  order_.resize(grid_.Rows.size());
+  std::iota(order_.begin(), order_.end(), std::size_t{0});
+  endResetModel();
+}
+
+QString GridModel::Heading(int column) const {
+  const PlanetGridColumn& shown = grid_.Columns.at(static_cast<std::size_t>(column));
+  return ToQString(shown.Heading).replace("\r\n", "\n");
+}
+
+const PlanetGridRow& GridModel::ShownRow(int row) const {
+  return grid_.Rows.at(order_.at(static_cast<std::size_t>(row)));
+}
+
+int GridModel::rowCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : static_cast<int>(order_.size());
+}
+
+int GridModel::columnCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : static_cast<int>(grid_.Columns.size());
+}
+
+QVariant GridModel::data(const QModelIndex& index, int role) const {
+  if (!index.isValid()) return {};
+  const PlanetGridRow& row = ShownRow(index.row());
+  switch (role) {
+    case Qt::DisplayRole:
+      return ToQString(row.Cells.at(static_cast<std::size_t>(index.column())));
+    case Qt::TextAlignmentRole:
+      return QVariant(AlignmentOf(static_cast<std::size_t>(index.column())));
+    case Qt::BackgroundRole:
+      return QBrush(QColor(RgbOf(row.Background)));
+    case Qt::ForegroundRole:
+      return QBrush(Qt::white);
+    default:
+      return {};
+  }
+}
+
+QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {
+  if (orientation != Qt::Horizontal || role != Qt::DisplayRole) return {};
+  return Heading(section);
+}
+
+void GridModel::sort(int column, Qt::SortOrder order) {
+  if (column < 0 || column >= columnCount()) return;
+  emit layoutAboutToBeChanged({}, VerticalSortHint);
+  const std::vector<std::size_t> oldOrder = order_;
+  order_ = SortedRows(
+      grid_, static_cast<std::size_t>(column),
+      order == Qt::AscendingOrder ? SortDirection::Ascending : SortDirection::Descending, oldOrder);
+  MoveSelections(oldOrder);
+  emit layoutChanged({}, VerticalSortHint);
+}
+
+void GridModel::MoveSelections(const std::vector<std::size_t>& oldOrder) {
+  std::vector<int> shownAt(order_.size());
+  for (std::size_t row = 0; row < order_.size(); ++row)
+    shownAt[order_[row]] = static_cast<int>(row);
+  const QModelIndexList before = persistentIndexList();
+  QModelIndexList after;
+  for (const QModelIndex& old : before) {
+    after << index(shownAt[oldOrder[static_cast<std::size_t>(old.row())]], old.column());
+  }
+  changePersistentIndexList(before, after);
+}
+
+}  // namespace quorvane

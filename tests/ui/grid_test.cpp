@@ -1,0 +1,166 @@
+#include "ui/grid.h"
+
+#include <gtest/gtest.h>
+
+#include <QHeaderView>
+#include <QTest>
+#include <QTimer>
+#include <functional>
+#include <tuple>
+
+#include "platform/toolkit/twips.h"
+#include "support/game_builder.h"
+#include "support/window_driver.h"
+#include "ui/show_hide.h"
+
+namespace quorvane {
+namespace {
+
+constexpr int kX = 1;
+constexpr int kName = 3;
+constexpr int kOwner = 4;
+constexpr int kPopulation = 7;
+
+class GridTest : public testing::Test {
+ protected:
+  GridTest() {
+    GameBuilder game;
+    game.Planet("delta", {1100, 1200}).OwnedBy("Veldt").With(PlanetField::Population, "900");
+    game.Planet("Beta", {1200, 1200}).With(PlanetField::Population, "1000");
+    game.Planet("alpha", {1300, 1200}).With(PlanetField::Population, "Uninhabited");
+    game.Planet("Gamma", {1400, 1200}).OwnedBy("Halvorane").With(PlanetField::Population, "1000");
+    session = game.Build();
+    grid.Fill(session);
+    grid.show();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&grid));
+  }
+
+  void ClickHeading(int column, Qt::MouseButton button) {
+    const QHeaderView& heading = *grid.DG->horizontalHeader();
+    const int x = heading.sectionViewportPosition(column) + heading.sectionSize(column) / 2;
+    QTest::mouseClick(heading.viewport(), button, {}, QPoint(x, heading.height() / 2));
+  }
+
+  // One column's cells from top to bottom.
+  QString Column(int column) const {
+    QStringList cells;
+    const QAbstractItemModel& model = *grid.DG->model();
+    for (int row = 0; row < model.rowCount(); ++row) {
+      cells << model.index(row, column).data().toString();
+    }
+    return cells.join(",");
+  }
+
+  // Opens the chooser, works it and closes it with a key.
+  void UseChooser(const std::function<void(ShowHide&)>& work, Qt::Key closingKey) {
+    QTimer::singleShot(0, &grid, [&] {
+      auto& chooser = dynamic_cast<ShowHide&>(*QApplication::activeModalWidget());
+      work(chooser);
+      WindowDriver(chooser).Press("ShowHideList", closingKey);
+    });
+    WindowDriver(grid).Choose("mnuSH");
+  }
+
+  GameSession session;
+  Grid grid;
+};
+
+void ClickMark(ShowHide& chooser, int entry) {
+  QListWidget& list = *chooser.ShowHideList;
+  const QRect place = list.visualItemRect(list.item(entry));
+  QTest::mouseClick(list.viewport(), Qt::LeftButton, {},
+                    QPoint(place.left() + 10, place.center().y()));
+}
+
+TEST_F(GridTest, ClickOnAHeadingSortsWholeRowsByButton) {
+  const std::tuple<int, Qt::MouseButton, const char*> clicks[] = {
+      {kName, Qt::LeftButton, "alpha,Beta,delta,Gamma"},
+      {kPopulation, Qt::LeftButton, "delta,Beta,Gamma,alpha"},
+      {kPopulation, Qt::RightButton, "alpha,Beta,Gamma,delta"},
+      {kOwner, Qt::MiddleButton, "delta,Gamma,alpha,Beta"}};
+  for (const auto& [column, button, names] : clicks) {
+    ClickHeading(column, button);
+    EXPECT_EQ(Column(kName), names);
+    EXPECT_EQ(grid.DG->currentIndex().column(), column);
+  }
+  EXPECT_EQ(Column(kX), "1100,1400,1300,1200");
+  const QModelIndex first = grid.DG->model()->index(0, kX);
+  EXPECT_EQ(first.data(Qt::BackgroundRole).value<QBrush>().color(), QColor(85, 0, 0));
+  EXPECT_EQ(first.data(Qt::ForegroundRole).value<QBrush>().color(), QColor(Qt::white));
+}
+
+TEST_F(GridTest, KeysSortByTheCurrentColumnAndTheSelectionStaysOnItsPlanet) {
+  const QAbstractItemModel& model = *grid.DG->model();
+  grid.DG->setCurrentIndex(model.index(0, kName));
+  QTest::keyClick(grid.DG, Qt::Key_Down, Qt::ControlModifier);
+  EXPECT_EQ(Column(kName), "Gamma,delta,Beta,alpha");
+  EXPECT_EQ(grid.DG->currentIndex().data(), "delta");
+  EXPECT_TRUE(grid.DG->selectionModel()->isRowSelected(1));
+  QTest::keyClick(grid.DG, Qt::Key_Up, Qt::ControlModifier);
+  EXPECT_EQ(Column(kName), "alpha,Beta,delta,Gamma");
+  QTest::keyClick(grid.DG, Qt::Key_Escape);
+  EXPECT_FALSE(grid.isVisible());
+}
+
+TEST_F(GridTest, ClickBelowTheHeadingOrADragOfItsEdgeSortsNothing) {
+  const QHeaderView& heading = *grid.DG->horizontalHeader();
+  EXPECT_EQ(heading.height(), 33);
+  QTest::mouseClick(grid.DG->viewport(), Qt::RightButton, {},
+                    grid.DG->visualRect(grid.DG->model()->index(2, kName)).center());
+  const QPoint edge(heading.sectionViewportPosition(kOwner) - 1, 10);
+  QTest::mousePress(heading.viewport(), Qt::LeftButton, {}, edge);
+  QTest::mouseMove(heading.viewport(), edge + QPoint(30, 0));
+  QTest::mouseRelease(heading.viewport(), Qt::LeftButton, {}, edge + QPoint(30, 0));
+  EXPECT_EQ(Column(kName), "delta,Beta,alpha,Gamma");
+}
+
+TEST_F(GridTest, ChooserHidesAndShowsColumnsAtOnceUntilTheNextFilling) {
+  UseChooser(
+      [&](ShowHide& chooser) {
+        EXPECT_EQ(chooser.ShowHideList->count(), 26);
+        EXPECT_EQ(chooser.ShowHideList->item(25)->text(), "Halvorane\nEst Hab %");
+        EXPECT_EQ(chooser.ShowHideList->currentRow(), 0);
+        QTest::keyClick(chooser.ShowHideList, Qt::Key_Space);
+        EXPECT_EQ(grid.ColumnWidth(kX), 0);
+        ClickMark(chooser, kName - 1);
+        EXPECT_EQ(grid.ColumnWidth(kName), 0);
+        ClickMark(chooser, kName - 1);
+        EXPECT_EQ(grid.ColumnWidth(kName), 960);
+      },
+      Qt::Key_Return);
+  UseChooser(
+      [&](ShowHide& chooser) {
+        EXPECT_EQ(chooser.ShowHideList->item(kX - 1)->checkState(), Qt::Unchecked);
+        EXPECT_EQ(chooser.ShowHideList->item(kName - 1)->checkState(), Qt::Checked);
+      },
+      Qt::Key_Escape);
+  EXPECT_EQ(grid.ColumnWidth(kX), 0);
+  ClickHeading(kName, Qt::LeftButton);
+  session.Planet(1)[PlanetField::Name] = "Zeta";
+  EXPECT_EQ(Column(kName), "alpha,Beta,delta,Gamma");  // a snapshot
+  grid.Fill(session);
+  EXPECT_EQ(Column(kName), "Zeta,Beta,alpha,Gamma");
+  EXPECT_EQ(grid.ColumnWidth(kX), 795);  // 800 twips in whole pixels
+  EXPECT_EQ(grid.ColumnWidth(kName), 1245);
+}
+
+TEST_F(GridTest, TableFollowsTheOuterSizeAndTheWindowNeverGetsTooSmall) {
+  for (const QSize size : {QSize(900, 500), QSize(67, 67)}) {
+    grid.resize(size);
+    EXPECT_EQ(grid.size(), size.expandedTo({133, 133}));
+    const QSize outer = grid.frameGeometry().size();
+    EXPECT_NEAR(TwipsFromPixels(grid.DG->width()), TwipsFromPixels(outer.width()) - 135, 8);
+    EXPECT_NEAR(TwipsFromPixels(grid.DG->height()), TwipsFromPixels(outer.height()) - 700, 8);
+  }
+}
+
+TEST_F(GridTest, ShowsAGameWithoutPlanetsOrPlayers) {
+  grid.Fill(GameSession());
+  ClickHeading(kName, Qt::RightButton);
+  QTest::keyClick(grid.DG, Qt::Key_Up, Qt::ControlModifier);
+  EXPECT_EQ(grid.ColumnCount(), 25);
+  EXPECT_EQ(Column(kName), "");
+}
+
+}  // namespace
+}  // namespace quorvane
