@@ -91,5 +91,22 @@ TEST(PictureSurface, DrawsThePixelsOfItsPlainTwin) {
   }
 }
 
+TEST(PictureText, LooksAsIfItWereLaidOutEachTime) {
+  PictureSurface fast(kSize, 2, kUnits);
+  reference::PlainSurface plain(kSize, 2, kUnits);
+  const auto print = [](DrawingSurface& surface, double points, const char* text) {
+    surface.SetFontSize(points);
+    surface.SetForeColour({200, 255, 10});
+    surface.Print({-3, 7.7 * points - 50.3}, text);
+    return surface.TextWidth(text);
+  };
+  for (const double points : {6.0, 8.25, 6.0}) {
+    for (const char* text : {"Hamlet AV", "Hamlet AV", "", " 45%\t4\n5 ", "\u03c0\u4e2d\u05d0"}) {
+      EXPECT_EQ(print(fast, points, text), print(plain, points, text)) << text;
+      EXPECT_TRUE(fast.Picture() == plain.Picture()) << text << " in " << points << " points";
+    }
+  }
+}
+
 }  // namespace
 }  // namespace quorvane
