@@ -8,9 +8,14 @@
 #include <QPushButton>
 #include <QTimer>
 #include <QToolButton>
+#include <algorithm>
 #include <iostream>
 
+#include "render/planets_in_view.h"
+#include "ui/details_panel.h"
 #include "ui/main_window.h"
+#include "ui/map_panel.h"
+#include "ui/overlay_bar.h"
 #include "ui/texts.h"
 #include "ui/theme.h"
 
@@ -46,8 +51,56 @@ void UseOpenDialog(const ScreenshotJob& job) {
   dialog->findChild<QPushButton*>("Command1")->click();
 }
 
-void SwitchOn(Main& window, const char* button) {
-  window.findChild<QToolButton*>(button)->setChecked(true);
+// Clicks on the map where a planet lies, given in stored coordinates.
+void ClickPlanet(Main& window, const PlanetRecord& planet) {
+  const MapView& view = window.Map->State().View;
+  const SurfacePoint at = PositionOf(planet, view);
+  window.Map->Universe_MouseDown(1, 0, at.X, at.Y);
+}
+
+// The planet with the largest population of the user's own race.
+const PlanetRecord& HomeWorld(const GameSession& session) {
+  int home = 1;
+  for (int number = 1; number <= session.PlanetCount; ++number) {
+    const PlanetRecord& planet = session.Planet(number);
+    const bool isOwn = planet.Owner() == session.MyRaceName;
+    if (isOwn && planet.Population() > session.Planet(home).Population()) home = number;
+  }
+  return session.Planet(home);
+}
+
+void ShowFindDialog(Main& window, const ScreenshotJob& job) {
+  QTimer::singleShot(100, &window, [&job] {
+    QWidget* dialog = QApplication::activeModalWidget();
+    Save(*dialog, job, "find-planet");
+    dialog->findChild<QPushButton*>("Command2")->click();
+  });
+  window.findChild<QAction*>("mnuSearchPlanet")->trigger();
+}
+
+void TakeOverlays(Main& window, const ScreenshotJob& job) {
+  for (const OverlayTexts& overlay : kOverlayTable) {
+    if (overlay.Kind <= OverlayKind::ZoomIn) continue;
+    OverlaySwitches one;
+    one.Set(overlay.Kind, true);
+    window.Overlays->Show(one);
+    window.DrawOverlays();
+    Save(window, job, "overlay-" + ToQString(overlay.MenuName));
+  }
+  window.Overlays->Show({});
+  window.DrawOverlays();
+}
+
+void TakeDetails(Main& window, const ScreenshotJob& job) {
+  for (int tab = 0; tab < window.Detail->count(); ++tab) {
+    window.Detail->setCurrentIndex(tab);
+    Save(*window.Detail, job, QString("details-%1").arg(tab));
+  }
+  window.Detail->setCurrentIndex(1);
+  window.Detail->ChartType->click();
+  Save(*window.Detail, job, "details-bars");
+  window.Detail->ChartType->click();
+  window.Detail->setCurrentIndex(0);
 }
 
 void TakePictures(const ScreenshotJob& job) {
@@ -56,13 +109,30 @@ void TakePictures(const ScreenshotJob& job) {
   Save(window, job, "main-empty");
   QTimer::singleShot(100, &window, [&job] { UseOpenDialog(job); });
   window.mnuMap_Click();
-  SwitchOn(window, "OvButt(4)");
-  Save(window, job, "main-territories");
-  SwitchOn(window, "OvButt(2)");
-  SwitchOn(window, "OvButt(6)");
-  window.findChild<QAction*>("mnuNames(0)")->trigger();
-  Save(window, job, "main-planets");
-  window.findChild<QAction*>("mnuTerrEdge")->trigger();
+  TakeOverlays(window, job);
+
+  OverlaySwitches several;
+  for (const OverlayKind kind :
+       {OverlayKind::InfluenceBorders, OverlayKind::Planets, OverlayKind::OwnedPlanets,
+        OverlayKind::ScannedPlanets, OverlayKind::SafeStargateDistances, OverlayKind::NamesColoured,
+        OverlayKind::TerritoryEdges}) {
+    several.Set(kind, true);
+  }
+  window.Overlays->Show(several);
+  window.DrawOverlays();
+  ClickPlanet(window, HomeWorld(window.Session()));
+  Save(window, job, "main-window");
+  TakeDetails(window, job);
+  ShowFindDialog(window, job);
+
+  window.findChild<QToolButton*>("OvButt(1)")->setChecked(true);
+  const SurfacePoint home = PositionOf(HomeWorld(window.Session()), window.Map->State().View);
+  window.Map->Universe_MouseDown(1, 0, std::max(home.X - 1500, 0.0), std::max(home.Y - 1500, 0.0));
+  const SurfacePoint corner = window.Map->ZoomBox->TopLeft();
+  window.Map->ZoomBox->Place(corner, 3000);
+  Save(window, job, "main-zoom-box");
+  window.Map->Universe_MouseDown(1, 0, corner.X + 3000, corner.Y + 3000);
+  Save(window, job, "main-zoomed");
   window.resize(1000, 700);
   Save(window, job, "main-1000x700");
 }

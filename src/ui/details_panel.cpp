@@ -5,8 +5,11 @@
 #include <array>
 #include <span>
 
+#include "analysis/planet_details.h"
 #include "platform/toolkit/colours.h"
 #include "platform/toolkit/twips.h"
+#include "render/mineral_charts.h"
+#include "render/palette.h"
 #include "ui/labels.h"
 #include "ui/texts.h"
 
@@ -22,6 +25,10 @@ struct Row {
 constexpr int kTabStrip = 390;  // the height of the tabs, in twips of the whole panel
 constexpr int kPieSide = 1680;
 constexpr int kPieTop = 735;
+constexpr int kBarFoot = 2400;
+constexpr int kBarWidth = 315;
+constexpr const char* kViewAsBars = "View as Bar Chart";
+constexpr const char* kViewAsPies = "View as Pie Chart";
 
 QGridLayout* NewGrid(QWidget* page) {
   auto* grid = new QGridLayout(page);
@@ -46,14 +53,55 @@ void Place(QWidget& widget, int left, int top, int width, int height) {
                      PixelsFromTwips(width), PixelsFromTwips(height));
 }
 
-PictureBox* NewPie(const char* name, const QString& accessibleName, int left, QWidget* page) {
-  auto* pie = new PictureBox(page, QSizeF(kPieSide, kPieSide));
+PieChart* NewPie(const char* name, const QString& accessibleName, int left, QWidget* page) {
+  auto* pie = new PieChart(page);
   pie->setObjectName(name);
   pie->setAccessibleName(accessibleName);
-  pie->setFocusPolicy(Qt::NoFocus);
-  pie->Surface().SetPlainColour(ColourFrom(page->palette().color(QPalette::Window).rgb()));
   Place(*pie, left, kPieTop, kPieSide, kPieSide);
   return pie;
+}
+
+// A bar of the charts: what it is called, where it stands and its colour.
+struct Bar {
+  const char* Name;
+  int Left;
+  Colour BarColour;
+};
+constexpr std::array<Bar, 3> kConcentrationBars = {
+    {{"MCI", 300, kIroniumColour}, {"MCB", 720, kBoraniumColour}, {"MCG", 1140, kGermaniumColour}}};
+constexpr std::array<Bar, 3> kStoredBars = {{{"MSI", 2880, kIroniumColour},
+                                             {"MSB", 3300, kBoraniumColour},
+                                             {"MSG", 3720, kGermaniumColour}}};
+
+void SetBarHeight(QWidget& bar, int left, double height) {
+  const int pixels = PixelsFromTwips(height);
+  const int foot = PixelsFromTwips(kBarFoot - kTabStrip);
+  bar.setGeometry(PixelsFromTwips(left), foot - pixels, PixelsFromTwips(kBarWidth), pixels);
+}
+
+void SetBarHeights(const std::array<QWidget*, 3>& widgets, const std::array<Bar, 3>& bars,
+                   const std::array<double, 3>& heights) {
+  for (std::size_t bar = 0; bar < bars.size(); ++bar) {
+    SetBarHeight(*widgets[bar], bars[bar].Left, heights[bar]);
+  }
+}
+
+std::array<QWidget*, 3> NewBars(const std::array<Bar, 3>& bars, QWidget* page) {
+  std::array<QWidget*, 3> widgets = {};
+  for (std::size_t bar = 0; bar < bars.size(); ++bar) {
+    widgets[bar] = new QWidget(page);
+    widgets[bar]->setObjectName(bars[bar].Name);
+    widgets[bar]->setAutoFillBackground(true);
+    widgets[bar]->setPalette(QColor(RgbOf(bars[bar].BarColour)));
+    widgets[bar]->hide();
+  }
+  SetBarHeights(widgets, bars, {});
+  return widgets;
+}
+
+void FillList(QListWidget& list, const std::vector<std::string>& entries) {
+  list.clear();
+  for (const std::string& entry : entries) list.addItem(ToQString(entry));
 }
 
 // One row of the minerals tab: a caption and the control names of its three values.
@@ -139,15 +187,18 @@ void DetailsPanel::AddMineralsTab() {
   auto* page = new QWidget(this);
   QLabel* concentration = NewHeading("< Conc.", page);
   QLabel* stored = NewHeading("Stored >", page);
-  stored->setAlignment(Qt::AlignRight);
+  stored->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   Place(*concentration, 120, 450, 900, 255);
   Place(*stored, 3480, 450, 900, 255);
-  ChartType = new QPushButton("View as Bar Chart", page);
+  ChartType = new QPushButton(kViewAsBars, page);
   ChartType->setObjectName("ChartType");
   ChartType->setEnabled(false);
   Place(*ChartType, 1290, 420, 1935, 300);
   Pie1 = NewPie("Pie1", tr("Mineral concentrations"), 150, page);
   Pie2 = NewPie("Pie2", tr("Stored minerals"), 2670, page);
+  ConcentrationBars = NewBars(kConcentrationBars, page);
+  StoredBars = NewBars(kStoredBars, page);
+  connect(ChartType, &QPushButton::clicked, this, &DetailsPanel::ChartType_Click);
 
   auto* table = new QWidget(page);
   FillMineralTable(table);
@@ -181,7 +232,7 @@ void DetailsPanel::AddHabTab() {
     const auto index = static_cast<std::size_t>(race);
     RName[index] = NewValue(IndexedName("RName", race), page);
     RHab[index] = NewValue(IndexedName("RHab", race), page);
-    RHab[index]->setAlignment(Qt::AlignRight);
+    RHab[index]->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     const int column = race / kRowsPerColumn * 2;
     grid->addWidget(RName[index], race % kRowsPerColumn, column);
     grid->addWidget(RHab[index], race % kRowsPerColumn, column + 1);
@@ -219,6 +270,42 @@ void DetailsPanel::ShowRaces(const GameSession& session) {
     RName[index]->setText(isPlayer ? ToQString(session.Player(race + 1).Name()) : QString());
     RHab[index]->clear();
   }
+}
+
+void DetailsPanel::ShowPlanet(const GameSession& session, int planet) {
+  for (const DetailText& detail : DescribePlanet(session, planet)) {
+    findChild<QLabel*>(ToQString(detail.Label))->setText(ToQString(detail.Text));
+  }
+  const MineralChart concentrations = ConcentrationChart(session.Planet(planet));
+  Pie1->SetSlices(concentrations.Slices);
+  SetBarHeights(ConcentrationBars, kConcentrationBars, concentrations.BarHeights);
+  const MineralChart stored = StoredChart(session.Planet(planet));
+  Pie2->SetSlices(stored.Slices);
+  SetBarHeights(StoredBars, kStoredBars, stored.BarHeights);
+  ChartType->setEnabled(true);
+  // The old report knows neither environments nor stargates.
+  if (session.ReportStyle == kNewReportStyle) ShowEnvironment(session, planet);
+}
+
+void DetailsPanel::ShowEnvironment(const GameSession& session, int planet) {
+  const std::vector<std::string> habs = HabTexts(session, planet);
+  for (std::size_t race = 0; race < habs.size(); ++race) {
+    RHab[race]->setText(ToQString(habs[race]));
+  }
+  const StargateDetails stargate = DescribeStargate(session, planet);
+  SGType->setText(ToQString(stargate.Type));
+  FillList(*SSGList, stargate.Safe);
+  FillList(*DSGList, stargate.Dangerous);
+}
+
+void DetailsPanel::ChartType_Click() {
+  const bool showsBars = ChartType->text() == kViewAsBars;
+  ChartType->setText(showsBars ? kViewAsPies : kViewAsBars);
+  for (PieChart* pie : {Pie1, Pie2}) pie->setVisible(!showsBars);
+  for (const auto& bars : {ConcentrationBars, StoredBars}) {
+    for (QWidget* bar : bars) bar->setVisible(showsBars);
+  }
+  emit ChartsSwitched();
 }
 
 }  // namespace quorvane

@@ -14,11 +14,16 @@
 #include <optional>
 #include <utility>
 
+#include "analysis/find_planet.h"
 #include "loading/load_game.h"
+#include "loading/map_picture_file.h"
 #include "loading/race_colour_file.h"
+#include "platform/toolkit/picture_file.h"
 #include "platform/toolkit/twips.h"
 #include "render/main_layout.h"
+#include "render/planet_pick.h"
 #include "ui/details_panel.h"
+#include "ui/find_planet.h"
 #include "ui/labels.h"
 #include "ui/legend.h"
 #include "ui/map_panel.h"
@@ -117,7 +122,11 @@ void Main::ConnectParts() {
   connect(Map, &MapPanel::ZoomBoxEnded, this, [this] {
     EnableOverlays(true);
     DrawOverlays();
+    PlaceSelector();
   });
+  connect(Map, &MapPanel::Clicked, this, &Main::Universe_Clicked);
+  connect(Map, &MapPanel::Hovered, this, &Main::Universe_Hovered);
+  connect(Detail, &DetailsPanel::ChartsSwitched, this, [this] { Map->Universe->setFocus(); });
 }
 
 // No overlay may change in the middle of a zoom.
@@ -130,10 +139,12 @@ void Main::ConnectMenus() {
   connect(Menu.mnuMap, &QAction::triggered, this, &Main::mnuMap_Click);
   connect(Menu.mnuSaveRaceC, &QAction::triggered, this, &Main::mnuSaveRaceC_Click);
   connect(Menu.mnuExit, &QAction::triggered, this, &Main::mnuExit_Click);
+  connect(Menu.mnuSave, &QAction::triggered, this, &Main::mnuSave_Click);
+  connect(Menu.mnuSearchPlanet, &QAction::triggered, this, &Main::mnuSearchPlanet_Click);
   connect(Menu.mnuHideSelect, &QAction::triggered, this, &Main::mnuHideSelect_Click);
   // A picture or colours to save exist once a game is loaded; the other windows are not built yet.
-  for (QAction* item : {Menu.mnuSave, Menu.mnuSaveRaceC, Menu.mnuSearchPlanet, Menu.mnuGrid,
-                        Menu.mnuGrid2, Menu.mnuAbout, Menu.mnuThanks}) {
+  for (QAction* item : {Menu.mnuSave, Menu.mnuSaveRaceC, Menu.mnuGrid, Menu.mnuGrid2, Menu.mnuAbout,
+                        Menu.mnuThanks}) {
     item->setEnabled(false);
   }
 }
@@ -188,12 +199,34 @@ bool Main::eventFilter(QObject* target, QEvent* event) {
 bool Main::Form_KeyDown(int key, Qt::KeyboardModifiers modifiers) {
   if (!Map->Scroll(key, modifiers)) return false;
   DrawOverlays();
+  PlaceSelector();
   return true;
 }
 
 void Main::Combo1_Click() {
   if (Overlays->Switches().IsOn(OverlayKind::EstimateHabValues)) DrawOverlays();
 }
+
+// Tells all that is known of the planet that was clicked.
+void Main::Universe_Clicked(SurfacePoint at) {
+  const int planet = PlanetAt(session_, Map->State().View, at);
+  SelectPlanet(session_, planet);
+  PlaceSelector();
+  if (planet > 0) Detail->ShowPlanet(session_, planet);
+}
+
+void Main::Universe_Hovered(SurfacePoint at, bool isPicking) {
+  const MapView& view = Map->State().View;
+  if (isPicking) {
+    const int planet = PlanetAt(session_, view, at);
+    const QString name = planet > 0 ? ToQString(session_.Planet(planet).Name()) : QString();
+    theplanet->setText(planet > 0 ? " " + name : " Deep Space");
+    Map->Universe->setToolTip(planet > 0 ? "Click for more details on " + name : QString());
+  }
+  XYCoord->setText(ToQString(PointerText(view, at)));
+}
+
+void Main::PlaceSelector() { Map->PlaceSelector(session_.SelectedX, session_.SelectedY); }
 
 void Main::mnuMap_Click() {
   if (openFile_ == nullptr || openFile_->IsDiscarded()) {
@@ -233,6 +266,7 @@ void Main::ShowLoadedGame() {
   RaceLegend->ShowPlayers(session_);
   Detail->ShowRaces(session_);
   Detail->Tools->PlotBox->setPlainText(ToQString(session_.DrawingLayer));
+  if (FindFile(session_.DrawingFilePath)) Map->TakeDrawingPen();
 
   Combo1->setCurrentIndex(session_.PlayerCount > 0 ? 0 : -1);
   Combo1->setEnabled(true);
@@ -240,6 +274,7 @@ void Main::ShowLoadedGame() {
   const bool isNewStyle = session_.ReportStyle == kNewReportStyle;
   Overlays->Item(OverlayKind::ValueAfterTerraforming).setEnabled(isNewStyle);
   Overlays->Item(OverlayKind::CompleteStargateNetwork).setEnabled(isNewStyle);
+  Menu.mnuSave->setEnabled(true);
   Menu.mnuSaveRaceC->setEnabled(true);
   Menu.mnuData->setEnabled(true);
 }
@@ -254,6 +289,8 @@ void Main::ResetWindow() {
   Combo1->clear();
   Combo1->clearEditText();
   Map->ShowUniverse(session_.UniverseExtent);
+  Detail->DisableCharts();
+  PlaceSelector();
 }
 
 void Main::DrawOverlays() {
@@ -270,6 +307,7 @@ void Main::DrawOverlays() {
     constexpr int kButtonsOfFullView = 11;  // the estimated habitability is left as it is
     Overlays->EnableButtons(kButtonsOfFullView);
     Detail->Tools->StopDrawing();
+    PlaceSelector();
   }
   if (switches.IsOn(OverlayKind::ClearMap)) {
     switches.ClearMap();
@@ -288,8 +326,26 @@ ShowProgress Main::ProgressDisplay() {
 }
 
 void Main::mnuHideSelect_Click() {
-  session_.SelectedX = 0;
-  session_.SelectedY = 0;
+  SelectPlanet(session_, 0);
+  PlaceSelector();
+}
+
+void Main::mnuSearchPlanet_Click() {
+  if (findPlanet_ == nullptr) findPlanet_ = std::make_unique<FindPlanet>(session_, prompts_, this);
+  findPlanet_->exec();
+  PlaceSelector();
+  const bool isSelected = session_.SelectedX != 0;
+  if (!isSelected || findPlanet_->ShowFoundDetails != 1) return;
+  const SurfacePoint at = Map->State().View.ToSurface(
+      {static_cast<double>(session_.SelectedX), static_cast<double>(session_.SelectedY)});
+  Map->Universe_MouseDown(1, 0, at.X, at.Y);
+}
+
+void Main::mnuSave_Click() {
+  const std::filesystem::path file = MapPictureFile(session_);
+  prompts_.Inform("Map saved to " + TextFromPath(file));
+  const Result<void> saved = SavePicture(file, Map->Universe->Surface().Picture());
+  if (!saved) prompts_.Inform(saved.Message());
 }
 
 void Main::mnuSaveRaceC_Click() {

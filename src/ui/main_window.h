@@ -9,6 +9,7 @@
 
 #include "model/game_session.h"
 #include "model/progress.h"
+#include "render/map_view.h"
 #include "ui/main_menu.h"
 #include "ui/open_file.h"
 #include "ui/prompts.h"
@@ -18,6 +19,7 @@ class QScrollArea;
 namespace quorvane {
 
 class DetailsPanel;
+class FindPlanet;
 class Legend;
 class MapPanel;
 class OverlayBar;
@@ -64,7 +66,11 @@ class Main : public QMainWindow {
   bool Form_KeyDown(int key, Qt::KeyboardModifiers modifiers);
   void Map_Resized();
   void Combo1_Click();
+  void Universe_Clicked(SurfacePoint at);
+  void Universe_Hovered(SurfacePoint at, bool isPicking);
+  void mnuSearchPlanet_Click();
   void mnuHideSelect_Click();
+  void mnuSave_Click();
   void mnuSaveRaceC_Click();
   void mnuExit_Click();
 
@@ -72,6 +78,7 @@ class Main : public QMainWindow {
   void ConnectParts();
   void ConnectMenus();
   void EnableOverlays(bool isEnabled);
+  void PlaceSelector();
   void ShowLoadedGame();
   void ResetWindow();
   ShowProgress ProgressDisplay();
@@ -80,6 +87,7 @@ class Main : public QMainWindow {
   Prompts& prompts_;
   OpenState open_;
   std::unique_ptr<OpenFile> openFile_;
+  std::unique_ptr<FindPlanet> findPlanet_;
   GameSession session_;
   QScrollArea* scroll_ = nullptr;
   QWidget* area_ = nullptr;

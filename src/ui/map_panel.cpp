@@ -1,14 +1,18 @@
 #include "ui/map_panel.h"
 
+#include <QRandomGenerator>
+#include <chrono>
 #include <optional>
 
 #include "render/draw_overlays.h"
+#include "render/selection_marker.h"
 #include "render/zoom_box.h"
 
 namespace quorvane {
 namespace {
 
 constexpr Colour kZoomBoxColour = {150, 150, 150};
+constexpr std::chrono::milliseconds kMarkerPeriod(250);
 
 std::optional<ScrollKey> ScrollKeyOf(int key) {
   switch (key) {
@@ -43,13 +47,16 @@ MapPanel::MapPanel(QWidget& area)
     : QObject(&area), Universe(NewMap("Universe", area)), Universe2(NewMap("Universe2", area)) {
   Universe->setAccessibleName(tr("Map of the universe"));
   Universe2->hide();
-  ZoomBox = &Universe->AddOutline();
-  ZoomBox->OutlineColour = kZoomBoxColour;
+  CurrentSelected = new SquareShape(*Universe, "CurrentSelected");
+  ZoomBox = new SquareShape(*Universe, "ZoomBox");
+  ZoomBox->SetLineColour(kZoomBoxColour);
+  Timer1 = new QTimer(this);
+  Timer1->setObjectName("Timer1");
+  Timer1->start(kMarkerPeriod);
   connect(Universe, &PictureBox::Resized, this, &MapPanel::Universe_Resize);
-  connect(Universe, &PictureBox::MouseDown, this,
-          [this](int, int, double x, double y) { Universe_MouseDown(x, y); });
-  connect(Universe, &PictureBox::MouseMove, this,
-          [this](int, int, double x, double) { Universe_MouseMove(x); });
+  connect(Universe, &PictureBox::MouseDown, this, &MapPanel::Universe_MouseDown);
+  connect(Universe, &PictureBox::MouseMove, this, &MapPanel::Universe_MouseMove);
+  connect(Timer1, &QTimer::timeout, this, &MapPanel::Timer1_Timer);
 }
 
 void MapPanel::Place(const QRect& place) {
@@ -60,7 +67,7 @@ void MapPanel::Place(const QRect& place) {
 void MapPanel::ShowUniverse(int universeExtent) {
   state_ = MapState();
   state_.View.ShowAll(universeExtent);
-  ZoomBox->Visible = false;
+  ZoomBox->hide();
   for (PictureBox* map : {Universe, Universe2}) {
     map->Surface().SetBackground(nullptr);
     map->Surface().Clear();
@@ -84,27 +91,46 @@ void MapPanel::Draw(GameSession& session, const OverlaySwitches& switches,
   Universe->update();
 }
 
-void MapPanel::Universe_MouseDown(double x, double y) {
-  if (state_.ClickMode == kStartZoomBox) {
-    StartZoomBox(state_, {x, y});
-    ZoomBox->Left = x;
-    ZoomBox->Top = y;
-    ZoomBox->Width = 1;
-    ZoomBox->Height = 1;
-    ZoomBox->Visible = true;
-    emit ZoomBoxStarted();
-  } else if (state_.ClickMode == kEndZoomBox && EndZoomBox(state_, ZoomBox->Width)) {
-    ZoomBox->Visible = false;
-    emit ZoomBoxEnded();
-  }
-  Universe->update();
+void MapPanel::TakeDrawingPen() {
+  constexpr int kDrawingWidth = 2;
+  Universe->Surface().SetPen(
+      {.Mode = DrawMode::Copy, .Style = DrawStyle::Solid, .Width = kDrawingWidth});
 }
 
-void MapPanel::Universe_MouseMove(double x) {
-  if (state_.ClickMode != kEndZoomBox) return;
-  ZoomBox->Width = ZoomBoxSide(ZoomBox->Left, x);
-  ZoomBox->Height = ZoomBox->Width;
-  Universe->update();
+void MapPanel::PlaceSelector(int x, int y) {
+  const std::optional<MarkerSquare> marker = MarkerAround(state_.View, x, y);
+  CurrentSelected->setVisible(marker.has_value());
+  if (marker) CurrentSelected->Place({marker->Left, marker->Top}, marker->Side);
+}
+
+void MapPanel::Universe_MouseDown(int, int, double x, double y) {
+  if (state_.ClickMode == kOrdinaryClick) {
+    emit Clicked({x, y});
+  } else if (state_.ClickMode == kStartZoomBox) {
+    StartZoomBox(state_, {x, y});
+    ZoomBox->Place({x, y}, 1);
+    ZoomBox->show();
+    emit ZoomBoxStarted();
+  } else if (EndZoomBox(state_, ZoomBox->Side())) {
+    ZoomBox->hide();
+    emit ZoomBoxEnded();
+  }
+}
+
+void MapPanel::Universe_MouseMove(int, int, double x, double y) {
+  // The pointer's place is told even while no game gives the picture a scale.
+  if (state_.View.MapScale == 0) state_.View.MapScale = 1;
+  if (state_.ClickMode == kEndZoomBox) {
+    ZoomBox->Place(ZoomBox->TopLeft(), ZoomBoxSide(ZoomBox->TopLeft().X, x));
+  }
+  emit Hovered({x, y}, state_.ClickMode == kOrdinaryClick);
+}
+
+void MapPanel::Timer1_Timer() {
+  if (!CurrentSelected->isVisible()) return;
+  QRandomGenerator& random = *QRandomGenerator::global();
+  CurrentSelected->SetLineColour(
+      MarkerColour(random.generateDouble(), random.generateDouble(), random.generateDouble()));
 }
 
 // A hidden widget learns its size late; the twin's picture follows at once.

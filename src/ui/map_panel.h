@@ -1,10 +1,12 @@
 #pragma once
 
 #include <QObject>
+#include <QTimer>
 
 #include "model/game_session.h"
 #include "model/progress.h"
 #include "platform/toolkit/picture_box.h"
+#include "platform/toolkit/picture_shapes.h"
 #include "render/map_state.h"
 #include "render/overlay_kind.h"
 
@@ -30,12 +32,29 @@ class MapPanel : public QObject {
   bool Scroll(int key, Qt::KeyboardModifiers modifiers);
   void Draw(GameSession& session, const OverlaySwitches& switches, const ShowProgress& progress);
 
+  /// Gives the map the pen of the drawing layer, as a drawing file that is loaded does. Overlays that
+  /// keep the pen's mode draw in this one next.
+  void TakeDrawingPen();
+  /// Places the selection marker around a planet at a stored position, or hides it where there is
+  /// nothing to mark.
+  void PlaceSelector(int x, int y);
+  /// A press of a mouse button, whichever, at a place of the picture.
+  void Universe_MouseDown(int button, int shift, double x, double y);
+
   PictureBox* Universe = nullptr;
   PictureBox* Universe2 = nullptr;
   /// The area that is about to be shown, above the map while it is dragged.
-  OutlineShape* ZoomBox = nullptr;
+  SquareShape* ZoomBox = nullptr;
+  /// The selection marker.
+  SquareShape* CurrentSelected = nullptr;
+  /// Animates the marker.
+  QTimer* Timer1 = nullptr;
 
  signals:
+  /// An ordinary click.
+  void Clicked(SurfacePoint at);
+  /// The pointer has moved; `isPicking` while a click would be an ordinary one.
+  void Hovered(SurfacePoint at, bool isPicking);
   /// The first corner of the zoom box was clicked.
   void ZoomBoxStarted();
   /// The zoom box is complete and the view is what it encloses.
@@ -44,9 +63,9 @@ class MapPanel : public QObject {
   void Resized();
 
  private:
-  void Universe_MouseDown(double x, double y);
-  void Universe_MouseMove(double x);
+  void Universe_MouseMove(int buttons, int shift, double x, double y);
   void Universe_Resize();
+  void Timer1_Timer();
 
   MapState state_;
 };

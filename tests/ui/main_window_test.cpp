@@ -12,6 +12,7 @@
 #include "support/game_folder.h"
 #include "support/scripted_prompts.h"
 #include "support/window_driver.h"
+#include "ui/details_panel.h"
 #include "ui/map_panel.h"
 
 namespace quorvane {
@@ -33,6 +34,14 @@ class MainWindowTest : public testing::Test {
     });
     Driver().Choose("mnuMap");
   }
+
+  // The pixel of the map where a place in game coordinates is shown.
+  QPoint At(GamePoint place) {
+    const MapView& view = window.Map->State().View;
+    const SurfacePoint at = view.ToSurface({place.X - 1000, view.UniverseExtent - place.Y});
+    return window.Map->Universe->WidgetPoint(at).toPoint();
+  }
+  void MovePointer(QPoint to) { Driver().MoveTo("Universe", to); }
 
   QImage Map() { return Driver().Find<PictureBox>("Universe").Surface().Picture(); }
   bool IsBlank(const QImage& picture) {
@@ -203,6 +212,142 @@ TEST_F(MainWindowTest, ReleasesTheOverlaysWithTheNextLoad) {
   EXPECT_FALSE(driver.Action("mnuNames(0)").isChecked());
   EXPECT_TRUE(driver.Action("mnuTerrEdge").isChecked());
   EXPECT_TRUE(IsBlank(Map()));
+}
+
+TEST_F(MainWindowTest, ClickOnAPlanetTellsAllAboutItAndMarksIt) {
+  Load();
+  WindowDriver driver = Driver();
+  EXPECT_FALSE(driver.IsEnabled("ChartType"));
+  driver.ClickAt("Universe", At({1300, 1100}));
+  EXPECT_EQ(driver.Text("PlanetName"), "Gamma");
+  EXPECT_EQ(driver.Text("Starbase"), "Death Star");
+  EXPECT_EQ(driver.Text("Grav1"), "2g");
+  EXPECT_EQ(driver.Text("RHab(0)"), "-28%");
+  EXPECT_EQ(driver.Text("SGType"), "Inf Kt / Inf l.y.");
+  EXPECT_TRUE(driver.IsVisible("CurrentSelected"));
+  EXPECT_TRUE(driver.Find("CurrentSelected").geometry().contains(At({1300, 1100})));
+
+  driver.ClickAt("Universe", At({1050, 1300}));
+  EXPECT_EQ(driver.Text("PlanetName"), "Alpha");
+  EXPECT_EQ(driver.Text("IronMR"), "31 ");
+  EXPECT_EQ(driver.Text("SGType"), "500 Kt / 300 l.y.");
+  driver.ClickAt("Universe", At({1200, 1200}));  // deep space
+  EXPECT_EQ(driver.Text("PlanetName"), "Alpha");
+  EXPECT_FALSE(driver.IsVisible("CurrentSelected"));
+  driver.ClickAt("Universe", At({1050, 1300})).Choose("mnuHideSelect");
+  EXPECT_FALSE(driver.IsVisible("CurrentSelected"));
+}
+
+TEST_F(MainWindowTest, OldReportsLeaveTheirTabsAlone) {
+  folder.AddOldReport();
+  std::filesystem::remove(folder / "Demo.P1");
+  std::filesystem::remove(folder / "Demo.P3");
+  Load();
+  ASSERT_EQ(window.Session().ReportStyle, kOldReportStyle);
+  WindowDriver driver = Driver();
+  driver.Find<QLabel>("SGType").setText("as it was");
+  driver.ClickAt("Universe", At({1050, 1300}));
+  EXPECT_EQ(driver.Text("Temp1"), "Unavailable");
+  EXPECT_EQ(driver.Text("SGType"), "as it was");
+  EXPECT_EQ(driver.Text("RHab(0)"), "");
+}
+
+TEST_F(MainWindowTest, ChartsSwitchBetweenPiesAndBars) {
+  Load();
+  WindowDriver driver = Driver();
+  window.Detail->setCurrentIndex(1);
+  driver.ClickAt("Universe", At({1050, 1300})).Click("ChartType");
+  EXPECT_EQ(driver.Text("ChartType"), "View as Pie Chart");
+  EXPECT_FALSE(driver.IsVisible("Pie1"));
+  EXPECT_EQ(driver.Find("MCI").geometry(), QRect(20, 66, 21, 68));
+  EXPECT_EQ(driver.Find("MSB").geometry(), QRect(220, 125, 21, 9));
+  EXPECT_EQ(window.focusWidget(), &driver.Find("Universe"));
+  driver.Click("ChartType");
+  EXPECT_TRUE(driver.IsVisible("Pie2"));
+  EXPECT_FALSE(driver.IsVisible("MSG"));
+  // Delta was never seen: its charts are blank, whatever was shown before.
+  driver.ClickAt("Universe", At({1390, 1390}));
+  EXPECT_TRUE(driver.Find<PieChart>("Pie1").Slices().empty());
+  EXPECT_EQ(driver.Find("MCI").height(), 0);
+}
+
+TEST_F(MainWindowTest, PointerIsFollowedInTheStatusLine) {
+  MovePointer({200, 100});  // without a game
+  EXPECT_NE(Driver().Text("XYCoord"), "");
+  Load();
+  WindowDriver driver = Driver();
+  MovePointer(At({1120, 1250}));
+  EXPECT_EQ(driver.Text("theplanet"), " Beta");
+  EXPECT_EQ(driver.Find("Universe").toolTip(), "Click for more details on Beta");
+  MovePointer(At({1200, 1200}));
+  EXPECT_EQ(driver.Text("theplanet"), " Deep Space");
+  EXPECT_EQ(driver.Find("Universe").toolTip(), "");
+  EXPECT_TRUE(driver.Text("XYCoord").startsWith(" X:1200 Y:1") ||
+              driver.Text("XYCoord").startsWith(" X:1199 Y:1"));
+}
+
+TEST_F(MainWindowTest, MarkerFollowsTheSelectionThroughZoomAndScrolling) {
+  Load();
+  WindowDriver driver = Driver();
+  driver.ClickAt("Universe", At({1120, 1250}));
+  const int fullSide = driver.Find("CurrentSelected").width();
+  const QPoint first = At({1100, 1300});
+  const QPoint second = At({1200, 1300});
+  driver.Click("OvButt(1)").ClickAt("Universe", first);
+  driver.MoveTo("Universe", second).ClickAt("Universe", second);
+  EXPECT_NEAR(driver.Find("CurrentSelected").width(), 4 * fullSide, 12);
+  const QPoint before = driver.Find("CurrentSelected").pos();
+  driver.Press("Universe", Qt::Key_Right, Qt::ControlModifier);
+  EXPECT_LT(driver.Find("CurrentSelected").x(), before.x());
+  driver.Click("OvButt(1)");
+  EXPECT_EQ(driver.Find("CurrentSelected").width(), fullSide);
+  const QSize size = driver.Find("Universe").size();
+  window.resize(1100, 700);
+  EXPECT_NE(driver.Find("Universe").size(), size);
+  EXPECT_NEAR(driver.Find("CurrentSelected").geometry().center().x(), At({1120, 1250}).x(), 1);
+  Load();
+  EXPECT_FALSE(driver.IsVisible("CurrentSelected"));
+}
+
+TEST_F(MainWindowTest, FoundPlanetIsMarkedAndShownWhenAsked) {
+  Load();
+  WindowDriver driver = Driver();
+  const auto find = [&](const char* name, bool ticks) {
+    QTimer::singleShot(0, &window, [=] {
+      WindowDriver dialog(*QApplication::activeModalWidget());
+      if (ticks) dialog.Click("Check1");
+      dialog.Type("PlanetList", name).Click("Command1");
+    });
+    driver.Choose("mnuSearchPlanet");
+  };
+  find("Gamma", false);
+  EXPECT_TRUE(driver.IsVisible("CurrentSelected"));
+  EXPECT_EQ(driver.Text("PlanetName"), "");
+  find("Beta", true);
+  EXPECT_EQ(driver.Text("PlanetName"), "Beta");
+  find("Nowhere", false);
+  EXPECT_EQ(prompts.Shown(), Texts{"Planet Nowhere not found!"});
+  EXPECT_FALSE(driver.IsVisible("CurrentSelected"));
+  EXPECT_EQ(driver.Text("PlanetName"), "Beta");
+}
+
+TEST_F(MainWindowTest, SavesTheMapAsItIsWithoutTheMarker) {
+  Load();
+  WindowDriver driver = Driver();
+  driver.Click("OvButt(4)").ClickAt("Universe", At({1120, 1250}));
+  driver.Choose("mnuSave");
+  const std::filesystem::path file = folder / "Demo Universe Map 2450.bmp";
+  EXPECT_EQ(prompts.Shown(), Texts{"Map saved to " + file.string()});
+  const QImage saved(QString::fromStdString(file.string()), "bmp");
+  EXPECT_EQ(saved.convertToFormat(QImage::Format_RGB32), Map());
+
+  // The message comes first; what then goes wrong is told after it.
+  std::filesystem::remove(file);
+  std::filesystem::create_directory(file);
+  driver.Choose("mnuSave");
+  const Texts shown = prompts.Shown();
+  ASSERT_EQ(shown.size(), 2U);
+  EXPECT_NE(shown[1].find("Demo Universe Map 2450.bmp"), std::string::npos) << shown[1];
 }
 
 TEST_F(MainWindowTest, SavesTheRaceColours) {

@@ -27,10 +27,6 @@ PictureBox::PictureBox(QWidget* parent, QSizeF units)
   setAttribute(Qt::WA_OpaquePaintEvent);  // the picture covers every pixel
 }
 
-OutlineShape& PictureBox::AddOutline() { return outlines_.emplace_back(); }
-
-LineShape& PictureBox::AddLine() { return lines_.emplace_back(); }
-
 bool PictureBox::event(QEvent* event) {
   const bool result = QWidget::event(event);
   // Another screen may have other pixels.
@@ -46,17 +42,6 @@ void PictureBox::resizeEvent(QResizeEvent* event) {
 void PictureBox::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.drawImage(QRectF(rect()), surface_.Picture());
-  for (const OutlineShape& shape : outlines_) {
-    if (!shape.Visible) continue;
-    painter.setPen(QColor(RgbOf(shape.OutlineColour)));
-    painter.drawRect(QRectF(WidgetPoint({shape.Left, shape.Top}),
-                            WidgetPoint({shape.Left + shape.Width, shape.Top + shape.Height})));
-  }
-  for (const LineShape& shape : lines_) {
-    if (!shape.Visible) continue;
-    painter.setPen(QColor(RgbOf(shape.LineColour)));
-    painter.drawLine(WidgetPoint(shape.From), WidgetPoint(shape.To));
-  }
 }
 
 void PictureBox::mousePressEvent(QMouseEvent* event) {

@@ -1,32 +1,13 @@
 #pragma once
 
 #include <QWidget>
-#include <deque>
 
 #include "platform/toolkit/picture_surface.h"
 
 namespace quorvane {
 
-/// An outlined rectangle above a picture, in the picture's logical units.
-struct OutlineShape {
-  double Left = 0;
-  double Top = 0;
-  double Width = 0;
-  double Height = 0;
-  Colour OutlineColour = {255, 255, 255};
-  bool Visible = false;
-};
-
-/// A line above a picture, in the picture's logical units.
-struct LineShape {
-  SurfacePoint From;
-  SurfacePoint To;
-  Colour LineColour = {255, 255, 255};
-  bool Visible = false;
-};
-
-/// Shows a picture that always has the widget's own size, with shapes above it that are no part of
-/// it. Whoever draws on the surface or changes a shape calls `update()` afterwards.
+/// Shows a picture that always has the widget's own size. Whoever draws on the surface calls
+/// `update()` afterwards. Shapes above the picture are children of their own.
 class PictureBox : public QWidget {
   Q_OBJECT
 
@@ -35,9 +16,8 @@ class PictureBox : public QWidget {
 
   PictureSurface& Surface() { return surface_; }
   const PictureSurface& Surface() const { return surface_; }
-  /// A new, hidden shape above the earlier ones; it lives as long as the box.
-  OutlineShape& AddOutline();
-  LineShape& AddLine();
+  /// The pixel of the widget where a place of the picture is shown, with its fraction.
+  QPointF WidgetPoint(SurfacePoint point) const;
 
  signals:
   /// The surface is blank because it has a new size.
@@ -59,12 +39,8 @@ class PictureBox : public QWidget {
  private:
   void FitSurface();
   SurfacePoint LogicalPoint(QPointF position) const;
-  QPointF WidgetPoint(SurfacePoint point) const;
 
   PictureSurface surface_;
-  // Deques, so that the shapes given out stay where they are.
-  std::deque<OutlineShape> outlines_;
-  std::deque<LineShape> lines_;
 };
 
 }  // namespace quorvane

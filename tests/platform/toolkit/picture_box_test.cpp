@@ -5,6 +5,7 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include "platform/toolkit/picture_shapes.h"
 #include "platform/toolkit/twips.h"
 
 namespace quorvane {
@@ -38,18 +39,29 @@ TEST_F(PictureBoxTest, MouseArrivesInLogicalUnitsWithItsMasks) {
   EXPECT_EQ(move.value(0).mid(2), (QList<QVariant>{500.0, 100.0}));
 }
 
-TEST_F(PictureBoxTest, ShapesAreShownAboveThePictureButAreNoPartOfIt) {
-  OutlineShape& outline = box.AddOutline();
-  outline = {.Left = 200, .Top = 300, .Width = 400, .Height = 400, .OutlineColour = kRed};
-  box.AddLine() = {.From = {0, 900}, .To = {990, 900}, .LineColour = kRed, .Visible = true};
+TEST_F(PictureBoxTest, ShapesLieAboveThePictureAreNoPartOfItAndKeepTheirPlace) {
+  SquareShape square(box, "square");
+  square.SetLineColour(kRed);
+  square.Place({200, 300}, 400);
+  LineShape line(box, "line");
+  line.SetLineColour(kRed);
+  line.Place({990, 900}, {0, 900});
   EXPECT_EQ(box.grab().toImage().pixel(20, 50), RgbOf({0, 0, 0})) << "hidden";
 
-  outline.Visible = true;
-  const QImage shown = box.grab().toImage();
-  EXPECT_EQ(shown.pixel(60, 50), RgbOf(kRed));
-  EXPECT_EQ(shown.pixel(40, 50), RgbOf({0, 0, 0})) << "an outline only";
-  EXPECT_EQ(shown.pixel(50, 90), RgbOf(kRed));
-  EXPECT_EQ(box.Surface().Picture().pixel(50, 90), RgbOf({0, 0, 0}));
+  square.show();
+  line.show();
+  for (const int scale : {1, 2}) {
+    box.resize(100 * scale, 100 * scale);
+    const QImage shown = box.grab().toImage();
+    EXPECT_EQ(shown.pixel(60 * scale, 50 * scale), RgbOf(kRed));
+    EXPECT_EQ(shown.pixel(40 * scale, 50 * scale), RgbOf({0, 0, 0})) << "an outline only";
+    EXPECT_EQ(shown.pixel(50 * scale, 90 * scale), RgbOf(kRed));
+    EXPECT_EQ(box.Surface().Picture().pixel(50 * scale, 90 * scale), RgbOf({0, 0, 0}));
+  }
+  QSignalSpy down(&box, &PictureBox::MouseDown);
+  QTest::mousePress(box.childAt(100, 100) != nullptr ? box.childAt(100, 100) : &box,
+                    Qt::LeftButton);
+  EXPECT_EQ(down.count(), 1) << "the mouse goes through";
 }
 
 }  // namespace

@@ -1,0 +1,20 @@
+#include "loading/map_picture_file.h"
+
+#include <algorithm>
+#include <string>
+
+#include "model/field_value.h"
+#include "platform/files/files.h"
+
+namespace quorvane {
+
+std::filesystem::path MapPictureFile(const GameChoice& game) {
+  constexpr std::size_t kExtension = 4;
+  std::string name = TextFromPath(game.MapFilePath);
+  name.resize(name.size() - std::min(kExtension, name.size()));
+  name += " Universe Map";
+  if (game.GameYear >= 1) name += NumberTextWithLeadingBlank(game.GameYear);
+  return PathFromText(name + ".bmp");
+}
+
+}  // namespace quorvane

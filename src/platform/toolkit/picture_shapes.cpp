@@ -1,0 +1,61 @@
+#include "platform/toolkit/picture_shapes.h"
+
+#include <QEvent>
+#include <QPainter>
+
+#include "platform/toolkit/picture_box.h"
+
+namespace quorvane {
+
+PictureShape::PictureShape(PictureBox& picture, const char* name)
+    : QWidget(&picture), picture_(picture) {
+  setObjectName(name);
+  setAttribute(Qt::WA_TransparentForMouseEvents);
+  hide();
+  picture.installEventFilter(this);
+}
+
+void PictureShape::SetLineColour(Colour colour) {
+  colour_ = colour;
+  update();
+}
+
+bool PictureShape::eventFilter(QObject* target, QEvent* event) {
+  if (event->type() == QEvent::Resize) Fit();
+  return QWidget::eventFilter(target, event);
+}
+
+void PictureShape::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.setPen(QColor(RgbOf(colour_)));
+  painter.translate(-pos());
+  Paint(painter, picture_.WidgetPoint(First()), picture_.WidgetPoint(Last()));
+}
+
+void PictureShape::Fit() {
+  const QRectF between(picture_.WidgetPoint(First()), picture_.WidgetPoint(Last()));
+  setGeometry(between.normalized().toAlignedRect().adjusted(-1, -1, 1, 1));
+  update();
+}
+
+void SquareShape::Place(SurfacePoint topLeft, double side) {
+  topLeft_ = topLeft;
+  side_ = side;
+  Fit();
+}
+
+void SquareShape::Paint(QPainter& painter, QPointF first, QPointF last) const {
+  painter.drawRect(QRectF(first, last));
+}
+
+void LineShape::Place(SurfacePoint from, SurfacePoint to) {
+  from_ = from;
+  to_ = to;
+  Fit();
+}
+
+void LineShape::Paint(QPainter& painter, QPointF first, QPointF last) const {
+  painter.drawLine(first, last);
+}
+
+}  // namespace quorvane

@@ -1,0 +1,101 @@
+#include "ui/find_planet.h"
+
+#include <QCompleter>
+#include <QGridLayout>
+#include <QLineEdit>
+#include <QShowEvent>
+
+#include "analysis/find_planet.h"
+#include "ui/labels.h"
+#include "ui/texts.h"
+
+namespace quorvane {
+namespace {
+
+constexpr int kListWidth = 260;
+
+QPushButton* NewButton(const char* name, const QString& text, QWidget* parent) {
+  auto* button = new QPushButton(text, parent);
+  button->setObjectName(name);
+  return button;
+}
+
+// Completing a name only helps with typing. A text that was typed must stay one, even where it
+// equals an entry, so the box may not choose that entry when the typing ends.
+void OfferCompletions(QComboBox& list) {
+  auto* completer = new QCompleter(list.model(), &list);
+  completer->setCaseSensitivity(Qt::CaseInsensitive);
+  completer->setCompletionMode(QCompleter::PopupCompletion);
+  list.setCompleter(completer);
+  QObject::disconnect(list.lineEdit(), &QLineEdit::editingFinished, &list, nullptr);
+  QObject::disconnect(list.lineEdit(), &QLineEdit::returnPressed, &list, nullptr);
+}
+
+}  // namespace
+
+FindPlanet::FindPlanet(GameSession& session, Prompts& prompts, QWidget* parent)
+    : QDialog(parent), session_(session), prompts_(prompts) {
+  setObjectName("FindPlanet");
+  setWindowTitle("Find Planet");
+  Label1 = NewCaption("Choose a planet from the List, then click Goto", this);
+  Label1->setObjectName("Label1");
+  PlanetList = new QComboBox(this);
+  PlanetList->setObjectName("PlanetList");
+  PlanetList->setAccessibleName(tr("Planet"));
+  PlanetList->setEditable(true);
+  PlanetList->setInsertPolicy(QComboBox::NoInsert);
+  PlanetList->setMinimumWidth(kListWidth);
+  OfferCompletions(*PlanetList);
+  Check1 = new QCheckBox("Show Planet Details?", this);
+  Check1->setObjectName("Check1");
+  Command1 = NewButton("Command1", "Goto", this);
+  Command1->setDefault(true);
+  Command2 = NewButton("Command2", "Cancel", this);
+
+  auto* grid = new QGridLayout(this);
+  grid->addWidget(Label1, 0, 0, 1, 3);
+  grid->addWidget(PlanetList, 1, 0, 1, 3);
+  grid->addWidget(Check1, 2, 0);
+  grid->addWidget(Command1, 2, 1);
+  grid->addWidget(Command2, 2, 2);
+  grid->setColumnStretch(0, 1);
+  grid->setSizeConstraint(QLayout::SetFixedSize);
+
+  connect(Check1, &QCheckBox::toggled, this, &FindPlanet::Check1_Click);
+  connect(Command1, &QPushButton::clicked, this, &FindPlanet::Command1_Click);
+  connect(Command2, &QPushButton::clicked, this, &FindPlanet::Command2_Click);
+}
+
+void FindPlanet::showEvent(QShowEvent* event) {
+  if (!event->spontaneous()) FillPlanetList();
+  QDialog::showEvent(event);
+}
+
+// Another game may have been loaded since the last time.
+void FindPlanet::FillPlanetList() {
+  PlanetList->clear();
+  for (const std::string& entry : PlanetEntries(session_)) PlanetList->addItem(ToQString(entry));
+  PlanetList->setCurrentIndex(-1);
+  PlanetList->clearEditText();
+  PlanetList->setFocus();
+}
+
+// The entry that was chosen, from 0; -1 when a name was typed instead.
+int FindPlanet::ChosenRow() const {
+  const int row = PlanetList->currentIndex();
+  return row >= 0 && PlanetList->itemText(row) == PlanetList->currentText() ? row : -1;
+}
+
+void FindPlanet::Check1_Click() { ShowFoundDetails = Check1->isChecked() ? 1 : 0; }
+
+void FindPlanet::Command1_Click() {
+  const std::string name = ToText(PlanetList->currentText());
+  const int chosen = ChosenRow() + 1;
+  SelectPlanet(session_, chosen > 0 ? chosen : FindPlanetNamed(session_, name));
+  if (session_.SelectedX == 0) prompts_.Inform("Planet " + name + " not found!");
+  hide();
+}
+
+void FindPlanet::Command2_Click() { hide(); }
+
+}  // namespace quorvane

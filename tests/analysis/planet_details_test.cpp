@@ -1,0 +1,106 @@
+#include "analysis/planet_details.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+
+#include "support/game_builder.h"
+
+namespace quorvane {
+namespace {
+
+using Texts = std::vector<std::string>;
+
+// The texts of the given labels.
+std::map<std::string, std::string> Described(const GameSession& session,
+                                             std::initializer_list<const char*> labels) {
+  std::map<std::string, std::string> all;
+  for (const DetailText& detail : DescribePlanet(session, 1)) {
+    all[std::string(detail.Label)] = detail.Text;
+  }
+  std::map<std::string, std::string> chosen;
+  for (const char* label : labels) chosen[label] = all.at(label);
+  return chosen;
+}
+
+TEST(DescribePlanet, ShowsReportsAsTheyStandAndSaysWhatIsNotKnown) {
+  GameBuilder explored;
+  explored.Planet("Alpha", {1500, 1500}).OwnedBy("Drask").With(PlanetField::SoiRadius, 93.9);
+  explored.With(PlanetField::AgeText, "  5 years old").With(PlanetField::HabValue, "-12");
+  explored.With(PlanetField::IronMC, 54).With(PlanetField::IronMR, "Remote");
+  explored.With(PlanetField::BoraMR, 7).With(PlanetField::StoredGerm, 1979);
+  explored.With(PlanetField::Gravity, "1.20g")
+      .With(PlanetField::Temperature2,
+            "-40\u00BA"
+            "C");
+  GameSession session = explored.Build();
+  EXPECT_EQ(
+      Described(session, {"PlanetName", "Owner", "Owner2", "ReportAge", "ReportAge2", "HabValue",
+                          "SOI", "IronMCT", "BoraMR", "GermS", "Grav1", "Temp2", "Rad1"}),
+      (std::map<std::string, std::string>{{"PlanetName", "Alpha"},
+                                          {"Owner", "Drask"},
+                                          {"Owner2", "Drask"},
+                                          {"ReportAge", "5 years old"},
+                                          {"ReportAge2", "5 years old"},
+                                          {"HabValue", "-12%"},
+                                          {"SOI", "93 l.y."},
+                                          {"IronMCT", "54 "},
+                                          {"BoraMR", "Remote "},
+                                          {"GermS", "1979 "},
+                                          {"Grav1", "1.2g"},
+                                          {"Temp2", "-40°C"},
+                                          {"Rad1", "0mR"}}));
+  session.ReportStyle = kOldReportStyle;
+  session.Planet(1)[PlanetField::IronMR] = 3;
+  EXPECT_EQ(Described(session, {"Grav1", "Rad2", "BoraMR"}),
+            (std::map<std::string, std::string>{
+                {"Grav1", "Unavailable"}, {"Rad2", "Unavailable"}, {"BoraMR", "7 "}}));
+
+  const GameSession unexplored = GameBuilder().Planet("Beta", {1500, 1500}).Build();
+  EXPECT_EQ(Described(unexplored, {"Owner", "ReportAge", "ReportAge2", "HabValue", "SOI"}),
+            (std::map<std::string, std::string>{{"Owner", "None"},
+                                                {"ReportAge", "Unexplored"},
+                                                {"ReportAge2", ""},
+                                                {"HabValue", "?%"},
+                                                {"SOI", "0 l.y."}}));
+}
+
+TEST(HabTexts, GivesEveryPlayerAPercentageOnceTheEnvironmentIsKnown) {
+  GameBuilder game;
+  game.Player("Immune").WithPlayerField(PlayerField::GravImmune, 1);
+  game.WithPlayerField(PlayerField::TempImmune, 1).WithPlayerField(PlayerField::RadImmune, 1);
+  game.Planet("Alpha", {1500, 1500}).With(PlanetField::Radiation, "50mR");
+  game.Planet("Beta", {1500, 1500}).With(PlanetField::Radiation, "0mR");
+  EXPECT_EQ(HabTexts(game.Build(), 1), Texts{"100%"});
+  EXPECT_EQ(HabTexts(game.Build(), 2), Texts{"N/A"});
+}
+
+TEST(DescribeStargate, ListsGatesUpToItsRangeAsSafeAndUpToFiveTimesItAsDangerous) {
+  GameBuilder game;
+  game.Planet("Sender", {1100, 1500}).With(PlanetField::GateRange, 100);
+  game.With(PlanetField::GateMass, kUnlimitedGate);
+  for (const int distance : {100, 101, 250, 500, 501}) {
+    game.Planet("P" + std::to_string(distance), {1100.0 + distance, 1500});
+    game.With(PlanetField::GateRange, 1);
+  }
+  game.Planet("No gate", {1110, 1500}).With(PlanetField::GateRange, 0);
+  game.Planet("Diagonal", {1101, 1501}).With(PlanetField::GateRange, 5);  // 1.41 light years
+  GameSession session = game.Build();
+  StargateDetails gate = DescribeStargate(session, 1);
+  EXPECT_EQ(gate.Type, "Inf Kt / 100 l.y.");
+  EXPECT_EQ(gate.Safe, (Texts{"P100  (100 l.y.)", "Diagonal  (1 l.y.)"}));
+  EXPECT_EQ(gate.Dangerous, (Texts{"P101  (101 l.y.)", "P250  (250 l.y.)", "P500  (500 l.y.)"}));
+
+  session.Planet(1)[PlanetField::GateRange] = kUnlimitedGate;
+  session.Planet(1)[PlanetField::GateMass] = " 300 ";
+  gate = DescribeStargate(session, 1);
+  EXPECT_EQ(gate.Type, "300 Kt / Inf l.y.");
+  EXPECT_EQ(gate.Safe.size(), 6U);
+
+  gate = DescribeStargate(session, 7);
+  EXPECT_EQ(gate.Type, "None Detected");
+  EXPECT_TRUE(gate.Safe.empty() && gate.Dangerous.empty());
+}
+
+}  // namespace
+}  // namespace quorvane

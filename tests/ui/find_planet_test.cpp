@@ -1,0 +1,64 @@
+#include "ui/find_planet.h"
+
+#include <gtest/gtest.h>
+
+#include <QLineEdit>
+#include <QTest>
+
+#include "support/game_builder.h"
+#include "support/scripted_prompts.h"
+#include "support/window_driver.h"
+
+namespace quorvane {
+namespace {
+
+class FindPlanetTest : public testing::Test {
+ protected:
+  FindPlanetTest() {
+    GameBuilder game;
+    game.Planet("Twin", {1100, 1200}).OwnedBy("Drask").Planet("Beta", {1300, 1400});
+    session = game.Planet("Twin", {1500, 1600}).Build();
+    dialog.show();
+  }
+
+  GameSession session;
+  ScriptedPrompts prompts;
+  FindPlanet dialog{session, prompts, nullptr};
+  WindowDriver driver{dialog};
+};
+
+TEST_F(FindPlanetTest, TypedNameFindsTheFirstPlanetAndAnEntryItsOwn) {
+  // The third entry reads just like this text, but it was typed.
+  driver.Type("PlanetList", "Twin").Press("PlanetList", Qt::Key_Tab).Click("Command1");
+  EXPECT_EQ(session.SelectedX, 100);
+  EXPECT_FALSE(dialog.isVisible());
+
+  dialog.show();
+  EXPECT_EQ(driver.Text("PlanetList"), "");
+  dialog.PlanetList->setCurrentIndex(2);
+  driver.Click("Command1");
+  EXPECT_EQ(session.SelectedX, 500);
+  EXPECT_EQ(prompts.Shown(), Texts());
+}
+
+TEST_F(FindPlanetTest, OtherTextsFindNothingAndSaySo) {
+  session.SelectedX = session.SelectedY = 7;
+  for (const char* text : {"beta", "Twin (Drask)", "Tw", ""}) {
+    dialog.show();
+    driver.Type("PlanetList", text).Press("PlanetList", Qt::Key_Return);
+    EXPECT_EQ(prompts.Shown(), Texts{std::string("Planet ") + text + " not found!"});
+    EXPECT_EQ(session.SelectedX, 0);
+    EXPECT_FALSE(dialog.isVisible());
+  }
+}
+
+TEST_F(FindPlanetTest, ListsThePlanetsOfTheGameOnScreenAtEachOpening) {
+  driver.Click("Check1").Click("Command2");
+  session = GameBuilder().Planet("Only", {1100, 1200}).Build();
+  dialog.show();
+  EXPECT_EQ(dialog.PlanetList->count(), 1);
+  EXPECT_EQ(dialog.ShowFoundDetails, 1);
+}
+
+}  // namespace
+}  // namespace quorvane
