@@ -4,6 +4,7 @@
 #include <QGlyphRun>
 #include <QPainter>
 #include <algorithm>
+#include <cmath>
 #include <optional>
 #include <utility>
 
@@ -105,11 +106,12 @@ void PictureSurface::Print(SurfacePoint topLeft, std::string_view text) {
   const bool isInPicture = at.x() < picture_.width() && at.y() < picture_.height() &&
                            at.x() > -layout.Width && at.y() > -layout.Height;
   if (!isInPicture) return;
+  // The painter cuts every glyph's position to 64ths of a pixel, towards the picture's left edge
+  // from either side; this way all glyphs of a text that begins outside are cut alike.
+  const QPointF origin(std::trunc(at.x() * 64) / 64, at.y() + layout.Drop);
   QPainter painter(&picture_);
   painter.setPen(QColor(foreColour_));
-  for (const QGlyphRun& glyphs : layout.Glyphs) {
-    painter.drawGlyphRun({at.x(), at.y() + layout.Drop}, glyphs);
-  }
+  for (const QGlyphRun& glyphs : layout.Glyphs) painter.drawGlyphRun(origin, glyphs);
 }
 
 double PictureSurface::TextWidth(std::string_view text) const {

@@ -97,7 +97,7 @@ TEST(PictureText, LooksAsIfItWereLaidOutEachTime) {
   const auto print = [](DrawingSurface& surface, double points, const char* text) {
     surface.SetFontSize(points);
     surface.SetForeColour({200, 255, 10});
-    surface.Print({-3, 7.7 * points - 50.3}, text);
+    surface.Print({-3.23, 7.7 * points - 50.3}, text);
     return surface.TextWidth(text);
   };
   for (const double points : {6.0, 8.25, 6.0}) {
