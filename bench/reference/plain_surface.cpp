@@ -99,7 +99,8 @@ void PlainSurface::Print(SurfacePoint topLeft, std::string_view text) {
 }
 
 double PlainSurface::TextWidth(std::string_view text) const {
-  return QFontMetricsF(Font()).horizontalAdvance(TextOf(text)) * units_.width() / picture_.width();
+  const double pixelsPerUnit = picture_.width() / units_.width();
+  return QFontMetricsF(Font()).horizontalAdvance(TextOf(text)) / pixelsPerUnit;
 }
 
 QPointF PlainSurface::DevicePoint(SurfacePoint point) const {
