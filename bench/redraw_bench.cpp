@@ -117,6 +117,7 @@ bool RegisterPicks(const InfluenceGameShape& shape, double targetMilliseconds) {
   }
   const auto picks = [=](const auto& planetAt) {
     std::vector<int> planets;
+    planets.reserve(pointers.size());
     for (const SurfacePoint& at : pointers) planets.push_back(planetAt(*session, view, at));
     return planets;
   };

@@ -13,6 +13,7 @@ TextLayout LayOut(std::string_view text, const QFont& font) {
   options.setWrapMode(QTextOption::NoWrap);
   QTextLayout layout(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())), font);
   layout.setTextOption(options);
+  layout.setCacheEnabled(true);  // or the glyphs would be found a second time for `glyphRuns`
   layout.beginLayout();
   const QTextLine line = layout.createLine();
   layout.endLayout();
