@@ -1,9 +1,10 @@
 #include "platform/toolkit/picture_surface.h"
 
-#include <QFontMetricsF>
+#include <QFont>
+#include <QGlyphRun>
 #include <QPainter>
-#include <QString>
 #include <algorithm>
+#include <cmath>
 #include <optional>
 #include <utility>
 
@@ -33,10 +34,6 @@ QImage BlankPicture(QSize size, double ratio, QRgb plain) {
   picture.setDotsPerMeterX(dotsPerMetre);
   picture.setDotsPerMeterY(dotsPerMetre);
   return picture;
-}
-
-QString TextOf(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
 }  // namespace
@@ -104,21 +101,21 @@ void PictureSurface::Circle(SurfacePoint centre, double radius, Colour colour) {
 
 void PictureSurface::Print(SurfacePoint topLeft, std::string_view text) {
   const QPointF at = DevicePoint(topLeft);
-  const QFontMetricsF metrics(font_, &picture_);
-  const QString shown = TextOf(text);
+  const TextLayout& layout = texts_.Of(text);
   // A position that is no number fails here as well.
   const bool isInPicture = at.x() < picture_.width() && at.y() < picture_.height() &&
-                           at.x() > -metrics.horizontalAdvance(shown) && at.y() > -metrics.height();
+                           at.x() > -layout.Width && at.y() > -layout.Height;
   if (!isInPicture) return;
+  // The painter cuts every glyph's position to 64ths of a pixel, towards the picture's left edge
+  // from either side; this way all glyphs of a text that begins outside are cut alike.
+  const QPointF origin(std::trunc(at.x() * 64) / 64, at.y() + layout.Drop);
   QPainter painter(&picture_);
-  painter.setFont(font_);
   painter.setPen(QColor(foreColour_));
-  painter.drawText(QPointF(at.x(), at.y() + metrics.ascent()), shown);
+  for (const QGlyphRun& glyphs : layout.Glyphs) painter.drawGlyphRun(origin, glyphs);
 }
 
 double PictureSurface::TextWidth(std::string_view text) const {
-  const double width = QFontMetricsF(font_, &picture_).horizontalAdvance(TextOf(text));
-  return width / pixelsPerUnitX_;
+  return texts_.Of(text).Width / pixelsPerUnitX_;
 }
 
 PixelCanvas PictureSurface::Canvas() {
@@ -139,9 +136,9 @@ void PictureSurface::MakePicture() {
 }
 
 void PictureSurface::PrepareFont() {
-  font_ = QFont(QStringLiteral("Arial"));
-  font_.setPointSizeF(fontPoints_);
-  font_ = QFont(font_, &picture_);  // with the picture's dots per inch
+  QFont font(QStringLiteral("Arial"));
+  font.setPointSizeF(fontPoints_);
+  texts_.SetFont(QFont(font, &picture_));  // with the picture's dots per inch
 }
 
 }  // namespace quorvane

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QFont>
 #include <QImage>
 #include <QSize>
 #include <QSizeF>
@@ -9,6 +8,7 @@
 
 #include "platform/toolkit/colours.h"
 #include "platform/toolkit/pixel_canvas.h"
+#include "platform/toolkit/text_layouts.h"
 #include "platform/toolkit/twips.h"
 #include "render/drawing_surface.h"
 
@@ -83,7 +83,7 @@ class PictureSurface : public DrawingSurface {
   QRgb fillColour_ = RgbOf({0, 0, 0});
   QRgb foreColour_ = RgbOf({255, 255, 255});
   double fontPoints_ = 8.25;
-  QFont font_;
+  mutable TextLayouts texts_;  // filled as texts are asked for
 };
 
 }  // namespace quorvane

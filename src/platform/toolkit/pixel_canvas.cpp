@@ -26,6 +26,48 @@ void CutLine(double from, double to, double low, double high, double& start, dou
   end = std::min(end, std::max(atLow, atHigh));
 }
 
+// For values that an int can hold. The library's functions are calls unless the program is built
+// for newer processors only, and rows and lines are rounded by the ten thousand.
+int RoundDown(double value) {
+  const int whole = static_cast<int>(value);
+  return whole - (value < whole ? 1 : 0);
+}
+int RoundUp(double value) { return -RoundDown(-value); }
+
+PixelPlace PixelAt(QPointF point) { return {RoundDown(point.x()), RoundDown(point.y())}; }
+
+// False for something that is no number.
+bool IsNear(QPointF point) {
+  return std::abs(point.x()) < kFarthestPixel && std::abs(point.y()) < kFarthestPixel;
+}
+
+// Moves an end that lies too far away in the first direction along its line.
+void PullInEnd(double& value, double& other, double valueThere, double otherThere) {
+  constexpr double kLimit = kFarthestPixel - 0.5;  // the centre of a pixel
+  const double limited = std::clamp(value, -kLimit, kLimit);
+  if (limited == value) return;
+  other = std::lerp(other, otherThere, (limited - value) / (valueThere - value));
+  value = limited;
+}
+
+// Shortens a line that goes too far, staying on it as well as a double can. False when nothing of
+// it is left, or when an end is no finite place.
+bool PullIn(QPointF& from, QPointF& to) {
+  for (const double value : {from.x(), from.y(), to.x(), to.y()}) {
+    if (!std::isfinite(value)) return false;
+  }
+  const auto isFar = [](double a, double b) {
+    return std::min(a, b) > kFarthestPixel || std::max(a, b) < -kFarthestPixel;
+  };
+  if (isFar(from.x(), to.x())) return false;
+  PullInEnd(from.rx(), from.ry(), to.x(), to.y());
+  PullInEnd(to.rx(), to.ry(), from.x(), from.y());
+  if (isFar(from.y(), to.y())) return false;
+  PullInEnd(from.ry(), from.rx(), to.y(), to.x());
+  PullInEnd(to.ry(), to.rx(), from.y(), from.x());
+  return true;
+}
+
 }  // namespace
 
 DotMask::DotMask(int diameter, int pictureWidth) {
@@ -39,6 +81,26 @@ DotMask::DotMask(int diameter, int pictureWidth) {
     for (int x = first; x < diameter - first; ++x) {
       offsets_.push_back(static_cast<qsizetype>(y) * pictureWidth + x);
     }
+  }
+}
+
+// Inline: a redraw fills several hundred thousand rows of a few pixels.
+inline PixelSpan PixelCanvas::SpanWithin(QPointF centre, double radius, int y) const {
+  const double down = y + 0.5 - centre.y();
+  const double halfWidthSquared = radius * radius - down * down;
+  if (radius < 0 || !(halfWidthSquared >= 0)) return {};
+  const double halfWidth = std::sqrt(halfWidthSquared);
+  const double first = std::clamp(centre.x() - halfWidth - 0.5, 0.0, 1.0 * width_);
+  const double last = std::clamp(centre.x() + halfWidth - 0.5, -1.0, width_ - 1.0);
+  return {RoundUp(first), RoundDown(last)};
+}
+
+inline void PixelCanvas::Fill(int y, PixelSpan span, QRgb colour) {
+  QRgb* row = pixels_ + static_cast<qsizetype>(y) * width_;
+  if (mode_ == DrawMode::Merge) {
+    for (int x = span.First; x <= span.Last; ++x) row[x] |= colour;
+  } else {
+    for (int x = span.First; x <= span.Last; ++x) row[x] = colour;
   }
 }
 
@@ -74,19 +136,54 @@ void PixelCanvas::FillDot(double left, double top, const DotMask& mask, QRgb col
 }
 
 void PixelCanvas::Line(QPointF from, QPointF to, const DotMask& mask, QRgb colour) {
+  const bool isNear = IsNear(from) && IsNear(to);
+  if (!isNear && !PullIn(from, to)) return;
+  if (mask.Diameter() > 1) {
+    WideLine(from, to, mask, colour);
+    return;
+  }
+  const LineSteps steps = StepsInside(PixelAt(from), PixelAt(to), {width_, height_});
+  if (mode_ == DrawMode::Merge) {
+    Follow(steps, [colour](QRgb& pixel) { pixel |= colour; });
+  } else {
+    Follow(steps, [colour](QRgb& pixel) { pixel = colour; });
+  }
+}
+
+template <typename Put>
+void PixelCanvas::Follow(const LineSteps& steps, Put put) {
+  if (steps.Count == 0) return;
+  const qsizetype right = steps.Right;
+  const qsizetype down = steps.Down * qsizetype{width_};
+  const qsizetype along = steps.IsSteep ? down : right;
+  const qsizetype across = steps.IsSteep ? right : down;
+  QRgb* pixel = pixels_ + static_cast<qsizetype>(steps.Start.Y) * width_ + steps.Start.X;
+  int balance = steps.Balance;
+  for (int left = steps.Count; left > 0; --left) {
+    put(*pixel);
+    // Both outcomes are computed, as the processor could not foresee a branch.
+    const int straight = balance + steps.Gain;
+    const int turned = balance + (steps.Gain - steps.Turn);
+    const bool turns = straight >= 0;
+    balance = turns ? turned : straight;
+    pixel += turns ? along + across : along;
+  }
+}
+
+void PixelCanvas::WideLine(QPointF from, QPointF to, const DotMask& mask, QRgb colour) {
   const double margin = mask.Diameter();
   double start = 0;
   double end = 1;
   CutLine(from.x(), to.x(), -margin, width_ + margin, start, end);
   CutLine(from.y(), to.y(), -margin, height_ + margin, start, end);
   if (!(start <= end)) return;
+  // Counted over the whole line, so that its dots are the same however much of it lies outside.
   const QPointF way = to - from;
-  const double length = (end - start) * std::max(std::abs(way.x()), std::abs(way.y()));
-  if (!IsBetween(length, 0, 2.0 * (width_ + height_) + 4 * margin)) return;
-  const int steps = static_cast<int>(std::ceil(length));
-  for (int i = 0; i <= steps; ++i) {
-    const double part = steps > 0 ? start + (end - start) * i / steps : start;
-    const QPointF at = from + way * part;
+  const double steps = std::ceil(std::max(std::abs(way.x()), std::abs(way.y())));
+  const int first = static_cast<int>(start * steps);
+  const int last = static_cast<int>(end * steps);
+  for (int i = first; i <= last; ++i) {
+    const QPointF at = steps > 0 ? from + way * (i / steps) : from;
     Dot(at.x(), at.y(), mask, colour);
   }
 }
@@ -102,34 +199,15 @@ void PixelCanvas::Circle(QPointF centre, double radius, double outlineWidth,
   }
   const int top = static_cast<int>(std::clamp(centre.y() - outer, 0.0, 1.0 * height_));
   const int bottom = static_cast<int>(std::clamp(centre.y() + outer + 1, 0.0, 1.0 * height_));
+  const double inner = radius - halfOutline;
   for (int y = top; y < bottom; ++y) {
     const PixelSpan all = SpanWithin(centre, outer, y);
-    PixelSpan inside = SpanWithin(centre, radius - halfOutline, y);
+    PixelSpan inside = outline ? SpanWithin(centre, inner, y) : all;
     if (inside.First > inside.Last) inside = {all.Last + 1, all.Last};
     if (fill) Fill(y, inside, *fill);
     if (!outline) continue;
     Fill(y, {all.First, inside.First - 1}, *outline);
     Fill(y, {inside.Last + 1, all.Last}, *outline);
-  }
-}
-
-PixelSpan PixelCanvas::SpanWithin(QPointF centre, double radius, int y) const {
-  const double down = y + 0.5 - centre.y();
-  const double halfWidthSquared = radius * radius - down * down;
-  if (radius < 0 || !(halfWidthSquared >= 0)) return {};
-  const double halfWidth = std::sqrt(halfWidthSquared);
-  const double first = std::ceil(centre.x() - halfWidth - 0.5);
-  const double last = std::floor(centre.x() + halfWidth - 0.5);
-  return {static_cast<int>(std::clamp(first, 0.0, 1.0 * width_)),
-          static_cast<int>(std::clamp(last, -1.0, width_ - 1.0))};
-}
-
-void PixelCanvas::Fill(int y, PixelSpan span, QRgb colour) {
-  QRgb* row = pixels_ + static_cast<qsizetype>(y) * width_;
-  if (mode_ == DrawMode::Merge) {
-    for (int x = span.First; x <= span.Last; ++x) row[x] |= colour;
-  } else {
-    for (int x = span.First; x <= span.Last; ++x) row[x] = colour;
   }
 }
 

@@ -6,6 +6,7 @@
 #include <optional>
 #include <vector>
 
+#include "platform/toolkit/line_steps.h"
 #include "render/drawing_surface.h"
 
 namespace quorvane {
@@ -45,7 +46,8 @@ class PixelCanvas {
 
   /// One dot; its mask keeps its shape wherever the dot lies.
   void Dot(double x, double y, const DotMask& mask, QRgb colour);
-  /// A line with round ends, as wide as the mask.
+  /// A line with round ends, as wide as the mask; for a mask of one pixel, `LineSteps` says which
+  /// pixels it has. A line to something infinite draws nothing.
   void Line(QPointF from, QPointF to, const DotMask& mask, QRgb colour);
   /// A circle with an outline centred on the radius and a filled inside, either of which may be
   /// missing. However small it is, an outline shows at least one pixel.
@@ -53,6 +55,10 @@ class PixelCanvas {
               std::optional<QRgb> fill);
 
  private:
+  // Puts something into each pixel of a line.
+  template <typename Put>
+  void Follow(const LineSteps& steps, Put put);
+  void WideLine(QPointF from, QPointF to, const DotMask& mask, QRgb colour);
   // Row by row, cut to the picture.
   void FillDot(double left, double top, const DotMask& mask, QRgb colour);
   void Fill(int y, PixelSpan span, QRgb colour);

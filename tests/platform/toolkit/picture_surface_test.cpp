@@ -75,12 +75,26 @@ TEST(PictureSurface, CirclesHaveAnOutlineOfThePensWidthAroundTheFillHoweverLarge
   }
 }
 
-TEST(PictureSurface, LinesRunFromEndToEndWithHardEdgesHoweverLong) {
-  PictureSurface surface = SmallPicture(5, 5);
-  surface.Line({0.5, 0.5}, {3.5, 3.5}, kRed);
-  surface.Line({4.5, 3.5}, {4.5, 1.5}, kBlue);
-  surface.Line({-1e12, 4.5}, {1e12, 4.5}, kBlue);
-  EXPECT_EQ(Shown(surface), "R..../.R..B/..R.B/...RB/BBBBB");
+TEST(PictureSurface, LinesStepThroughTheNearestPixelsWhicheverEndComesFirstHoweverLong) {
+  const std::tuple<SurfacePoint, SurfacePoint, const char*> cases[] = {
+      {{2.9, 3.1}, {2.1, 3.9}, "...../...../...../..R../....."},
+      {{0.5, 0.5}, {3.5, 3.5}, "R..../.R.../..R../...R./....."},
+      // Half a pixel between two: the one that the line leaves on its way right or down.
+      {{0, 0}, {4, 2}, "RR.../..RR./....R/...../....."},
+      {{0, 4}, {4, 2}, "...../...../....R/..RR./RR..."},
+      {{0, 0}, {2, 4}, "R..../R..../.R.../.R.../..R.."},
+      {{4, 0}, {2, 4}, "....R/....R/...R./...R./..R.."},
+      {{-1, 1.5}, {9, 3.5}, "...../RR.../..RRR/...../....."},
+      {{-1e12, 4.5}, {1e300, 4.5}, "...../...../...../...../RRRRR"},
+      {{-1e9, -1e9}, {2e9, 2e9}, "R..../.R.../..R../...R./....R"}};
+  for (const auto& [from, to, expected] : cases) {
+    PictureSurface there = SmallPicture(5, 5);
+    PictureSurface back = SmallPicture(5, 5);
+    there.Line(from, to, kRed);
+    back.Line(to, from, kRed);
+    EXPECT_EQ(Shown(there), expected) << "to " << to.X << "," << to.Y;
+    EXPECT_EQ(Shown(back), expected) << "from " << to.X << "," << to.Y;
+  }
 }
 
 TEST(PictureSurface, NothingHappensFarOutsideAndForWhatIsNoNumber) {

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "model/game_session.h"
+#include "render/map_view.h"
+
+namespace quorvane::reference {
+
+/// What `PlanetAt` finds, asked of every planet in map order with its place rounded first.
+int PlainPlanetAt(const GameSession& session, const MapView& view, SurfacePoint pointer);
+
+}  // namespace quorvane::reference

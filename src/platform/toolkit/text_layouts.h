@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QFont>
+#include <QGlyphRun>
+#include <QList>
+#include <cstddef>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+
+namespace quorvane {
+
+/// One line of text ready to be drawn. All lengths are in device pixels.
+struct TextLayout {
+  QList<QGlyphRun> Glyphs;
+  /// How far the glyphs' origin lies below the text's top edge; not 0 when a substitute font, which
+  /// has characters that the font lacks, is taller than the font.
+  double Drop = 0;
+  double Width = 0;
+  double Height = 0;
+};
+
+/// The layouts of the texts that were asked for in a font. Finding out which glyphs a text needs
+/// and where they go takes several times longer than drawing them, and a map prints the same names
+/// at every redraw. Needs a running QGuiApplication when a layout is asked for.
+class TextLayouts {
+ public:
+  /// How many texts are kept, a multiple of what a map shows; the next one starts anew.
+  static constexpr std::size_t kMostTexts = 8192;
+
+  /// Forgets all layouts. The font must have the dots per inch of the picture to be drawn in.
+  void SetFont(const QFont& font);
+
+  /// @param text  UTF-8; line breaks and TABs in it are drawn like any other character
+  /// @return a layout that stays until this or `SetFont` is called again
+  const TextLayout& Of(std::string_view text);
+
+ private:
+  struct TextHash {
+    using is_transparent = void;  // NOLINT(readability-identifier-naming): the library's name
+    std::size_t operator()(std::string_view text) const {
+      return std::hash<std::string_view>()(text);
+    }
+  };
+
+  QFont font_;
+  std::unordered_map<std::string, TextLayout, TextHash, std::equal_to<>> layouts_;
+};
+
+}  // namespace quorvane

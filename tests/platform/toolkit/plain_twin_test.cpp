@@ -1,0 +1,112 @@
+// The map picture beside its plain twin, which asks every pixel whether it belongs to a shape.
+
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <random>
+#include <string>
+#include <tuple>
+
+#include "platform/toolkit/picture_surface.h"
+#include "reference/plain_surface.h"
+
+namespace quorvane {
+namespace {
+
+constexpr QSize kSize = {60, 45};
+constexpr QSizeF kUnits = {120, 90};
+
+// Both surfaces, and random drawings that are made on both. Many reach beyond an edge, and many
+// places lie exactly on pixel borders and centres.
+class Twins {
+ public:
+  explicit Twins(double ratio) : fast_(kSize, ratio, kUnits), plain_(kSize, ratio, kUnits) {}
+
+  void ChooseRandomPen() {
+    const Pen pen = {.Mode = IsOneIn(2) ? DrawMode::Copy : DrawMode::Merge,
+                     .Style = IsOneIn(3) ? DrawStyle::NoOutline : DrawStyle::Solid,
+                     .Filled = IsOneIn(2),
+                     .Width = Between(1, 4)};
+    const Colour fill = RandomColour();
+    Draw([&](DrawingSurface& surface) {
+      surface.SetPen(pen);
+      surface.SetFillColour(fill);
+    });
+  }
+  void DrawPoint() {
+    const SurfacePoint at = RandomPlace();
+    Draw([&, colour = RandomColour()](DrawingSurface& surface) { surface.Point(at, colour); });
+  }
+  void DrawLine() {
+    const SurfacePoint from = RandomPlace();
+    SurfacePoint to = RandomPlace();
+    if (IsOneIn(3)) to = {from.X + Between(-8, 8), from.Y + Between(-8, 8)};
+    if (IsOneIn(9)) to.X *= 1000;
+    Draw([&, colour = RandomColour()](DrawingSurface& surface) { surface.Line(from, to, colour); });
+  }
+  void DrawCircle() {
+    const SurfacePoint centre = RandomPlace();
+    const double radius = IsOneIn(2) ? Between(0, 16) / 4.0 : Between(0, 2500) / 49.0;
+    Draw([&, colour = RandomColour()](DrawingSurface& surface) {
+      surface.Circle(centre, radius, colour);
+    });
+  }
+
+  bool AreAlike() const { return fast_.Picture() == plain_.Picture(); }
+
+ private:
+  template <typename Call>
+  void Draw(const Call& call) {
+    call(fast_);
+    call(plain_);
+  }
+
+  int Between(int low, int high) {
+    return low + static_cast<int>(dice_() % static_cast<std::uint32_t>(high - low + 1));
+  }
+  bool IsOneIn(int chances) { return Between(1, chances) == 1; }
+  SurfacePoint RandomPlace() {
+    const double grid = IsOneIn(2) ? 1 : 7.3;
+    return {Between(-60, 180) / grid, Between(-60, 150) / grid};
+  }
+  Colour RandomColour() { return {Between(0, 255), Between(0, 255), Between(0, 255)}; }
+
+  PictureSurface fast_;
+  reference::PlainSurface plain_;
+  std::mt19937 dice_{1};
+};
+
+TEST(PictureSurface, DrawsThePixelsOfItsPlainTwin) {
+  const std::tuple<const char*, void (Twins::*)()> shapes[] = {
+      {"points", &Twins::DrawPoint}, {"lines", &Twins::DrawLine}, {"circles", &Twins::DrawCircle}};
+  for (const auto& [what, draw] : shapes) {
+    for (const double ratio : {1.0, 1.25, 2.0}) {
+      Twins twins(ratio);
+      for (int i = 0; i < 1200; ++i) {
+        if (i % 5 == 0) twins.ChooseRandomPen();
+        (twins.*draw)();
+        ASSERT_TRUE(twins.AreAlike()) << what << ", drawing " << i << " at ratio " << ratio;
+      }
+    }
+  }
+}
+
+TEST(PictureText, LooksAsIfItWereLaidOutEachTime) {
+  PictureSurface fast(kSize, 2, kUnits);
+  reference::PlainSurface plain(kSize, 2, kUnits);
+  const auto print = [](DrawingSurface& surface, double points, const char* text) {
+    surface.SetFontSize(points);
+    surface.SetForeColour({200, 255, 10});
+    surface.Print({-3.23, 7.7 * points - 50.3}, text);
+    return surface.TextWidth(text);
+  };
+  for (const double points : {6.0, 8.25, 6.0}) {
+    for (const char* text : {"Hamlet AV", "Hamlet AV", "", " 45%\t4\n5 ", "\u03c0\u4e2d\u05d0"}) {
+      EXPECT_EQ(print(fast, points, text), print(plain, points, text)) << text;
+      EXPECT_TRUE(fast.Picture() == plain.Picture()) << text << " in " << points << " points";
+    }
+  }
+}
+
+}  // namespace
+}  // namespace quorvane
