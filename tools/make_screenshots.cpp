@@ -100,6 +100,7 @@ void TakeDrawings(Main& window, const ScreenshotJob& job) {
   emit window.Map->Universe->MouseDown(1, 0, 3000, 3000);
   emit window.Map->Universe->MouseMove(0, 0, 6000, 5000);
   Save(window, job, "main-drawing");
+  emit window.Map->Universe->MouseDown(1, 0, 6000, 5000);
   window.findChild<QToolButton*>("OvButt(10)")->setChecked(false);
 }
 

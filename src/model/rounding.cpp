@@ -17,8 +17,6 @@ Whole CutToRange(double whole) {
 
 }  // namespace
 
-double RoundHalfEven(double value) { return std::nearbyint(value); }
-
 double RoundToDecimals(double value, int decimals) {
   const double scale = std::pow(10.0, decimals);
   return RoundHalfEven(value * scale) / scale;

@@ -1,12 +1,13 @@
 #pragma once
 
+#include <cmath>
 #include <cstdint>
 
 namespace quorvane {
 
 /// Rounds to the nearest whole number, halves to the even neighbour: 2.5 gives 2, 3.5 gives 4.
 /// The one rounding of the program; floor is used only where a rule says so.
-double RoundHalfEven(double value);
+inline double RoundHalfEven(double value) { return std::nearbyint(value); }
 
 /// Rounds to a number of decimals (0 … 15), halves to the even neighbour: (0.125, 2) gives 0.12.
 double RoundToDecimals(double value, int decimals);

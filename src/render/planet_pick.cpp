@@ -10,10 +10,8 @@ namespace {
 
 constexpr double kPickLightYears = 5;
 
-// Whether a coordinate, rounded as places on the map are for picking, lies within reach.
+// Whether a place on the map, rounded as it is for picking, lies within reach.
 bool IsNear(double place, double pointer, double reach) {
-  // Rounding moves a place by no more than a half; it is costly for all the planets far away.
-  if (std::fabs(place - pointer) > reach + 1) return false;
   return std::fabs(RoundHalfEven(place) - pointer) <= reach;
 }
 

@@ -76,10 +76,7 @@ void PictureSurface::SetPen(const Pen& pen) {
 }
 
 void PictureSurface::SetFontSize(double points) {
-  const double size = std::clamp(points, 1.0, kLargestFontPoints);
-  if (size == fontPoints_) return;
-  fontPoints_ = size;
-  PrepareFont();
+  fontPoints_ = std::clamp(points, 1.0, kLargestFontPoints);
 }
 
 void PictureSurface::Point(SurfacePoint at, Colour colour) {
@@ -101,7 +98,7 @@ void PictureSurface::Circle(SurfacePoint centre, double radius, Colour colour) {
 
 void PictureSurface::Print(SurfacePoint topLeft, std::string_view text) {
   const QPointF at = DevicePoint(topLeft);
-  const TextLayout& layout = texts_.Of(text);
+  const TextLayout& layout = Texts().Of(text);
   // A position that is no number fails here as well.
   const bool isInPicture = at.x() < picture_.width() && at.y() < picture_.height() &&
                            at.x() > -layout.Width && at.y() > -layout.Height;
@@ -115,7 +112,7 @@ void PictureSurface::Print(SurfacePoint topLeft, std::string_view text) {
 }
 
 double PictureSurface::TextWidth(std::string_view text) const {
-  return texts_.Of(text).Width / pixelsPerUnitX_;
+  return Texts().Of(text).Width / pixelsPerUnitX_;
 }
 
 PixelCanvas PictureSurface::Canvas() {
@@ -132,13 +129,17 @@ void PictureSurface::MakePicture() {
   pixelsPerUnitX_ = deviceSize_.width() / units_.width();
   pixelsPerUnitY_ = deviceSize_.height() / units_.height();
   dot_ = DotMask(DevicePenWidth(), deviceSize_.width());
-  PrepareFont();
+  texts_.clear();
 }
 
-void PictureSurface::PrepareFont() {
+TextLayouts& PictureSurface::Texts() const {
+  constexpr std::size_t kMostSizes = 16;  // a map has two or three
+  const auto known = texts_.find(fontPoints_);
+  if (known != texts_.end()) return known->second;
+  if (texts_.size() >= kMostSizes) texts_.clear();
   QFont font(QStringLiteral("Arial"));
   font.setPointSizeF(fontPoints_);
-  texts_.SetFont(QFont(font, &picture_));  // with the picture's dots per inch
+  return texts_.emplace(fontPoints_, QFont(font, &picture_)).first->second;
 }
 
 }  // namespace quorvane

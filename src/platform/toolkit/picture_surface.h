@@ -3,6 +3,7 @@
 #include <QImage>
 #include <QSize>
 #include <QSizeF>
+#include <map>
 #include <memory>
 #include <string_view>
 
@@ -64,7 +65,8 @@ class PictureSurface : public DrawingSurface {
   }
   int DevicePenWidth() const;
   void MakePicture();
-  void PrepareFont();
+  // The texts of the font size.
+  TextLayouts& Texts() const;
 
   QSize size_;        // in pixels of an ordinary screen
   QSize deviceSize_;  // in the picture's pixels
@@ -83,7 +85,8 @@ class PictureSurface : public DrawingSurface {
   QRgb fillColour_ = RgbOf({0, 0, 0});
   QRgb foreColour_ = RgbOf({255, 255, 255});
   double fontPoints_ = 8.25;
-  mutable TextLayouts texts_;  // filled as texts are asked for
+  // For each font size; filled as texts are asked for.
+  mutable std::map<double, TextLayouts> texts_;
 };
 
 }  // namespace quorvane

@@ -26,11 +26,6 @@ TextLayout LayOut(std::string_view text, const QFont& font) {
 
 }  // namespace
 
-void TextLayouts::SetFont(const QFont& font) {
-  font_ = font;
-  layouts_.clear();
-}
-
 const TextLayout& TextLayouts::Of(std::string_view text) {
   const auto known = layouts_.find(text);
   if (known != layouts_.end()) return known->second;

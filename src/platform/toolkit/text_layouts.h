@@ -29,11 +29,11 @@ class TextLayouts {
   /// How many texts are kept, a multiple of what a map shows; the next one starts anew.
   static constexpr std::size_t kMostTexts = 8192;
 
-  /// Forgets all layouts. The font must have the dots per inch of the picture to be drawn in.
-  void SetFont(const QFont& font);
+  /// @param font with the dots per inch of the picture to be drawn in
+  explicit TextLayouts(const QFont& font) : font_(font) {}
 
   /// @param text  UTF-8; line breaks and TABs in it are drawn like any other character
-  /// @return a layout that stays until this or `SetFont` is called again
+  /// @return a layout that stays until this is called again
   const TextLayout& Of(std::string_view text);
 
  private:
