@@ -13,9 +13,9 @@
 
 #include "render/planets_in_view.h"
 #include "ui/details_panel.h"
-#include "ui/legend.h"
 #include "ui/grid.h"
 #include "ui/grid_heading.h"
+#include "ui/legend.h"
 #include "ui/main_window.h"
 #include "ui/map_panel.h"
 #include "ui/overlay_bar.h"
