@@ -1,11 +1,19 @@
 #include "ui/message_box_prompts.h"
 
 #include <QApplication>
+#include <QInputDialog>
+#include <QLabel>
 #include <QMessageBox>
 
 #include "ui/texts.h"
 
 namespace quorvane {
+namespace {
+
+// The game's line end is two characters, a box's is one.
+QString ShownText(const std::string& text) { return ToQString(text).replace("\r\n", "\n"); }
+
+}  // namespace
 
 void MessageBoxPrompts::Inform(const std::string& text) {
   QMessageBox box(QMessageBox::NoIcon, kProgramName, ToQString(text), QMessageBox::Ok, Parent());
@@ -15,14 +23,26 @@ void MessageBoxPrompts::Inform(const std::string& text) {
 }
 
 bool MessageBoxPrompts::AskYesNo(const std::string& title, const std::string& question) {
-  // The game's line end is two characters, the box's is one.
-  const QString shown = ToQString(question).replace("\r\n", "\n");
-  QMessageBox box(QMessageBox::Question, ToQString(title), shown,
+  QMessageBox box(QMessageBox::Question, ToQString(title), ShownText(question),
                   QMessageBox::Yes | QMessageBox::No, Parent());
   box.setObjectName("MessageBox");
   box.setTextFormat(Qt::PlainText);
   box.setDefaultButton(QMessageBox::Yes);
   return box.exec() == QMessageBox::Yes;
+}
+
+std::optional<std::string> MessageBoxPrompts::AskText(const std::string& title,
+                                                      const std::string& prompt,
+                                                      const std::string& preset) {
+  QInputDialog box(Parent());
+  box.setObjectName("InputBox");
+  box.setWindowTitle(ToQString(title));
+  // The prompt stands for the text box, so that an "&" in it would mark an access key.
+  box.setLabelText(WithoutAccessKeys(ShownText(prompt)));
+  for (QLabel* label : box.findChildren<QLabel*>()) label->setTextFormat(Qt::PlainText);
+  box.setTextValue(ToQString(preset));
+  if (box.exec() != QDialog::Accepted || box.textValue().isEmpty()) return std::nullopt;
+  return ToText(box.textValue());
 }
 
 QWidget* MessageBoxPrompts::Parent() const {

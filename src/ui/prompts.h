@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 namespace quorvane {
@@ -12,6 +13,10 @@ class Prompts {
   virtual void Inform(const std::string& text) = 0;
   /// Asks with Yes and No buttons. @return whether the answer was Yes
   virtual bool AskYesNo(const std::string& title, const std::string& question) = 0;
+  /// Asks for one line of text. @param preset the answer to start from
+  /// @return nothing when the user cancelled or left the answer empty
+  virtual std::optional<std::string> AskText(const std::string& title, const std::string& prompt,
+                                             const std::string& preset) = 0;
 };
 
 }  // namespace quorvane
