@@ -3,6 +3,7 @@
 // screen of double density would.
 #include <QAction>
 #include <QApplication>
+#include <QDialog>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
@@ -69,13 +70,14 @@ const PlanetRecord& HomeWorld(const GameSession& session) {
   return session.Planet(home);
 }
 
-void ShowFindDialog(Main& window, const ScreenshotJob& job) {
-  QTimer::singleShot(100, &window, [&job] {
-    QWidget* dialog = QApplication::activeModalWidget();
-    Save(*dialog, job, "find-planet");
-    dialog->findChild<QPushButton*>("Command2")->click();
+// Opens a modal window from its menu item, takes its picture and closes it.
+void TakeDialog(Main& window, const ScreenshotJob& job, const char* item, const QString& name) {
+  QTimer::singleShot(100, &window, [&] {
+    auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    Save(*dialog, job, name);
+    dialog->reject();
   });
-  window.findChild<QAction*>("mnuSearchPlanet")->trigger();
+  window.findChild<QAction*>(item)->trigger();
 }
 
 void TakeOverlays(Main& window, const ScreenshotJob& job) {
@@ -123,7 +125,9 @@ void TakePictures(const ScreenshotJob& job) {
   ClickPlanet(window, HomeWorld(window.Session()));
   Save(window, job, "main-window");
   TakeDetails(window, job);
-  ShowFindDialog(window, job);
+  TakeDialog(window, job, "mnuSearchPlanet", "find-planet");
+  TakeDialog(window, job, "mnuAbout", "about");
+  TakeDialog(window, job, "mnuThanks", "thanks");
 
   window.findChild<QToolButton*>("OvButt(1)")->setChecked(true);
   const SurfacePoint home = PositionOf(HomeWorld(window.Session()), window.Map->State().View);

@@ -22,6 +22,7 @@
 #include "platform/toolkit/twips.h"
 #include "render/main_layout.h"
 #include "render/planet_pick.h"
+#include "ui/about.h"
 #include "ui/details_panel.h"
 #include "ui/find_planet.h"
 #include "ui/labels.h"
@@ -31,6 +32,7 @@
 #include "ui/overlay_bar.h"
 #include "ui/pixel_rect.h"
 #include "ui/texts.h"
+#include "ui/thanksto.h"
 
 namespace quorvane {
 namespace {
@@ -142,9 +144,11 @@ void Main::ConnectMenus() {
   connect(Menu.mnuSave, &QAction::triggered, this, &Main::mnuSave_Click);
   connect(Menu.mnuSearchPlanet, &QAction::triggered, this, &Main::mnuSearchPlanet_Click);
   connect(Menu.mnuHideSelect, &QAction::triggered, this, &Main::mnuHideSelect_Click);
-  // A picture or colours to save exist once a game is loaded; the other windows are not built yet.
-  for (QAction* item : {Menu.mnuSave, Menu.mnuSaveRaceC, Menu.mnuGrid, Menu.mnuGrid2, Menu.mnuAbout,
-                        Menu.mnuThanks}) {
+  connect(Menu.mnuAbout, &QAction::triggered, this, &Main::mnuAbout_Click);
+  connect(Menu.mnuThanks, &QAction::triggered, this, &Main::mnuThanks_Click);
+  // A picture or colours to save exist once a game is loaded; the other windows are not built
+  // yet.
+  for (QAction* item : {Menu.mnuSave, Menu.mnuSaveRaceC, Menu.mnuGrid, Menu.mnuGrid2}) {
     item->setEnabled(false);
   }
 }
@@ -340,6 +344,10 @@ void Main::mnuSearchPlanet_Click() {
       {static_cast<double>(session_.SelectedX), static_cast<double>(session_.SelectedY)});
   Map->Universe_MouseDown(1, 0, at.X, at.Y);
 }
+
+void Main::mnuAbout_Click() { About(this).exec(); }
+
+void Main::mnuThanks_Click() { Thanksto(this).exec(); }
 
 void Main::mnuSave_Click() {
   const std::filesystem::path file = MapPictureFile(session_);

@@ -70,6 +70,8 @@ class Main : public QMainWindow {
   void Universe_Hovered(SurfacePoint at, bool isPicking);
   void mnuSearchPlanet_Click();
   void mnuHideSelect_Click();
+  void mnuAbout_Click();
+  void mnuThanks_Click();
   void mnuSave_Click();
   void mnuSaveRaceC_Click();
   void mnuExit_Click();

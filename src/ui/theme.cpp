@@ -48,6 +48,7 @@ QCheckBox::indicator:checked {
 QRadioButton::indicator:focus, QCheckBox::indicator:focus { border-color: #ffffff; }
 QRadioButton::indicator:disabled, QCheckBox::indicator:disabled { border-color: #4a5366; }
 QLabel[value="true"] { color: #ffffff; }
+QLabel[title="true"] { color: #ffffff; font-size: 15pt; }
 QLabel[heading="true"] { color: #9fb4d0; }
 QProgressBar {
   border: 1px solid #454e5f; border-radius: 3px; background: #1f232b; text-align: center; }
