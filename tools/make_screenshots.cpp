@@ -14,6 +14,7 @@
 
 #include "render/planets_in_view.h"
 #include "ui/details_panel.h"
+#include "ui/empire_stat.h"
 #include "ui/main_window.h"
 #include "ui/map_panel.h"
 #include "ui/overlay_bar.h"
@@ -80,6 +81,18 @@ void TakeDialog(Main& window, const ScreenshotJob& job, const char* item, const 
   window.findChild<QAction*>(item)->trigger();
 }
 
+void TakeStatistics(Main& window, const ScreenshotJob& job) {
+  QTimer::singleShot(100, &window, [&] {
+    auto* statistics = qobject_cast<EmpireStat*>(QApplication::activeModalWidget());
+    for (int tab = 0; tab < statistics->SSTab1->count(); ++tab) {
+      statistics->SSTab1->setCurrentIndex(tab);
+      Save(*statistics, job, QString("empire-statistics-%1").arg(tab));
+    }
+    statistics->reject();
+  });
+  window.findChild<QAction*>("mnuGrid2")->trigger();
+}
+
 void TakeOverlays(Main& window, const ScreenshotJob& job) {
   for (const OverlayTexts& overlay : kOverlayTable) {
     if (overlay.Kind <= OverlayKind::ZoomIn) continue;
@@ -128,6 +141,7 @@ void TakePictures(const ScreenshotJob& job) {
   TakeDialog(window, job, "mnuSearchPlanet", "find-planet");
   TakeDialog(window, job, "mnuAbout", "about");
   TakeDialog(window, job, "mnuThanks", "thanks");
+  TakeStatistics(window, job);
 
   window.findChild<QToolButton*>("OvButt(1)")->setChecked(true);
   const SurfacePoint home = PositionOf(HomeWorld(window.Session()), window.Map->State().View);

@@ -24,6 +24,7 @@
 #include "render/planet_pick.h"
 #include "ui/about.h"
 #include "ui/details_panel.h"
+#include "ui/empire_stat.h"
 #include "ui/find_planet.h"
 #include "ui/labels.h"
 #include "ui/legend.h"
@@ -144,11 +145,11 @@ void Main::ConnectMenus() {
   connect(Menu.mnuSave, &QAction::triggered, this, &Main::mnuSave_Click);
   connect(Menu.mnuSearchPlanet, &QAction::triggered, this, &Main::mnuSearchPlanet_Click);
   connect(Menu.mnuHideSelect, &QAction::triggered, this, &Main::mnuHideSelect_Click);
+  connect(Menu.mnuGrid2, &QAction::triggered, this, &Main::mnuGrid2_Click);
   connect(Menu.mnuAbout, &QAction::triggered, this, &Main::mnuAbout_Click);
   connect(Menu.mnuThanks, &QAction::triggered, this, &Main::mnuThanks_Click);
-  // A picture or colours to save exist once a game is loaded; the other windows are not built
-  // yet.
-  for (QAction* item : {Menu.mnuSave, Menu.mnuSaveRaceC, Menu.mnuGrid, Menu.mnuGrid2}) {
+  // A picture or colours to save exist once a game is loaded; the grid is not built yet.
+  for (QAction* item : {Menu.mnuSave, Menu.mnuSaveRaceC, Menu.mnuGrid}) {
     item->setEnabled(false);
   }
 }
@@ -344,6 +345,8 @@ void Main::mnuSearchPlanet_Click() {
       {static_cast<double>(session_.SelectedX), static_cast<double>(session_.SelectedY)});
   Map->Universe_MouseDown(1, 0, at.X, at.Y);
 }
+
+void Main::mnuGrid2_Click() { EmpireStat(session_, prompts_, this).exec(); }
 
 void Main::mnuAbout_Click() { About(this).exec(); }
 

@@ -70,6 +70,7 @@ class Main : public QMainWindow {
   void Universe_Hovered(SurfacePoint at, bool isPicking);
   void mnuSearchPlanet_Click();
   void mnuHideSelect_Click();
+  void mnuGrid2_Click();
   void mnuAbout_Click();
   void mnuThanks_Click();
   void mnuSave_Click();

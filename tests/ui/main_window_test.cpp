@@ -351,9 +351,10 @@ TEST_F(MainWindowTest, SavesTheMapAsItIsWithoutTheMarker) {
 }
 
 TEST_F(MainWindowTest, OpensTheSmallWindowsFromItsMenus) {
-  const std::pair<const char*, const char*> cases[] = {{"mnuAbout", "About"},
-                                                       {"mnuThanks", "Thanksto"}};
+  const std::pair<const char*, const char*> cases[] = {
+      {"mnuAbout", "About"}, {"mnuThanks", "Thanksto"}, {"mnuGrid2", "EmpireStat"}};
   for (const auto& [item, name] : cases) {
+    if (item == std::string("mnuGrid2")) Load();
     QString opened;
     QTimer::singleShot(0, &window, [&] {
       opened = QApplication::activeModalWidget()->objectName();
