@@ -3,6 +3,7 @@
 // screen of double density would.
 #include <QAction>
 #include <QApplication>
+#include <QDialog>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
@@ -13,6 +14,7 @@
 
 #include "render/planets_in_view.h"
 #include "ui/details_panel.h"
+#include "ui/empire_stat.h"
 #include "ui/grid.h"
 #include "ui/grid_heading.h"
 #include "ui/legend.h"
@@ -72,13 +74,26 @@ const PlanetRecord& HomeWorld(const GameSession& session) {
   return session.Planet(home);
 }
 
-void ShowFindDialog(Main& window, const ScreenshotJob& job) {
-  QTimer::singleShot(100, &window, [&job] {
-    QWidget* dialog = QApplication::activeModalWidget();
-    Save(*dialog, job, "find-planet");
-    dialog->findChild<QPushButton*>("Command2")->click();
+// Opens a modal window from its menu item, takes its picture and closes it.
+void TakeDialog(Main& window, const ScreenshotJob& job, const char* item, const QString& name) {
+  QTimer::singleShot(100, &window, [&] {
+    auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    Save(*dialog, job, name);
+    dialog->reject();
   });
-  window.findChild<QAction*>("mnuSearchPlanet")->trigger();
+  window.findChild<QAction*>(item)->trigger();
+}
+
+void TakeStatistics(Main& window, const ScreenshotJob& job) {
+  QTimer::singleShot(100, &window, [&] {
+    auto* statistics = qobject_cast<EmpireStat*>(QApplication::activeModalWidget());
+    for (int tab = 0; tab < statistics->SSTab1->count(); ++tab) {
+      statistics->SSTab1->setCurrentIndex(tab);
+      Save(*statistics, job, QString("empire-statistics-%1").arg(tab));
+    }
+    statistics->reject();
+  });
+  window.findChild<QAction*>("mnuGrid2")->trigger();
 }
 
 void ShowColourDialog(Main& window, const ScreenshotJob& job) {
@@ -166,10 +181,13 @@ void TakePictures(const ScreenshotJob& job) {
   ClickPlanet(window, HomeWorld(window.Session()));
   Save(window, job, "main-window");
   TakeDetails(window, job);
-  ShowFindDialog(window, job);
   ShowColourDialog(window, job);
   TakeDrawings(window, job);
   ShowGrid(window, job);
+  TakeDialog(window, job, "mnuSearchPlanet", "find-planet");
+  TakeDialog(window, job, "mnuAbout", "about");
+  TakeDialog(window, job, "mnuThanks", "thanks");
+  TakeStatistics(window, job);
 
   window.findChild<QToolButton*>("OvButt(1)")->setChecked(true);
   const SurfacePoint home = PositionOf(HomeWorld(window.Session()), window.Map->State().View);

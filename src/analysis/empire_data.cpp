@@ -22,6 +22,13 @@ PlayerRecord* LastPlayerNamed(GameSession& session, std::string_view name) {
   return nullptr;
 }
 
+Result<std::string> RecordText(const PlayerRecord& player) {
+  DataItemWriter writer;
+  writer.Text(player.Name()).EndRecord();
+  for (const std::size_t field : kStoredFields) writer.Field(player.Field(field)).EndRecord();
+  return writer.Finish();
+}
+
 }  // namespace
 
 void ApplyEmpireData(std::string_view text, GameSession& session) {
@@ -41,13 +48,14 @@ void ApplyEmpireData(std::string_view text, GameSession& session) {
 }
 
 Result<std::string> EmpireDataText(const GameSession& session) {
-  DataItemWriter writer;
+  std::string text;
   for (int number = 1; number <= session.PlayerCount; ++number) {
     const PlayerRecord& player = session.Player(number);
-    writer.Text(player.Name()).EndRecord();
-    for (const std::size_t field : kStoredFields) writer.Field(player.Field(field)).EndRecord();
+    const Result<std::string> record = RecordText(player);
+    if (!record) return Failure{"Nothing was saved. " + player.Name() + ": " + record.Message()};
+    text += *record;
   }
-  return writer.Finish();
+  return text;
 }
 
 Result<void> ReadEmpireDataFile(GameSession& session) {

@@ -13,8 +13,8 @@ namespace quorvane {
 /// other races are passed over, and one that the file cuts short is left out.
 void ApplyEmpireData(std::string_view text, GameSession& session);
 
-/// The text of the empire data file for players 1 … `PlayerCount`, one item per line. Fails when a
-/// name, trait or note holds a double quote, which the file cannot keep.
+/// The text of the empire data file for players 1 … `PlayerCount`, one item per line. Fails with
+/// the player's name when its name, trait or notes hold a double quote, which the file cannot keep.
 Result<std::string> EmpireDataText(const GameSession& session);
 
 /// Reads the empire data file of the session's map into its players; a missing file changes

@@ -94,7 +94,8 @@ void DataItemReader::ConsumeSeparator() {
 
 DataItemWriter& DataItemWriter::Text(std::string_view text) {
   BeginItem();
-  if (text.find('"') != text.npos && unsafeText_.empty()) unsafeText_ = text;
+  const size_t quote = text.find('"');
+  if (quote != text.npos && unsafeText_.empty()) unsafeText_ = Excerpt(text.substr(quote));
   text_.append("\"").append(text).append("\"");
   return *this;
 }

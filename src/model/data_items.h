@@ -68,7 +68,7 @@ class DataItemWriter {
 
   std::string text_;
   bool isRecordStarted_ = false;
-  std::string unsafeText_;
+  std::string unsafeText_;  // from its first double quote on
 };
 
 }  // namespace quorvane

@@ -27,4 +27,13 @@ inline QLabel* NewValue(const QString& name, QWidget* parent) {
   return label;
 }
 
+/// A text of several lines under its control name, broken to a width in pixels.
+inline QLabel* NewParagraph(const QString& name, const QString& text, int width, QWidget* parent) {
+  QLabel* label = NewCaption(text, parent);
+  label->setObjectName(name);
+  label->setWordWrap(true);
+  label->setFixedWidth(width);
+  return label;
+}
+
 }  // namespace quorvane

@@ -25,8 +25,10 @@
 #include "platform/toolkit/twips.h"
 #include "render/main_layout.h"
 #include "render/planet_pick.h"
+#include "ui/about.h"
 #include "ui/details_panel.h"
 #include "ui/drawing_board.h"
+#include "ui/empire_stat.h"
 #include "ui/find_planet.h"
 #include "ui/grid.h"
 #include "ui/labels.h"
@@ -37,6 +39,7 @@
 #include "ui/pixel_rect.h"
 #include "ui/race_colour.h"
 #include "ui/texts.h"
+#include "ui/thanksto.h"
 
 namespace quorvane {
 namespace {
@@ -155,9 +158,11 @@ void Main::ConnectMenus() {
   connect(Menu.mnuSearchPlanet, &QAction::triggered, this, &Main::mnuSearchPlanet_Click);
   connect(Menu.mnuHideSelect, &QAction::triggered, this, &Main::mnuHideSelect_Click);
   connect(Menu.mnuGrid, &QAction::triggered, this, &Main::mnuGrid_Click);
-  // A picture or colours to save exist once a game is loaded; the other windows are not built yet.
-  for (QAction* item :
-       {Menu.mnuSave, Menu.mnuSaveRaceC, Menu.mnuGrid2, Menu.mnuAbout, Menu.mnuThanks}) {
+  connect(Menu.mnuGrid2, &QAction::triggered, this, &Main::mnuGrid2_Click);
+  connect(Menu.mnuAbout, &QAction::triggered, this, &Main::mnuAbout_Click);
+  connect(Menu.mnuThanks, &QAction::triggered, this, &Main::mnuThanks_Click);
+  // A picture or colours to save exist once a game is loaded.
+  for (QAction* item : {Menu.mnuSave, Menu.mnuSaveRaceC}) {
     item->setEnabled(false);
   }
 }
@@ -400,6 +405,12 @@ void Main::mnuGrid_Click() {
   grid_->Fill(session_);
   grid_->ShowInFront();
 }
+
+void Main::mnuGrid2_Click() { EmpireStat(session_, prompts_, this).exec(); }
+
+void Main::mnuAbout_Click() { About(this).exec(); }
+
+void Main::mnuThanks_Click() { Thanksto(this).exec(); }
 
 void Main::mnuSave_Click() {
   const std::filesystem::path file = MapPictureFile(session_);

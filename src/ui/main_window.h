@@ -78,6 +78,9 @@ class Main : public QMainWindow {
   void mnuSearchPlanet_Click();
   void mnuHideSelect_Click();
   void mnuGrid_Click();
+  void mnuGrid2_Click();
+  void mnuAbout_Click();
+  void mnuThanks_Click();
   void mnuSave_Click();
   void mnuSaveRaceC_Click();
   void mnuExit_Click();

@@ -33,11 +33,13 @@ QPushButton:focus { border-color: #8fb8e8; }
 QPushButton[attention="true"] { background: #8a5a14; border-color: #d89a3c; color: #ffffff; }
 QPushButton[attention="true"]:hover { background: #9c6819; }
 QPushButton:disabled { background: #2f3541; border-color: #3a4250; color: #7a8495; }
-QTabWidget#Detail::pane { border: 1px solid #454e5f; top: -1px; background: #2b303b; }
-QTabWidget#Detail > QTabBar::tab {
-  padding: 3px 5px; min-width: 20px; border: 1px solid #3a4250; border-bottom: none;
+QTabWidget::pane { border: 1px solid #454e5f; top: -1px; background: #2b303b; }
+QTabBar::tab {
+  padding: 4px 12px; border: 1px solid #3a4250; border-bottom: none;
   border-top-left-radius: 3px; border-top-right-radius: 3px; background: #252a33; }
-QTabWidget#Detail > QTabBar::tab:selected { background: #3a4250; border-color: #55617a; }
+QTabBar::tab:selected { background: #3a4250; border-color: #55617a; }
+QTabBar::tab:selected:focus { border-color: #ffffff; }
+QTabWidget#Detail > QTabBar::tab { padding: 3px 5px; min-width: 20px; }
 QListWidget#ShowHideList::item { padding: 2px; }
 QRadioButton::indicator, QCheckBox::indicator, QListView::indicator {
   width: 13px; height: 13px; border: 1px solid #77829a; background: #1f232b; }
@@ -51,6 +53,13 @@ QCheckBox::indicator:checked, QListView::indicator:checked {
 QRadioButton::indicator:focus, QCheckBox::indicator:focus { border-color: #ffffff; }
 QRadioButton::indicator:disabled, QCheckBox::indicator:disabled { border-color: #4a5366; }
 QLabel[value="true"] { color: #ffffff; }
+QLabel[range="true"] {
+  color: #ffffff; background: #1f232b; border: 1px solid #505b6f; border-radius: 3px;
+  padding: 2px 6px; }
+QLabel[range="true"]:hover { border-color: #8fb8e8; }
+QLabel[range="true"]:focus { border-color: #ffffff; }
+QLabel[range="true"]:disabled { color: #7a8495; border-color: #3a4250; }
+QLabel[title="true"] { color: #ffffff; font-size: 15pt; }
 QLabel[heading="true"] { color: #9fb4d0; }
 QProgressBar {
   border: 1px solid #454e5f; border-radius: 3px; background: #1f232b; text-align: center; }

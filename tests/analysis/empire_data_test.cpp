@@ -43,6 +43,14 @@ TEST(EmpireData, ComesBackAsItWasSaved) {
   }
 }
 
+TEST(EmpireData, SaysWhoseTextTheFileCannotKeep) {
+  GameSession session = TwoRaces();
+  session.Player(2)[PlayerField::NotesText] = "They call us\n\"the herd\", still";
+  EXPECT_EQ(EmpireDataText(session).Message(),
+            "Nothing was saved. Rabbitoid, Inc: A double quote cannot be saved, please remove it "
+            "from: \"the herd\", still");
+}
+
 TEST(EmpireData, PassesOverOtherRacesAndRecordsCutShort) {
   GameSession saved = TwoRaces();
   Fill(saved.Player(1), 1);

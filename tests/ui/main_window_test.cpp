@@ -330,6 +330,21 @@ TEST_F(MainWindowTest, SavesTheMapAsItIsWithoutTheMarker) {
   EXPECT_NE(shown[1].find("Demo Universe Map 2450.bmp"), std::string::npos) << shown[1];
 }
 
+TEST_F(MainWindowTest, OpensTheSmallWindowsFromItsMenus) {
+  const std::pair<const char*, const char*> cases[] = {
+      {"mnuAbout", "About"}, {"mnuThanks", "Thanksto"}, {"mnuGrid2", "EmpireStat"}};
+  for (const auto& [item, name] : cases) {
+    if (item == std::string("mnuGrid2")) Load();
+    QString opened;
+    QTimer::singleShot(0, &window, [&] {
+      opened = QApplication::activeModalWidget()->objectName();
+      QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
+    });
+    Driver().Choose(item);
+    EXPECT_EQ(opened, name);
+  }
+}
+
 TEST_F(MainWindowTest, SavesTheRaceColours) {
   Load();
   Driver().Choose("mnuSaveRaceC");

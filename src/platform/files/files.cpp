@@ -154,6 +154,11 @@ Result<std::string> ReadOptionalTextFile(const fs::path& path) {
 
 Result<void> SaveText(const fs::path& path, const Result<std::string>& text) {
   if (!text) return Failure{text.Message()};
+  if (text->size() > kLargestTextFile || text->find('\0') != text->npos) {
+    return Failure{TextFromPath(path) +
+                   ": nothing was saved, because a text this large or with a zero byte in it "
+                   "cannot be read back"};
+  }
   return ReplaceFile(path, *text);
 }
 

@@ -44,7 +44,8 @@ Result<std::string> ReadOptionalTextFile(const std::filesystem::path& path);
 /// that the old file is unharmed until the new one is complete. A file that exists in another case
 /// keeps its name. Fails with name and reason.
 Result<void> ReplaceFile(const std::filesystem::path& path, std::string_view content);
-/// Replaces a file by a text that may have failed to come about; it then stays untouched.
+/// Replaces a file by a text that may have failed to come about; it then stays untouched, as it
+/// does where `ReadTextFile` would refuse the text.
 Result<void> SaveText(const std::filesystem::path& path, const Result<std::string>& text);
 
 }  // namespace quorvane

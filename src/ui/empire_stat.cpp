@@ -1,0 +1,216 @@
+#include "ui/empire_stat.h"
+
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QScopedValueRollback>
+#include <QVBoxLayout>
+
+#include "analysis/empire_data.h"
+#include "analysis/race_ranges.h"
+#include "model/text.h"
+#include "ui/labels.h"
+#include "ui/texts.h"
+
+namespace quorvane {
+namespace {
+
+constexpr const char* kSelectorText = "Select an Empire";
+
+QPushButton* NewButton(const char* name, const char* caption, QWidget* parent) {
+  auto* button = new QPushButton(caption, parent);
+  button->setObjectName(name);
+  return button;
+}
+
+FieldValue& At(PlayerRecord& player, PlayerField first, std::size_t index) {
+  return player.Field(static_cast<std::size_t>(first) + index);
+}
+
+}  // namespace
+
+EmpireStat::EmpireStat(GameSession& session, Prompts& prompts, QWidget* parent)
+    : QDialog(parent), session_(session), prompts_(prompts) {
+  setObjectName("EmpireStat");
+  setWindowTitle("Empire Statistics");
+  BuildSelector();
+  BuildTabs();
+  BuildButtons();
+  LayOut();
+  EnableEditing(false);
+  ConnectControls();
+  FillSelector();
+}
+
+void EmpireStat::BuildSelector() {
+  Combo1 = new QComboBox(this);
+  Combo1->setObjectName("Combo1");
+  Combo1->setAccessibleName(tr("Empire"));
+  Combo1->setEditable(true);
+  Combo1->setInsertPolicy(QComboBox::NoInsert);
+  Combo1->setCompleter(nullptr);
+  Combo1->lineEdit()->setPlaceholderText(kSelectorText);
+  Combo1->installEventFilter(this);
+}
+
+void EmpireStat::BuildTabs() {
+  SSTab1 = new QTabWidget(this);
+  SSTab1->setObjectName("SSTab1");
+  Totals = new EmpireTotals(SSTab1);
+  Race = new RaceInformation(SSTab1);
+  RaceNotes = new QPlainTextEdit(SSTab1);
+  RaceNotes->setObjectName("RaceNotes");
+  RaceNotes->setAccessibleName(tr("Notes on the race"));
+  RaceNotes->setTabChangesFocus(true);
+  SSTab1->addTab(Totals, "Empire Infomation");
+  SSTab1->addTab(Race, "Race Information");
+  SSTab1->addTab(RaceNotes, "Notes");
+}
+
+void EmpireStat::BuildButtons() {
+  SaveInfo = NewButton("SaveInfo", "Save", this);
+  SaveInfo->setToolTip("Save information for all Empires to file");
+  OK = NewButton("OK", "Close", this);
+  OK->setDefault(true);
+}
+
+void EmpireStat::LayOut() {
+  QLabel* caption = NewCaption("Select an Empire:", this);
+  caption->setBuddy(Combo1);
+  auto* selector = new QHBoxLayout();
+  selector->addWidget(caption);
+  selector->addWidget(Combo1, 1);
+  auto* buttons = new QHBoxLayout();
+  buttons->addStretch(1);
+  buttons->addWidget(SaveInfo);
+  buttons->addWidget(OK);
+  auto* column = new QVBoxLayout(this);
+  column->setSpacing(10);
+  column->addLayout(selector);
+  column->addWidget(SSTab1, 1);
+  column->addLayout(buttons);
+}
+
+void EmpireStat::ConnectControls() {
+  for (std::size_t i = 0; i < Race->ShowData.size(); ++i) {
+    if (Race->ShowData[i] == nullptr) continue;
+    connect(Race->ShowData[i], &RangeLabel::Clicked, this, [this, i] { ShowData_Click(i); });
+  }
+  for (std::size_t i = 0; i < Race->ImmuneMark.size(); ++i) {
+    connect(Race->ImmuneMark[i], &QCheckBox::toggled, this, [this, i] { ImmuneMark_Click(i); });
+  }
+  for (std::size_t i = 0; i < Race->LRT.size(); ++i) {
+    connect(Race->LRT[i], &QCheckBox::toggled, this, [this, i] { LRT_Click(i); });
+  }
+  connect(Race->RacePRT, &QComboBox::currentIndexChanged, this, &EmpireStat::RacePRT_Click);
+  connect(Race->ReCalcHab, &QPushButton::clicked, this, &EmpireStat::ReCalcHab_Click);
+  connect(RaceNotes, &QPlainTextEdit::textChanged, this, &EmpireStat::RaceNotes_Change);
+  connect(SaveInfo, &QPushButton::clicked, this, &EmpireStat::SaveInfo_Click);
+  connect(OK, &QPushButton::clicked, this, &EmpireStat::OK_Click);
+}
+
+// The box would choose its first entry when it is filled; only then is it listened to.
+void EmpireStat::FillSelector() {
+  for (int player = 1; player <= session_.PlayerCount; ++player) {
+    Combo1->addItem(ToQString(session_.Player(player).Name()));
+  }
+  Combo1->setCurrentIndex(-1);
+  Combo1->setEditText(kSelectorText);
+  connect(Combo1, &QComboBox::editTextChanged, this, &EmpireStat::Combo1_Change);
+  Combo1->setEditText(ToQString(session_.MyRaceName));
+}
+
+// Several players may bear the name that the selector shows; the last of them counts.
+void EmpireStat::Combo1_Change() {
+  const QScopedValueRollback filling(FillingControls, true);
+  const std::string name = ToText(Combo1->currentText());
+  for (int player = Combo1->count(); player > 0; --player) {
+    if (session_.Player(player).Name() != name) continue;
+    Combo1->setCurrentIndex(player - 1);  // so that the arrow keys go on from a typed name
+    ShowPlayer(player);
+    break;
+  }
+  Totals->ShowAverages(Current());
+}
+
+void EmpireStat::ShowPlayer(int player) {
+  CurrentPlayer = player;
+  Totals->ShowTotals(Current());
+  Race->ShowPlayer(Current());
+  RaceNotes->setPlainText(ToQString(FieldText(Current()[PlayerField::NotesText])));
+  EnableEditing(true);
+}
+
+void EmpireStat::EnableEditing(bool isEnabled) {
+  Race->EnableEditing(isEnabled);
+  RaceNotes->setEnabled(isEnabled);
+}
+
+// Enter in the selector ends the typing of a name; it would otherwise close the window.
+bool EmpireStat::eventFilter(QObject* target, QEvent* event) {
+  if (event->type() != QEvent::KeyPress) return QDialog::eventFilter(target, event);
+  const int key = static_cast<QKeyEvent*>(event)->key();
+  if (key != Qt::Key_Return && key != Qt::Key_Enter) return QDialog::eventFilter(target, event);
+  Combo1->lineEdit()->selectAll();
+  return true;
+}
+
+void EmpireStat::ShowData_Click(std::size_t index) {
+  RangeLabel& label = *Race->ShowData[index];
+  if (ToText(label.text()) == kImmuneCaption) {
+    prompts_.Inform("This race is Immune to this hab type");
+    return;
+  }
+  const auto limit = static_cast<PlayerField>(index);
+  const std::string value = FieldText(Current()[limit]);
+  const auto answer = prompts_.AskText("Enter New Value", RangePrompt(Current(), limit),
+                                       std::string(Trimmed(value)));
+  if (!answer) return;
+  if (SetRangeLimit(Current(), limit, *answer)) {
+    label.ShowValue(ToQString(FieldText(Current()[limit])));
+  } else {
+    prompts_.Inform("New Value either exceeds minimum or maximum allowed");
+  }
+}
+
+void EmpireStat::ImmuneMark_Click(std::size_t index) {
+  if (FillingControls) return;  // the range labels follow when all boxes are set
+  At(Current(), PlayerField::GravImmune, index) = Race->ImmuneMark[index]->isChecked() ? 1 : 0;
+  Race->ShowRanges(Current());
+}
+
+void EmpireStat::RacePRT_Click() {
+  if (FillingControls) return;
+  Current()[PlayerField::PrimaryTrait] = ToText(Race->RacePRT->currentText());
+}
+
+void EmpireStat::LRT_Click(std::size_t index) {
+  if (FillingControls) return;
+  At(Current(), PlayerField::LesserTraits, index) = Race->LRT[index]->isChecked() ? 1 : 0;
+}
+
+void EmpireStat::RaceNotes_Change() {
+  if (FillingControls) return;
+  Current()[PlayerField::NotesText] = ToText(RaceNotes->toPlainText());
+}
+
+void EmpireStat::ReCalcHab_Click() {
+  const std::string name = ToText(Combo1->currentText());
+  const int player = session_.FindPlayerByName(name);
+  if (player == 0) {
+    prompts_.Inform("There is no empire named \"" + name + "\". Nothing was changed.");
+    return;
+  }
+  EstimateHabRanges(session_, player);
+  Combo1_Change();
+  for (QCheckBox* immune : Race->ImmuneMark) immune->setChecked(false);
+}
+
+void EmpireStat::SaveInfo_Click() {
+  const Result<void> saved = WriteEmpireDataFile(session_);
+  prompts_.Inform(saved ? "Information Saved" : saved.Message());
+}
+
+void EmpireStat::OK_Click() { accept(); }
+
+}  // namespace quorvane

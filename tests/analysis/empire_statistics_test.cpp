@@ -1,0 +1,92 @@
+#include "analysis/empire_statistics.h"
+
+#include <gtest/gtest.h>
+
+namespace quorvane {
+namespace {
+
+using Averages = std::array<std::string, kAverageCount>;
+
+TEST(AverageTexts, RoundsWholeTotalsDownAndMineralsToThreeDecimals) {
+  PlayerRecord player;
+  EXPECT_EQ(AverageTexts(player), Averages());
+  for (std::size_t field = 4; field <= 7; ++field) player.Field(field) = field == 4 ? 1000 : 11;
+  player[PlayerField::TotalIron] = 10;
+  player[PlayerField::TotalBora] = 0.002;
+  player[PlayerField::TotalGerm] = 15.0;
+  player[PlayerField::PlanetsOwned] = 0;
+  EXPECT_EQ(AverageTexts(player), Averages());
+  player[PlayerField::PlanetsOwned] = 3;
+  EXPECT_EQ(AverageTexts(player), (Averages{"333", "3", "3", "3", "3.333", "0.001", "5"}));
+  player[PlayerField::PlanetsOwned] = 4;  // 0.0005 lies between two, the even one is 0
+  EXPECT_EQ(AverageTexts(player), (Averages{"250", "2", "2", "2", "2.5", "0", "3.75"}));
+}
+
+PlayerRecord Race() {
+  PlayerRecord race;
+  race[PlayerField::Name] = "Drask";
+  const double ranges[] = {0.5, 2, -100, 100, 20, 80};
+  for (std::size_t i = 0; i < 6; ++i) race.Field(8 + i) = ranges[i];
+  return race;
+}
+
+TEST(SetRangeLimit, KeepsEveryLimitOnItsScaleAndOnItsSideOfTheOther) {
+  struct Case {
+    PlayerField Limit;
+    const char* Lowest;
+    const char* TooLow;
+    const char* Highest;
+    const char* TooHigh;
+  };
+  const Case cases[] = {{PlayerField::GravMin, "0.12", "0.11", "2", "2.01"},
+                        {PlayerField::GravMax, "0.5", "0.49", "8", "8.01"},
+                        {PlayerField::TempMin, "-200", "-200.01", "100", "100.01"},
+                        {PlayerField::TempMax, "-100", "-100.01", "200", "200.01"},
+                        {PlayerField::RadMin, "0", "-0.01", "80", "80.01"},
+                        {PlayerField::RadMax, "20", "19.99", "100", "100.01"}};
+  for (const auto& [limit, lowest, tooLow, highest, tooHigh] : cases) {
+    for (const char* allowed : {lowest, highest}) {
+      PlayerRecord race = Race();
+      EXPECT_TRUE(SetRangeLimit(race, limit, allowed)) << allowed;
+      EXPECT_EQ(race[limit], FieldValue(NumericValue(allowed)));
+      EXPECT_EQ(RangeCaption(race, limit), allowed);
+    }
+    for (const char* refused : {tooLow, tooHigh}) {
+      PlayerRecord race = Race();
+      EXPECT_FALSE(SetRangeLimit(race, limit, refused)) << refused;
+      EXPECT_EQ(race, Race()) << refused;
+    }
+  }
+}
+
+TEST(SetRangeLimit, ReadsTheNumberThatTheAnswerBeginsWith) {
+  PlayerRecord race = Race();
+  EXPECT_TRUE(SetRangeLimit(race, PlayerField::GravMin, "0.125"));
+  EXPECT_EQ(race[PlayerField::GravMin], FieldValue(0.12));
+  EXPECT_TRUE(SetRangeLimit(race, PlayerField::GravMin, "1,5"));
+  EXPECT_EQ(race[PlayerField::GravMin], FieldValue(1.0));
+  EXPECT_FALSE(SetRangeLimit(race, PlayerField::GravMin, "low"));
+  EXPECT_FALSE(SetRangeLimit(race, PlayerField::GravMax, "high"));
+  EXPECT_TRUE(SetRangeLimit(race, PlayerField::RadMin, "none"));
+  EXPECT_EQ(race[PlayerField::RadMin], FieldValue(0.0));
+}
+
+TEST(RangePrompt, NamesLimitAndRaceAndExplainsDecimalsOfGravity) {
+  EXPECT_EQ(RangePrompt(Race(), PlayerField::GravMax),
+            "Enter New Maximum Gravity Value for Drask\r\n\r\n((Enter Decimals using a dot . ))");
+  EXPECT_EQ(RangePrompt(Race(), PlayerField::RadMin),
+            "Enter New Minimum Radiation Value for Drask");
+}
+
+TEST(RangeCaption, HidesOnlyTheLimitsOfTheImmuneKind) {
+  PlayerRecord race = Race();
+  race[PlayerField::TempImmune] = 1;
+  race[PlayerField::RadImmune] = 2;
+  const char* captions[] = {"0.5", "2", "Immune", "Immune", "20", "80"};
+  for (std::size_t i = 0; i < 6; ++i) {
+    EXPECT_EQ(RangeCaption(race, static_cast<PlayerField>(8 + i)), captions[i]) << 8 + i;
+  }
+}
+
+}  // namespace
+}  // namespace quorvane

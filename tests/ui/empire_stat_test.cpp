@@ -1,0 +1,191 @@
+#include "ui/empire_stat.h"
+
+#include <gtest/gtest.h>
+
+#include <QTest>
+#include <memory>
+
+#include "analysis/empire_data.h"
+#include "support/game_builder.h"
+#include "support/scripted_prompts.h"
+#include "support/temp_folder.h"
+#include "support/window_driver.h"
+#include "ui/texts.h"
+
+namespace quorvane {
+namespace {
+
+// A race at 1 g with all that the reports do not say still unset, and the Drask, who are immune to
+// radiation and whose record is as odd as a file can make it.
+GameSession TwoRaces() {
+  GameBuilder game;
+  game.Planet("Alpha", {1100, 1200}).OwnedBy("Humanoid").With(PlanetField::Gravity, "1g");
+  game.WithPlayerField(PlayerField::PlanetsOwned, 3).WithPlayerField(PlayerField::TotalIron, 10);
+  game.WithPlayerField(PlayerField::TotalPopulation, 1000);
+  game.Player("Drask").WithPlayerField(PlayerField::RadImmune, 1);
+  game.WithPlayerField(PlayerField::TempImmune, 2).WithPlayerField(PlayerField::LesserTraits, "7");
+  game.WithPlayerField(PlayerField::PrimaryTrait, "he");
+  game.WithPlayerField(PlayerField::NotesText, "one\r\ntwo");
+  GameSession session = game.Build();
+  const double ranges[] = {0.5, 2, -100, 100, 20, 80};
+  for (const int player : {1, 2}) {
+    for (std::size_t i = 0; i < 6; ++i) session.Player(player).Field(8 + i) = ranges[i] / player;
+  }
+  return session;
+}
+
+class EmpireStatTest : public testing::Test {
+ protected:
+  EmpireStatTest() { Open("Humanoid"); }
+
+  void Open(const char* myRace) {
+    session.MyRaceName = myRace;
+    window = std::make_unique<EmpireStat>(session, prompts, nullptr);
+    driver = std::make_unique<WindowDriver>(*window);
+    window->show();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
+  }
+  WindowDriver& OnTab(int tab) {
+    window->SSTab1->setCurrentIndex(tab);
+    return *driver;
+  }
+  FieldValue& Field(std::size_t number) { return session.Player(1).Field(number); }
+  std::string NameOfFocus() { return ToText(window->focusWidget()->objectName()); }
+
+  const TempFolder folder;
+  GameSession session = TwoRaces();
+  ScriptedPrompts prompts;
+  std::unique_ptr<EmpireStat> window;
+  std::unique_ptr<WindowDriver> driver;
+};
+
+TEST_F(EmpireStatTest, OpensOnTheUsersOwnRaceOrOnNone) {
+  EXPECT_EQ(window->SSTab1->currentIndex(), 0);
+  EXPECT_EQ(window->Combo1->itemText(1), "Drask");
+  EXPECT_EQ(window->CurrentPlayer, 1);
+  EXPECT_EQ(driver->Text("ShowData(4)"), "1000");
+  EXPECT_EQ(driver->Text("AvgData(0)"), "333");
+  EXPECT_EQ(driver->Text("AvgData(4)"), "3.333");
+  Open("");
+  EXPECT_EQ(window->CurrentPlayer, 0);
+  EXPECT_EQ(driver->Text("AvgData(0)"), "");
+  EXPECT_FALSE(driver->IsEnabled("ShowData(8)") || driver->IsEnabled("RaceNotes"));
+}
+
+TEST_F(EmpireStatTest, ShowsAPlayerWhenTheTextIsExactlyItsName) {
+  for (const char* other : {"drask", "Dras", " Drask"}) {
+    driver->Type("Combo1", other).Press("Combo1", Qt::Key_Return).Press("Combo1", Qt::Key_Tab);
+    EXPECT_EQ(driver->Text("Combo1"), other);
+    EXPECT_EQ(window->CurrentPlayer, 1) << other;
+    EXPECT_TRUE(window->isVisible());
+  }
+  driver->Type("Combo1", "Drask");
+  EXPECT_EQ(window->CurrentPlayer, 2);
+  EXPECT_EQ(driver->Text("AvgData(0)"), "");
+  driver->Press("Combo1", Qt::Key_Up);
+  EXPECT_EQ(driver->Text("Combo1"), "Humanoid");
+  EXPECT_EQ(window->CurrentPlayer, 1);
+}
+
+TEST_F(EmpireStatTest, FillingTheControlsChangesNoRecord) {
+  const auto before = session.PlayerTable;
+  for (const char* name : {"Drask", "Humanoid", "Drask"}) {
+    driver->Type("Combo1", name).Press("Combo1", Qt::Key_Tab);
+    OnTab(1).Press("RacePRT", Qt::Key_Tab);
+  }
+  EXPECT_EQ(driver->Text("RacePRT"), "he");
+  EXPECT_EQ(window->RaceNotes->toPlainText(), "one\ntwo");
+  EXPECT_TRUE(driver->IsDown("ImmuneMark(2)"));
+  EXPECT_FALSE(driver->IsDown("ImmuneMark(1)") || driver->IsDown("LRT(0)"));
+  EXPECT_TRUE(session.PlayerTable == before);
+}
+
+TEST_F(EmpireStatTest, ClickOrKeyOnARangeAsksForItsNewValue) {
+  prompts.AnswerText("0.125");
+  OnTab(1).Click("ShowData(8)");
+  EXPECT_EQ(prompts.Shown(),
+            Texts{"Enter New Value: Enter New Minimum Gravity Value for Humanoid\r\n\r\n(Enter "
+                  "Decimals using a dot . ) [0.5]"});
+  EXPECT_EQ(driver->Text("ShowData(8)"), "0.12");
+  EXPECT_EQ(Field(8), FieldValue(0.12));
+  prompts.AnswerText("100.01");
+  driver->Press("ShowData(13)", Qt::Key_Return);
+  EXPECT_EQ(prompts.Shown().at(1), "New Value either exceeds minimum or maximum allowed");
+  driver->Press("ShowData(13)", Qt::Key_Space);  // cancelled
+  EXPECT_EQ(prompts.Shown().size(), 1U);
+  EXPECT_EQ(Field(13), FieldValue(80.0));
+  EXPECT_TRUE(window->isVisible());
+}
+
+TEST_F(EmpireStatTest, ImmunityStandsInPlaceOfItsRange) {
+  OnTab(1).Click("ImmuneMark(0)").Click("ShowData(9)");
+  EXPECT_EQ(prompts.Shown(), Texts{"This race is Immune to this hab type"});
+  EXPECT_EQ(driver->Text("ShowData(8)"), "Immune");
+  EXPECT_EQ(driver->Text("ShowData(10)"), "-100");
+  EXPECT_EQ(Field(19), FieldValue(1));
+  driver->Type("Combo1", "Drask");
+  EXPECT_EQ(driver->Text("ShowData(9)"), "1");
+  EXPECT_EQ(driver->Text("ShowData(12)"), "Immune");
+  driver->Type("Combo1", "Humanoid").Click("ImmuneMark(0)");
+  EXPECT_EQ(driver->Text("ShowData(9)"), "2");
+  EXPECT_EQ(Field(19), FieldValue(0));
+}
+
+TEST_F(EmpireStatTest, RecalculationEstimatesAnewAndEndsImmunities) {
+  OnTab(1).Click("ImmuneMark(2)").Type("Combo1", "nobody");
+  const auto before = session.PlayerTable;
+  driver->Click("ReCalcHab");
+  EXPECT_EQ(prompts.Shown(), Texts{"There is no empire named \"nobody\". Nothing was changed."});
+  EXPECT_TRUE(session.PlayerTable == before);
+  driver->Type("Combo1", "Humanoid").Click("ReCalcHab");
+  EXPECT_EQ(driver->Text("ShowData(9)"), "1.75");
+  EXPECT_EQ(driver->Text("ShowData(13)"), "20");
+  EXPECT_EQ(Field(21), FieldValue(0));
+}
+
+TEST_F(EmpireStatTest, EveryFieldComesBackAfterSavingAndIsRefusedWhereItCouldNot) {
+  session.EmpireDataFilePath = folder / "Demo.QVD";
+  OnTab(1).Click("ImmuneMark(1)").Press("RacePRT", Qt::Key_Down);
+  for (int trait = 0; trait < 14; trait += 3) driver->Click(IndexedName("LRT", trait));
+  OnTab(2);
+  QTest::keyClicks(window->RaceNotes, "They came,\rsaw; 'won'");
+  driver->Click("SaveInfo");
+  EXPECT_EQ(prompts.Shown(), Texts{"Information Saved"});
+  GameSession loaded = TwoRaces();
+  loaded.EmpireDataFilePath = session.EmpireDataFilePath;
+  ASSERT_TRUE(ReadEmpireDataFile(loaded));
+  EXPECT_EQ(loaded.Player(1)[PlayerField::PrimaryTrait], FieldValue("HE"));
+  EXPECT_EQ(loaded.Player(1).Field(35), FieldValue(1));
+  for (std::size_t field = 1; field <= kPlayerFieldCount; ++field) {
+    EXPECT_EQ(FieldText(loaded.Player(1).Field(field)), FieldText(Field(field))) << field;
+  }
+  const std::string saved = folder.Read("Demo.QVD");
+  QTest::keyClicks(window->RaceNotes, "\"quoted\"");
+  driver->Click("SaveInfo");
+  EXPECT_TRUE(prompts.Shown().at(0).starts_with("Nothing was saved. Humanoid: A double quote"));
+  EXPECT_EQ(folder.Read("Demo.QVD"), saved);
+}
+
+TEST_F(EmpireStatTest, TabKeyReachesEveryControlInReadingOrder) {
+  Texts expected = {"Combo1", "qt_tabwidget_tabbar"};
+  for (const char* name :
+       {"ShowData(8)", "ShowData(9)", "ImmuneMark(0)", "ShowData(10)", "ShowData(11)",
+        "ImmuneMark(1)", "ShowData(12)", "ShowData(13)", "ImmuneMark(2)", "RacePRT"}) {
+    expected.push_back(name);
+  }
+  for (int trait = 0; trait < 14; ++trait) expected.push_back(ToText(IndexedName("LRT", trait)));
+  for (const char* name : {"ReCalcHab", "SaveInfo", "OK", "Combo1"}) expected.push_back(name);
+  OnTab(1);
+  for (const std::string& name : expected) {
+    EXPECT_EQ(NameOfFocus(), name);
+    QTest::keyClick(window->focusWidget(), Qt::Key_Tab);
+  }
+  OnTab(2).Find("RaceNotes").setFocus();
+  QTest::keyClick(window->focusWidget(), Qt::Key_Tab);
+  EXPECT_EQ(NameOfFocus(), "SaveInfo");
+  driver->Press("RaceNotes", Qt::Key_Escape);
+  EXPECT_FALSE(window->isVisible());
+}
+
+}  // namespace
+}  // namespace quorvane

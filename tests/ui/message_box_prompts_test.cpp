@@ -1,0 +1,45 @@
+#include "ui/message_box_prompts.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTest>
+#include <QTimer>
+
+namespace quorvane {
+namespace {
+
+using Answer = std::optional<std::string>;
+
+TEST(MessageBoxPrompts, AskTextGivesWhatWasTypedOrNothing) {
+  struct Case {
+    const char* Typed;
+    Qt::Key Key;
+    Answer Expected;
+  };
+  const Case cases[] = {{"1.5", Qt::Key_Return, "1.5"},
+                        {"", Qt::Key_Return, "preset"},
+                        {"1.5", Qt::Key_Escape, std::nullopt},
+                        {"\b", Qt::Key_Return, std::nullopt}};
+  QWidget parent;
+  MessageBoxPrompts prompts(parent);
+  for (const Case& example : cases) {
+    QTimer::singleShot(0, &parent, [&] {
+      const QWidget* box = QApplication::activeModalWidget();
+      EXPECT_EQ(box->windowTitle(), "Title");
+      EXPECT_EQ(box->findChild<QLabel*>()->text(), "Value for <b>Salt && Sons</b>\n\n(hint)");
+      EXPECT_EQ(box->findChild<QLabel*>()->textFormat(), Qt::PlainText);
+      auto* text = box->findChild<QLineEdit*>();
+      EXPECT_EQ(text->selectedText(), "preset");
+      QTest::keyClicks(text, example.Typed);
+      QTest::keyClick(text, example.Key);
+    });
+    EXPECT_EQ(prompts.AskText("Title", "Value for <b>Salt & Sons</b>\r\n\r\n(hint)", "preset"),
+              example.Expected);
+  }
+}
+
+}  // namespace
+}  // namespace quorvane
