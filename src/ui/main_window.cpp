@@ -19,16 +19,11 @@
 #include "analysis/find_planet.h"
 #include "analysis/race_colour.h"
 #include "loading/load_game.h"
-#include "loading/map_picture_file.h"
-#include "loading/race_colour_file.h"
-#include "platform/toolkit/picture_file.h"
 #include "platform/toolkit/twips.h"
 #include "render/main_layout.h"
 #include "render/planet_pick.h"
-#include "ui/about.h"
 #include "ui/details_panel.h"
 #include "ui/drawing_board.h"
-#include "ui/empire_stat.h"
 #include "ui/find_planet.h"
 #include "ui/grid.h"
 #include "ui/labels.h"
@@ -39,7 +34,6 @@
 #include "ui/pixel_rect.h"
 #include "ui/race_colour.h"
 #include "ui/texts.h"
-#include "ui/thanksto.h"
 
 namespace quorvane {
 namespace {
@@ -276,70 +270,6 @@ void Main::RaceC_Click(int index) {
 
 void Main::PlaceSelector() { Map->PlaceSelector(session_.SelectedX, session_.SelectedY); }
 
-void Main::mnuMap_Click() {
-  if (openFile_ == nullptr || openFile_->IsDiscarded()) {
-    openFile_ = std::make_unique<OpenFile>(open_, prompts_, this);
-  }
-  openFile_->exec();
-  if (open_.OpenDialogResult != 0) return;
-  LoadChosenGame();
-}
-
-void Main::LoadChosenGame() {
-  const bool wasEnabled = Menu.mnuOver->isEnabled();
-  Menu.mnuOver->setEnabled(false);
-  repaint();
-  Result<GameSession> loaded = LoadGame(open_.Choice, session_.MyRaceName, ProgressDisplay());
-  if (!loaded) {
-    Menu.mnuOver->setEnabled(wasEnabled);
-    ProgressBar1->setValue(0);
-    prompts_.Inform(loaded.Message());
-    return;
-  }
-  session_ = std::move(*loaded);
-  ShowLoadedGame();
-  if (session_.OwnersWithoutRecord.empty()) return;
-  std::string message =
-      "The game has more than 16 races. These are left out of colours and counts:";
-  for (const std::string& owner : session_.OwnersWithoutRecord) message += "\n" + owner;
-  prompts_.Inform(message);
-}
-
-void Main::ShowLoadedGame() {
-  ResetWindow();
-  setWindowTitle(ToQString(MainCaption(QUORVANE_VERSION, &session_)));
-  for (int player = 1; player <= session_.PlayerCount; ++player) {
-    Combo1->addItem(ToQString(session_.Player(player).Name()));
-  }
-  RaceLegend->ShowPlayers(session_);
-  Detail->ShowRaces(session_);
-  Board->ShowLoadedGame();
-
-  Combo1->setCurrentIndex(session_.PlayerCount > 0 ? 0 : -1);
-  Combo1->setEnabled(true);
-  EnableOverlays(true);
-  const bool isNewStyle = session_.ReportStyle == kNewReportStyle;
-  Overlays->Item(OverlayKind::ValueAfterTerraforming).setEnabled(isNewStyle);
-  Overlays->Item(OverlayKind::CompleteStargateNetwork).setEnabled(isNewStyle);
-  Menu.mnuSave->setEnabled(true);
-  Menu.mnuSaveRaceC->setEnabled(true);
-  Menu.mnuData->setEnabled(true);
-}
-
-// Every load begins with a blank map and all overlays released.
-void Main::ResetWindow() {
-  const QScopedValueRollback noRedraw(isDrawing_, true);
-  Overlays->EnableButtons(kOverlayButtonCount, false);
-  OverlaySwitches switches = Overlays->Switches();
-  switches.BeginNewGame();
-  Overlays->Show(switches);
-  Combo1->clear();
-  Combo1->clearEditText();
-  Map->ShowUniverse(session_.UniverseExtent);
-  Detail->DisableCharts();
-  PlaceSelector();
-}
-
 void Main::DrawOverlays() {
   // Switches that the redraw itself changes are part of the same user action.
   if (isDrawing_) return;
@@ -382,51 +312,6 @@ ShowProgress Main::ProgressDisplay() {
     ProgressBar1->setValue(value);
     ProgressBar1->repaint();
   };
-}
-
-void Main::mnuHideSelect_Click() {
-  SelectPlanet(session_, 0);
-  PlaceSelector();
-}
-
-void Main::mnuSearchPlanet_Click() {
-  if (findPlanet_ == nullptr) findPlanet_ = std::make_unique<FindPlanet>(session_, prompts_, this);
-  findPlanet_->exec();
-  PlaceSelector();
-  const bool isSelected = session_.SelectedX != 0;
-  if (!isSelected || findPlanet_->ShowFoundDetails != 1) return;
-  const SurfacePoint at = Map->State().View.ToSurface(
-      {static_cast<double>(session_.SelectedX), static_cast<double>(session_.SelectedY)});
-  Universe_MouseDown(1, 0, at.X, at.Y);
-}
-
-void Main::mnuGrid_Click() {
-  if (grid_ == nullptr) grid_ = std::make_unique<Grid>();
-  grid_->Fill(session_);
-  grid_->ShowInFront();
-}
-
-void Main::mnuGrid2_Click() { EmpireStat(session_, prompts_, this).exec(); }
-
-void Main::mnuAbout_Click() { About(this).exec(); }
-
-void Main::mnuThanks_Click() { Thanksto(this).exec(); }
-
-void Main::mnuSave_Click() {
-  const std::filesystem::path file = MapPictureFile(session_);
-  prompts_.Inform("Map saved to " + TextFromPath(file));
-  const Result<void> saved = SavePicture(file, Map->Universe->Surface().Picture());
-  if (!saved) prompts_.Inform(saved.Message());
-}
-
-void Main::mnuSaveRaceC_Click() {
-  const Result<void> saved = WriteRaceColourFile(session_);
-  prompts_.Inform(saved ? "Current Colour settings saved" : saved.Message());
-}
-
-void Main::mnuExit_Click() {
-  close();
-  QApplication::quit();
 }
 
 }  // namespace quorvane
