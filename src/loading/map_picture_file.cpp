@@ -12,9 +12,9 @@ std::filesystem::path MapPictureFile(const GameChoice& game) {
   constexpr std::size_t kExtension = 4;
   std::string name = TextFromPath(game.MapFilePath);
   name.resize(name.size() - std::min(kExtension, name.size()));
-  name += " Universe Map";
-  if (game.GameYear >= 1) name += NumberTextWithLeadingBlank(game.GameYear);
-  return PathFromText(name + ".bmp");
+  if (game.GameYear < 1) return PathFromText(name + " Universe Map.bmp");
+  const std::string year = NumberTextWithLeadingBlank(game.GameYear);
+  return PathFromText(name + " Universe Map" + year + ".bmp");
 }
 
 }  // namespace quorvane
