@@ -136,6 +136,7 @@ void FillMineralTable(QWidget* table) {
 
 DetailsPanel::DetailsPanel(QWidget* parent) : QTabWidget(parent) {
   setObjectName("Detail");
+  setAccessibleName(tr("Planet details and drawing tools"));
   setUsesScrollButtons(false);
   setElideMode(Qt::ElideNone);
   AddPlanetTab();

@@ -56,6 +56,7 @@ void EmpireStat::BuildSelector() {
 void EmpireStat::BuildTabs() {
   SSTab1 = new QTabWidget(this);
   SSTab1->setObjectName("SSTab1");
+  SSTab1->setAccessibleName(tr("What is known of the empire"));
   Totals = new EmpireTotals(SSTab1);
   Race = new RaceInformation(SSTab1);
   RaceNotes = new QPlainTextEdit(SSTab1);
