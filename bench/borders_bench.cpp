@@ -4,10 +4,13 @@
 #include <benchmark/benchmark.h>
 
 #include <QImage>
-#include <chrono>
+#include <functional>
+#include <memory>
+#include <string>
 
 #include "loading/influence.h"
 #include "platform/toolkit/picture_surface.h"
+#include "ratio_reporter.h"
 #include "reference/plain_borders.h"
 #include "render/draw_overlays.h"
 #include "synthetic_game.h"
@@ -16,12 +19,6 @@ namespace quorvane {
 namespace {
 
 constexpr QSize kMapSize = {700, 700};
-
-using Clock = std::chrono::steady_clock;
-
-double SecondsSince(Clock::time_point start) {
-  return std::chrono::duration<double>(Clock::now() - start).count();
-}
 
 // A huge game whose borders are switched on, and the surfaces that they are drawn on.
 struct Map {
@@ -43,44 +40,42 @@ struct Map {
   PictureSurface Universe2{kMapSize};
 };
 
-double ReferenceSeconds(const Map& map) {
-  QImage picture(kMapSize, QImage::Format_RGB32);
-  picture.fill(Qt::black);
-  const int penWidth = map.Universe.WidthInTwips() / kSurfaceUnits + 2;
-  const Clock::time_point start = Clock::now();
-  reference::PlainInfluenceBorders(map.Session, map.View, picture, penWidth);
-  return SecondsSince(start);
+void Register(const std::string& name, const std::function<void()>& step, double target = 0) {
+  const auto run = [step, target](benchmark::State& state) {
+    for (auto _ : state) step();
+    if (target > 0) state.counters["TargetMilliseconds"] = target;
+  };
+  benchmark::RegisterBenchmark(name.c_str(), run)
+      ->Unit(benchmark::kMillisecond)
+      ->MinTime(0.2)
+      ->Repetitions(3);
 }
 
-// Redraws as often as the benchmark asks for and shows how many times faster than round pens.
-void MeasureRedraw(benchmark::State& state, Map& map, bool keepsBorders) {
-  const double referenceSeconds = ReferenceSeconds(map);
-  map.Redraw();
-  const Clock::time_point start = Clock::now();
-  for (auto _ : state) {
-    if (!keepsBorders) map.Session.BordersCached = 0;
-    map.Redraw();
+void RegisterRedraws() {
+  const auto map = std::make_shared<Map>();
+  const auto redraw = [map](bool keepsBorders) {
+    if (!keepsBorders) map->Session.BordersCached = 0;
+    map->Redraw();
     // A picture that is shared with its twin is only copied when the next overlay draws.
-    map.Universe.Point({0, 0}, {0, 0, 0});
-    benchmark::DoNotOptimize(map.Universe.Picture().constBits());
-  }
-  const double seconds = SecondsSince(start) / static_cast<double>(state.iterations());
-  state.counters["TimesFasterThanRoundPens"] = referenceSeconds / seconds;
+    map->Universe.Point({0, 0}, {0, 0, 0});
+  };
+  const auto roundPens = [map] {
+    QImage picture(kMapSize, QImage::Format_RGB32);
+    picture.fill(Qt::black);
+    const int penWidth = map->Universe.WidthInTwips() / kSurfaceUnits + 2;
+    reference::PlainInfluenceBorders(map->Session, map->View, picture, penWidth);
+  };
+  Register(
+      "fast/first borders, huge", [redraw] { redraw(false); }, 10);
+  Register("plain/first borders, huge", roundPens);
+  Register(
+      "fast/kept borders, huge", [redraw] { redraw(true); }, 1);
 }
-
-void FirstBorders(benchmark::State& state) {
-  Map map;
-  MeasureRedraw(state, map, false);
-}
-BENCHMARK(FirstBorders)->Unit(benchmark::kMillisecond);
-
-void KeptBorders(benchmark::State& state) {
-  Map map;
-  MeasureRedraw(state, map, true);
-}
-BENCHMARK(KeptBorders)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace quorvane
 
-BENCHMARK_MAIN();
+int main(int argc, char** argv) {
+  quorvane::RegisterRedraws();
+  return quorvane::RunRatioBenchmarks(argc, argv);
+}

@@ -35,7 +35,8 @@ void RegisterGames() {
     for (const int soiSetting : {100, 500}) {
       InfluenceGameShape shape = game;
       shape.SoiSetting = soiSetting;
-      const std::string what = std::string(name) + ", S=" + std::to_string(soiSetting);
+      const std::string what =
+          "influence " + std::string(name) + ", S=" + std::to_string(soiSetting);
       Register("fast/" + what, shape, [](GameSession& session) { ComputeInfluence(session, {}); });
       Register("plain/" + what, shape, &reference::PlainComputeInfluence);
     }

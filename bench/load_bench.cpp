@@ -96,10 +96,10 @@ struct LoadCase {
 };
 
 void RegisterLoads() {
-  constexpr LoadCase kLoads[] = {{"load tiny, S=100", Game<kTiny>, 100, 0},
-                                 {"load medium, S=100", Game<kMedium>, 100, 0},
-                                 {"load huge, S=100", Game<kHugeShape>, 100, 50},
-                                 {"load huge, S=500", Game<kHugeShape>, 500, 90}};
+  constexpr LoadCase kLoads[] = {{"fast/load tiny, S=100", Game<kTiny>, 100, 0},
+                                 {"fast/load medium, S=100", Game<kMedium>, 100, 0},
+                                 {"fast/load huge, S=100", Game<kHugeShape>, 100, 50},
+                                 {"fast/load huge, S=500", Game<kHugeShape>, 500, 90}};
   for (const LoadCase& load : kLoads) {
     Register(load.Name, [load](benchmark::State& state) {
       MeasureLoad(state, load.Game().Choice(load.SoiSetting));

@@ -25,14 +25,15 @@ void RatioReporter::ReportRuns(const std::vector<Run>& runs) {
 
 void RatioReporter::Finalize() {
   ConsoleReporter::Finalize();
-  std::printf("\n%-30s %12s %12s %14s\n", "quickest run", "fast, ms", "plain, ms", "times faster");
+  std::printf("\n%-36s %10s %10s %13s\n", "quickest run", "fast, ms", "plain, ms", "times faster");
   for (const auto& [name, fast] : quickest_) {
     if (!name.starts_with(kFast)) continue;
     const std::string what = name.substr(kFast.size());
+    std::printf("%-36s %10.2f", what.c_str(), fast);
     const auto plain = quickest_.find(std::string(kPlain) + what);
-    if (plain == quickest_.end()) continue;
-    std::printf("%-30s %12.2f %12.2f %14.1f\n", what.c_str(), fast, plain->second,
-                plain->second / fast);
+    if (plain != quickest_.end())
+      std::printf(" %10.2f %13.1f", plain->second, plain->second / fast);
+    std::printf("\n");
   }
 }
 

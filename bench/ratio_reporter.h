@@ -8,9 +8,9 @@
 
 namespace quorvane {
 
-/// Shows results as they come, and at the end how many times faster every "fast/…" benchmark is
-/// than the "plain/…" one of the same name. Of repeated runs the quickest counts: it is the one
-/// that other programs disturbed least.
+/// Shows results as they come, and at the end how long every "fast/…" benchmark takes and how many
+/// times faster it is than the "plain/…" one of the same name, if there is one. Of repeated runs
+/// the quickest counts: it is the one that other programs disturbed least.
 class RatioReporter : public benchmark::ConsoleReporter {
  public:
   void ReportRuns(const std::vector<Run>& runs) override;
