@@ -20,6 +20,10 @@ install(FILES ${PROJECT_BINARY_DIR}/installed/Stars.ini
   DESTINATION ${CMAKE_INSTALL_DATADIR}/quorvane)
 install(FILES ${data}/icons/quorvane.svg
   DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
+foreach(side 48 64 128 256)
+  install(FILES ${data}/icons/quorvane-${side}.png RENAME quorvane.png
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/${side}x${side}/apps)
+endforeach()
 install(FILES ${data}/quorvane.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 install(FILES ${data}/quorvane.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo
   RENAME io.github.quorvane.Quorvane.metainfo.xml)
