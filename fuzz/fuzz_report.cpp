@@ -1,25 +1,71 @@
-// Any bytes as a report merge into a game, first as the user's own report, then as another one.
-#include <cstddef>
-#include <cstdint>
-#include <string>
+// Any bytes as a report are split into lines and fields, and merge into a game, first as the user's
+// own report, then as another one. Planets of one name always know the same.
+#include <cmath>
 
+#include "fuzz_support.h"
 #include "loading/player_statistics.h"
+#include "loading/report_file.h"
 #include "loading/report_merge.h"
 #include "model/text.h"
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  const std::string text =
-      quorvane::DecodeText(std::string(reinterpret_cast<const char*>(data), size));
-  quorvane::GameSession session;
+namespace quorvane::fuzz {
+namespace {
+
+void RequireSound(const ReportLine& line, std::string_view text) {
+  Require(line.Count() <= kReportFields, "number of fields");
+  std::size_t bytes = 0;
+  for (std::size_t field = 0; field < line.Count(); ++field) {
+    const std::string_view value = line.Text(field);
+    Require(value.find('\t') == value.npos, "no field holds a TAB");
+    Require(std::isfinite(line.Number(static_cast<ReportField>(field))), "finite numbers");
+    if (text.find(value) != text.npos) bytes += value.size();
+  }
+  Require(bytes <= text.size() + line.Count() * std::string_view("Uninhabited").size(),
+          "fields come from the line");
+}
+
+void SplitLines(std::string_view text) {
+  std::size_t left = CountLines(text);
+  const VisitReportLine visit = [&](std::string_view line) {
+    RequireSound(ReportLine(line), line);
+    Require(left-- > 0, "no more lines than the text has");
+  };
+  ForEachOtherReportLine(text, visit);
+  // A comma in the heading makes a line of what follows it, and commas in the text may make more.
+  left = CountLines(text) + 1;
+  ForEachOwnReportLine(text, visit);
+}
+
+GameSession SmallSession(int style) {
+  GameSession session;
+  session.ReportStyle = style;
   session.GameYear = 2450;
-  session.CreatePlanetTable(3);
-  const char* const names[] = {"A", "B", "A"};
-  for (int i = 1; i <= 3; ++i) session.Planet(i)[quorvane::PlanetField::Name] = names[i - 1];
-  quorvane::ReportMerge merge(session);
+  session.CreatePlanetTable(4);
+  const char* const names[] = {"A", "B", "A", " Unknown"};
+  for (int i = 1; i <= 4; ++i) session.Planet(i)[PlanetField::Name] = names[i - 1];
+  return session;
+}
+
+void Merge(GameSession session, std::string_view text) {
+  ReportMerge merge(session);
   merge.AddOwnReport(text, "2450");
   merge.AddOtherReport(text, text.substr(0, 5));
-  quorvane::DiscoverPlayers(session);
-  quorvane::GatherStatistics(session);
-  for (int i = 1; i <= 3; ++i) quorvane::PlanetScore(session.Planet(i));
+  DiscoverPlayers(session);
+  GatherStatistics(session);
+  RequireSoundTables(session);
+  Require(session.Planet(1) == session.Planet(3), "namesakes know the same");
+  for (int i = 1; i <= session.PlanetCount; ++i) PlanetScore(session.Planet(i));
+}
+
+}  // namespace
+}  // namespace quorvane::fuzz
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  using namespace quorvane;
+  const std::string text = fuzz::DecodedText(data, size);
+  fuzz::SplitLines(text);
+  for (const int style : {kNewReportStyle, kOldReportStyle}) {
+    fuzz::Merge(fuzz::SmallSession(style), text);
+  }
   return 0;
 }

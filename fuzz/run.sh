@@ -1,17 +1,61 @@
 #!/usr/bin/env bash
-# Builds the fuzz targets and runs each for some seconds on the example games.
+# Builds the fuzz targets and runs each for some seconds (60 unless told otherwise), beginning with
+# the example games and a few tiny ones.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 seconds=${1:-60}
+targets="fuzz_map fuzz_report fuzz_items fuzz_companions fuzz_load"
+seeds=build/fuzz/seeds
+game=build/fuzz/seeds/game
 
 mkdir -p build
 cmake --preset fuzz >build/fuzz-configure.log 2>&1 || { cat build/fuzz-configure.log; exit 1; }
-for target in fuzz_map fuzz_report fuzz_companions; do
-  cmake --build --preset fuzz --target "$target" >build/fuzz-build.log 2>&1 ||
-    { cat build/fuzz-build.log; exit 1; }
-  mkdir -p "build/fuzz/corpus/$target"
-  "build/fuzz/fuzz/$target" -seed=1 -max_total_time="$seconds" -max_len=4096 -rss_limit_mb=2048 \
-    -artifact_prefix=build/fuzz/ "build/fuzz/corpus/$target" examples >build/fuzz/"$target".log 2>&1 ||
-    { tail -n 40 build/fuzz/"$target".log; exit 1; }
-  tail -n 1 build/fuzz/"$target".log
+# shellcheck disable=SC2086 # one word for each target
+cmake --build --preset fuzz --target quorvane-make-game $targets >build/fuzz-build.log 2>&1 ||
+  { cat build/fuzz-build.log; exit 1; }
+
+# The files that the targets write stay in memory where that is possible.
+TMPDIR=$(mktemp -d -p /dev/shm 2>/dev/null || mktemp -d)
+export TMPDIR
+trap 'rm -rf "$TMPDIR"' EXIT
+
+# One part of a folder's files for the load target; a file that is not there leaves its part empty.
+part() {
+  cat "$1" 2>/dev/null || true
+  echo "----"
+}
+
+# Copies what a tiny game consists of to where the targets look for their first inputs.
+add_seeds() {
+  build/fuzz/tools/quorvane-make-game --seed "$1" --size 400 --planets 12 --players "$2" \
+    --style "$3" --companions --out "$game" --name g >/dev/null
+  cp "$game/g.map" "$seeds/fuzz_map/$1"
+  find "$game" -iname 'g.p*' -exec sh -c 'cp "$1" "$2$(basename "$1")"' - {} "$seeds/fuzz_report/$1" \;
+  kind=0
+  for extension in YRS QVR QVC QVL QVD; do
+    if [ -f "$game/g.$extension" ]; then
+      cp "$game/g.$extension" "$seeds/fuzz_items/$1$extension"
+      { printf %s "$kind" && cat "$game/g.$extension"; } >"$seeds/fuzz_companions/$1$extension"
+    fi
+    kind=$((kind + 1))
+  done
+  for extension in map p1 p2 p16 pla QVC QVL QVD YRS; do
+    part "$game/g.$extension"
+  done >"$seeds/fuzz_load/$1"
+  rm -r "$game"
+}
+
+rm -rf "$seeds"
+for target in $targets; do mkdir -p "$seeds/$target" "build/fuzz/corpus/$target"; done
+add_seeds 1 3 new
+add_seeds 2 2 old
+add_seeds 3 12 new
+
+for target in $targets; do
+  "build/fuzz/fuzz/$target" -seed=1 -max_total_time="$seconds" -max_len=8192 -rss_limit_mb=2048 \
+    -timeout=20 -artifact_prefix="build/fuzz/$target-" "build/fuzz/corpus/$target" \
+    "$seeds/$target" examples >"build/fuzz/$target.log" 2>&1 ||
+    { tail -n 40 "build/fuzz/$target.log"; exit 1; }
+  printf '%s: ' "$target"
+  tail -n 1 "build/fuzz/$target.log"
 done

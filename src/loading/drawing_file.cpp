@@ -148,7 +148,7 @@ Result<std::vector<DrawingRecord>> ReadDrawingFile(const GameSession& session) {
 Result<void> WriteDrawingFile(const GameSession& session, std::string_view layer) {
   std::string text;
   while (!layer.empty()) text.append(TakeLine(layer)).append("\r\n");
-  return ReplaceFile(session.DrawingFilePath, text);
+  return SaveText(session.DrawingFilePath, text);
 }
 
 }  // namespace quorvane

@@ -14,6 +14,9 @@
 namespace quorvane {
 namespace {
 
+// In bytes; the game's own names have twenty at most. Lists of names could not show longer ones.
+constexpr std::size_t kLongestName = 1000;
+
 using Limits16 = std::numeric_limits<std::int16_t>;
 
 bool FitsInto16Bits(double value) { return value >= Limits16::min() && value <= Limits16::max(); }
@@ -38,6 +41,9 @@ Result<MapPlanet> ParsePlanet(std::string_view line) {
     *target = ToWhole16(*value);
   }
   planet.Name = items.ReadText();
+  if (planet.Name.size() > kLongestName) {
+    return Failure{"the planet's name is too long: " + Excerpt(planet.Name)};
+  }
   return planet;
 }
 

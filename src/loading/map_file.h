@@ -30,7 +30,8 @@ struct UniverseMap {
 
 /// Reads the text of a map file: a heading line, then one planet a line. `fileName` is named in
 /// messages. Fails with file and line for a record without a number, X or Y, for coordinates beyond
-/// 16 bits, for a map without planets and for one whose extent is not above 1000.
+/// 16 bits, for a name of more than 1000 bytes, for a map without planets and for one whose extent
+/// is not above 1000.
 Result<UniverseMap> ParseUniverseMap(std::string_view text, std::string_view fileName);
 
 }  // namespace quorvane

@@ -7,14 +7,15 @@ namespace quorvane {
 PlanetIndex::PlanetIndex(const GameSession& session) {
   numbers_.reserve(static_cast<std::size_t>(session.PlanetCount));
   for (int planet = 1; planet <= session.PlanetCount; ++planet) {
-    numbers_[Trimmed(session.Planet(planet).Name())].push_back(planet);
+    const auto [first, isNew] =
+        numbers_.try_emplace(Trimmed(session.Planet(planet).Name()), planet);
+    if (!isNew) namesakes_.push_back({.Number = planet, .First = first->second});
   }
 }
 
-const std::vector<int>& PlanetIndex::Find(std::string_view name) const {
-  static const std::vector<int> kNone;
+int PlanetIndex::Find(std::string_view name) const {
   const auto found = numbers_.find(Trimmed(name));
-  return found != numbers_.end() ? found->second : kNone;
+  return found != numbers_.end() ? found->second : 0;
 }
 
 }  // namespace quorvane

@@ -15,11 +15,20 @@ class PlanetIndex {
  public:
   explicit PlanetIndex(const GameSession& session);
 
-  /// The numbers of all planets of that name in map order; empty for an unknown name.
-  const std::vector<int>& Find(std::string_view name) const;
+  /// The number of the first planet of that name on the map; 0 for an unknown name.
+  int Find(std::string_view name) const;
+
+  /// A planet whose name another one bears already, and the first of that name.
+  struct Namesake {
+    int Number = 0;
+    int First = 0;
+  };
+  /// All of them in map order; a map of the game itself has none.
+  const std::vector<Namesake>& Namesakes() const { return namesakes_; }
 
  private:
-  std::unordered_map<std::string_view, std::vector<int>> numbers_;
+  std::unordered_map<std::string_view, int> numbers_;
+  std::vector<Namesake> namesakes_;
 };
 
 }  // namespace quorvane

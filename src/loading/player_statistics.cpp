@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <iterator>
+#include <string_view>
+#include <unordered_set>
 
 #include "analysis/race_ranges.h"
 #include "model/rounding.h"
@@ -53,6 +55,7 @@ void GatherPlayer(GameSession& session, int number) {
 
 void DiscoverPlayers(GameSession& session) {
   session.PlayerCount = 0;
+  std::unordered_set<std::string_view> leftOut;  // a damaged report may name thousands
   for (int i = 1; i <= session.PlanetCount; ++i) {
     PlanetRecord& planet = session.Planet(i);
     const std::string& owner = planet.Owner();
@@ -61,8 +64,7 @@ void DiscoverPlayers(GameSession& session) {
       if (session.PlayerCount < kMaxPlayers) {
         player = ++session.PlayerCount;
         session.Player(player)[PlayerField::Name] = owner;
-      } else if (std::ranges::find(session.OwnersWithoutRecord, owner) ==
-                 session.OwnersWithoutRecord.end()) {
+      } else if (leftOut.insert(owner).second) {
         session.OwnersWithoutRecord.push_back(owner);
       }
     }

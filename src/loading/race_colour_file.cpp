@@ -34,23 +34,12 @@ std::optional<ColourRecord> ReadRecord(DataItemReader& reader) {
   return record;
 }
 
-}  // namespace
-
-void ApplyRaceColours(std::string_view text, GameSession& session) {
-  for (int player = 1; player <= kMaxPlayers; ++player) {
-    session.Player(player)[PlayerField::ColourSlot] = 0;
-  }
+// Players without a slot get the lowest that nobody has. There are as many slots as players, and
+// one that a player gave up for another, in a file that names a race twice, is free again.
+void FillFreeSlots(GameSession& session) {
   std::array<bool, kColourSlots + 1> isUsed = {};
-  DataItemReader reader(text);
-  while (!reader.AtEnd()) {
-    const std::optional<ColourRecord> record = ReadRecord(reader);
-    if (!record) continue;
-    const auto slot = static_cast<std::size_t>(record->Slot);
-    session.RaceColours.at(slot - 1) = record->SlotColour;
-    if (const int player = session.FindPlayerByName(record->Name); player > 0) {
-      session.Player(player)[PlayerField::ColourSlot] = record->Slot;
-      isUsed.at(slot) = true;
-    }
+  for (int player = 1; player <= session.PlayerCount; ++player) {
+    isUsed.at(static_cast<std::size_t>(session.Player(player).ColourSlot())) = true;
   }
   int free = 1;
   for (int player = 1; player <= session.PlayerCount; ++player) {
@@ -59,6 +48,25 @@ void ApplyRaceColours(std::string_view text, GameSession& session) {
     while (isUsed.at(static_cast<std::size_t>(free))) ++free;
     slot = free++;
   }
+}
+
+}  // namespace
+
+void ApplyRaceColours(std::string_view text, GameSession& session) {
+  for (int player = 1; player <= kMaxPlayers; ++player) {
+    session.Player(player)[PlayerField::ColourSlot] = 0;
+  }
+  DataItemReader reader(text);
+  while (!reader.AtEnd()) {
+    const std::optional<ColourRecord> record = ReadRecord(reader);
+    if (!record) continue;
+    const auto slot = static_cast<std::size_t>(record->Slot);
+    session.RaceColours.at(slot - 1) = record->SlotColour;
+    if (const int player = session.FindPlayerByName(record->Name); player > 0) {
+      session.Player(player)[PlayerField::ColourSlot] = record->Slot;
+    }
+  }
+  FillFreeSlots(session);
 }
 
 Result<std::string> RaceColoursText(const GameSession& session) {

@@ -10,6 +10,7 @@ namespace quorvane {
 namespace {
 
 constexpr int kSmallestOwnRadius = 5;
+constexpr std::size_t kLongestLine = 4096;  // bytes; the game's own lines have a few hundred
 constexpr const char* kRemoteMining = "Remote";
 
 std::size_t NumberOf(ReportField field) { return static_cast<std::size_t>(field); }
@@ -59,13 +60,16 @@ double GateReading(const ReportLine& line, ReportField field) {
   return line.ReadsAs(field, -1) ? kUnlimitedGate : line.Number(field);
 }
 
-// Makes a line visitor that calls `merge` with every planet that a line names and the line.
+// Makes a line visitor that calls `merge` with the first planet that a line names and the line.
+// Overlong lines are passed over, as all planets of a name would keep a copy of what they say.
 template <typename Merge>
 VisitReportLine MergeLines(const PlanetIndex& index, const Merge& merge) {
   return [&index, merge](std::string_view text) {
+    if (text.size() > kLongestLine) return;
     const ReportLine line(text);
     if (line.Count() == 0) return;
-    for (const int number : index.Find(line.Text(ReportField::PlanetName))) merge(number, line);
+    const int number = index.Find(line.Text(ReportField::PlanetName));
+    if (number > 0) merge(number, line);
   };
 }
 
@@ -94,6 +98,7 @@ void ReportMerge::AddOwnReport(std::string_view report, std::string_view year) {
     isKnown_.at(static_cast<std::size_t>(number)) = true;
   };
   ForEachOwnReportLine(report, MergeLines(index_, merge));
+  ShareAmongNamesakes();
 }
 
 void ReportMerge::AddOtherReport(std::string_view report, std::string_view year) {
@@ -106,6 +111,19 @@ void ReportMerge::AddOtherReport(std::string_view report, std::string_view year)
     MergeOtherLine(number, line, age);
   };
   ForEachOtherReportLine(report, MergeLines(index_, merge));
+  ShareAmongNamesakes();
+}
+
+// A line is for all planets of its name. They never differ in what reports say, so it is enough to
+// merge it once; a million lines for each of thousands of namesakes would take hours.
+void ReportMerge::ShareAmongNamesakes() {
+  for (const auto& [number, first] : index_.Namesakes()) {
+    const PlanetRecord& source = session_.Planet(first);
+    PlanetRecord& target = session_.Planet(number);
+    for (std::size_t field = NumberOf(PlanetField::Owner); field <= kPlanetFieldCount; ++field) {
+      target.Field(field) = source.Field(field);
+    }
+  }
 }
 
 void ReportMerge::MergeOwnLine(PlanetRecord& planet, const ReportLine& line,

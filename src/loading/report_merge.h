@@ -29,6 +29,7 @@ class ReportMerge {
   void AddOtherReport(std::string_view report, std::string_view year);
 
  private:
+  void ShareAmongNamesakes();
   void MergeOwnLine(PlanetRecord& planet, const ReportLine& line, std::optional<double> age);
   void MergeOtherLine(int number, const ReportLine& line, std::optional<double> age);
   bool IsKnown(int number) const { return isKnown_.at(static_cast<std::size_t>(number)); }

@@ -26,7 +26,9 @@ std::string DataNumberText(double number) {
 
 }  // namespace
 
-bool DataItemReader::AtEnd() const { return rest_.find_first_not_of(" \t\r\n") == rest_.npos; }
+// The end is looked for once: looking from every item of a file of empty lines would take hours.
+DataItemReader::DataItemReader(std::string_view text)
+    : rest_(text), blankTail_(text.size() - (text.find_last_not_of(" \t\r\n") + 1)) {}
 
 std::string DataItemReader::ReadText() {
   Skip(kTextBlanks);

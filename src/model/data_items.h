@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -14,10 +15,10 @@ namespace quorvane {
 /// it is consumed. At the end of the text every item reads as empty.
 class DataItemReader {
  public:
-  explicit DataItemReader(std::string_view text) : rest_(text) {}
+  explicit DataItemReader(std::string_view text);
 
   /// Whether no item is left; blanks and empty lines at the end are none.
-  bool AtEnd() const;
+  bool AtEnd() const { return rest_.size() <= blankTail_; }
   /// Whether the text itself is used up, not even an empty line being left.
   bool IsExhausted() const { return rest_.empty(); }
   /// The text behind the items read so far.
@@ -46,6 +47,7 @@ class DataItemReader {
   void ConsumeSeparator();
 
   std::string_view rest_;
+  std::size_t blankTail_;  // how many blanks and line ends the text ends with
 };
 
 /// Writes records of data items: texts between double quotes, numbers plainly without a digit

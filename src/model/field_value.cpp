@@ -13,6 +13,8 @@ namespace {
 
 constexpr int kSignificantDigits = 15;  // more would show the noise of binary fractions
 
+constexpr double kLargestNumber = std::numeric_limits<double>::max();
+
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 bool IsSign(char c) { return c == '+' || c == '-'; }
 bool IsIgnored(char c) { return c == ' ' || c == '\t' || c == '\n'; }
@@ -37,7 +39,7 @@ LeadingNumber ReadPrefixed(std::string_view text, int base) {
   while (number.Length < text.size()) {
     const std::optional<int> digit = DigitOfBase(text[number.Length], base);
     if (!digit) break;
-    number.Value = number.Value * base + *digit;
+    number.Value = std::min(number.Value * base + *digit, kLargestNumber);
     ++number.Length;
   }
   return number;
@@ -59,6 +61,22 @@ size_t SkipExponent(std::string_view text, size_t at) {
   return end > digits ? end : at;
 }
 
+// Whether a decimal literal that no double holds is too small for one, and not too large: digits
+// before or behind the point count as well as the exponent.
+bool IsBelowOne(std::string_view literal) {
+  const std::string_view mantissa = literal.substr(0, literal.find('e'));
+  std::string_view exponentText = literal.substr(std::min(mantissa.size() + 1, literal.size()));
+  if (exponentText.starts_with('+')) exponentText.remove_prefix(1);
+  long long exponent = 0;
+  const auto [stop, error] =
+      std::from_chars(exponentText.data(), exponentText.data() + exponentText.size(), exponent);
+  if (error == std::errc::result_out_of_range) return exponentText.starts_with('-');
+  const size_t firstDigit = mantissa.find_first_of("123456789");
+  const size_t point = std::min(mantissa.find('.'), mantissa.size());
+  return firstDigit == mantissa.npos ||
+         static_cast<long long>(point) + exponent < static_cast<long long>(firstDigit);
+}
+
 LeadingNumber ReadDecimal(std::string_view text) {
   const size_t start = !text.empty() && IsSign(text[0]) ? 1 : 0;
   size_t end = SkipDigits(text, start);
@@ -78,8 +96,7 @@ LeadingNumber ReadDecimal(std::string_view text) {
   const auto [stop, error] =
       std::from_chars(literal.data(), literal.data() + literal.size(), value);
   if (error == std::errc::result_out_of_range) {
-    const bool isTiny = literal.find("e-") != literal.npos;
-    value = isTiny ? 0 : std::numeric_limits<double>::max();
+    value = IsBelowOne(literal) ? 0 : kLargestNumber;
   }
   return {.Value = text[0] == '-' ? -value : value, .Length = end};
 }
@@ -147,7 +164,7 @@ std::optional<double> WholeTextNumber(std::string_view text) {
 
 std::string NumberText(double value) {
   if (value == 0 || std::isnan(value)) return "0";  // also for -0
-  const double magnitude = std::min(std::fabs(value), std::numeric_limits<double>::max());
+  const double magnitude = std::min(std::fabs(value), kLargestNumber);
   // "1.20000000000000e+03": fifteen digits, correctly rounded, and where the point belongs.
   std::array<char, 32> buffer;
   const auto written = std::to_chars(buffer.data(), buffer.data() + buffer.size(), magnitude,

@@ -3,12 +3,17 @@
 #include <QApplication>
 #include <QMenu>
 #include <QScopedValueRollback>
+#include <algorithm>
+#include <cstddef>
+#include <string>
 #include <utility>
+#include <vector>
 
 #include "analysis/find_planet.h"
 #include "loading/load_game.h"
 #include "loading/map_picture_file.h"
 #include "loading/race_colour_file.h"
+#include "model/text.h"
 #include "platform/toolkit/picture_file.h"
 #include "ui/about.h"
 #include "ui/details_panel.h"
@@ -24,6 +29,20 @@
 #include "ui/thanksto.h"
 
 namespace quorvane {
+namespace {
+
+// A damaged report may name thousands of races, more than a message box can show.
+std::string LeftOutMessage(const std::vector<std::string>& owners) {
+  constexpr std::size_t kMostNames = 30;
+  std::string message =
+      "The game has more than 16 races. These are left out of colours and counts:";
+  const std::size_t shown = std::min(owners.size(), kMostNames);
+  for (std::size_t i = 0; i < shown; ++i) message += "\n" + Excerpt(owners[i]);
+  if (owners.size() > shown) message += "\nand " + std::to_string(owners.size() - shown) + " more";
+  return message;
+}
+
+}  // namespace
 
 void Main::mnuMap_Click() {
   if (openFile_ == nullptr || openFile_->IsDiscarded()) {
@@ -47,11 +66,9 @@ void Main::LoadChosenGame() {
   }
   session_ = std::move(*loaded);
   ShowLoadedGame();
-  if (session_.OwnersWithoutRecord.empty()) return;
-  std::string message =
-      "The game has more than 16 races. These are left out of colours and counts:";
-  for (const std::string& owner : session_.OwnersWithoutRecord) message += "\n" + owner;
-  prompts_.Inform(message);
+  if (!session_.OwnersWithoutRecord.empty()) {
+    prompts_.Inform(LeftOutMessage(session_.OwnersWithoutRecord));
+  }
 }
 
 void Main::ShowLoadedGame() {

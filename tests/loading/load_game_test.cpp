@@ -8,6 +8,7 @@
 
 #include "loading/open_checks.h"
 #include "loading/report_finder.h"
+#include "platform/files/files.h"
 #include "support/game_folder.h"
 
 namespace quorvane {
@@ -15,8 +16,8 @@ namespace {
 
 class LoadGameTest : public testing::Test {
  protected:
-  Result<GameSession> Load(const std::string& year = "2450") {
-    ChooseMap(choice, folder / "Demo.MAP");
+  Result<GameSession> Load(const std::string& year = "2450", const std::string& map = "Demo.MAP") {
+    ChooseMap(choice, folder / map);
     FindReportFiles(choice, year, [] { return true; });
     EXPECT_EQ(AcceptOpenInput(choice, {.Soi = "100", .GameYear = year, .Years = years}),
               OpenProblem());
@@ -142,6 +143,52 @@ TEST_F(LoadGameTest, AgesReportsByTheirYears) {
   EXPECT_EQ(loaded->Planet(1).AgeText(), "Current");
   EXPECT_EQ(loaded->Planet(2).AgeText(), "  6 years old");
   EXPECT_EQ(loaded->Planet(3).AgeText(), " 100 years old");
+}
+
+TEST_F(LoadGameTest, HoldsSixteenRacesAndNamesTheOthers) {
+  for (const auto& [owners, left] : {std::pair(16, 0U), {17, 1U}, {40, 24U}}) {
+    std::string map = "heading\n";
+    std::string report = map;
+    for (int i = 1; i <= 2 * owners; ++i) {  // every owner has two planets
+      const std::string number = std::to_string(i);
+      map += number + " 1100 1100 P" + number + "\n";
+      report += "P" + number + "\tR" + std::to_string(i % owners) + "\tDock\t0\t100000\t\n";
+    }
+    folder.Write("Demo.MAP", map);
+    folder.Write("Demo.P1", report);
+    const Result<GameSession> loaded = Load();
+    ASSERT_TRUE(loaded) << loaded.Message();
+    EXPECT_EQ(loaded->PlayerCount, 16);
+    EXPECT_EQ(loaded->OwnersWithoutRecord.size(), left);
+  }
+}
+
+TEST_F(LoadGameTest, FindsAGameOfAnyNameBehindALinkAmongAThousandOtherFiles) {
+  for (const std::string name : {"My Game", "Größe & Würde", "a, b; c", "[x](y){z}", "  "}) {
+    for (int i = 17; i < 217; ++i) folder.Write(name + ".P" + std::to_string(i), "other");
+    std::filesystem::create_symlink(folder / "Demo.MAP", folder / (name + ".MAP"));
+    folder.Write(name + ".P3", folder.Read("Demo.P3"));
+    const Result<GameSession> loaded = Load("", name + ".MAP");
+    ASSERT_TRUE(loaded) << name << loaded.Message();
+    EXPECT_EQ(loaded->Planet(1).Population(), 100) << name;
+  }
+}
+
+// Each of these would take hours, or all memory, if work or copies grew with the square of a size.
+TEST_F(LoadGameTest, TakesSecondsWhenFilesAreAsLargeAsTheyMayBe) {
+  std::string map = "heading\n";
+  std::string report = map + "A\t" + std::string(kLargestTextFile / 2, 'x') + "\t\nA\tR\t\n";
+  for (int i = 0; i < 20000; ++i) map += "1 1200 1200 A\n";
+  while (report.size() < kLargestTextFile - 3) report += "A\t\n";
+  folder.Write("Demo.MAP", map);
+  folder.Write("Demo.P1", report);
+  for (const char* companion : {"Demo.QVC", "Demo.QVD", "Demo.QVL"}) {
+    folder.Write(companion, std::string(kLargestTextFile - 1, '\n') + "x");
+  }
+  const Result<GameSession> loaded = Load();
+  ASSERT_TRUE(loaded) << loaded.Message();
+  EXPECT_EQ(loaded->Planet(1)[PlanetField::InMyReport], FieldValue(1));
+  EXPECT_EQ(loaded->PlanetTable[1].Owner(), loaded->PlanetTable[20000].Owner());
 }
 
 struct Fault {

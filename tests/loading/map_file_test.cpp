@@ -35,6 +35,7 @@ TEST(ParseUniverseMap, TakesItsExtentFromTheLargestYAndTheLastX) {
 }
 
 TEST(ParseUniverseMap, NamesFileLineAndReasonForDamagedMaps) {
+  const std::string longName = "h\n1 1010 1010 " + std::string(1001, 'a');
   const std::tuple<const char*, const char*> cases[] = {
       {"", "Demo.MAP, line 2: a planet was expected here, the map has none"},
       {"#\tX\tY\tName\r\n\r\n", "Demo.MAP, line 2: a planet was expected here, the map has none"},
@@ -44,6 +45,9 @@ TEST(ParseUniverseMap, NamesFileLineAndReasonForDamagedMaps) {
       {"h\n1 40000 1010 a\n", "Demo.MAP, line 2: X is out of range: 40000"},
       {"h\n1 1010 -32000 a\n", "Demo.MAP, line 2: Y is out of range: -32000"},
       {"h\n1 1e999 1010 a\n", "Demo.MAP, line 2: X is out of range: 1e999"},
+      {longName.c_str(),
+       "Demo.MAP, line 2: the planet's name is too long: "
+       "aaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaa..."},
       {"h\n1 900 999 a\n",
        "Demo.MAP: the universe would end at 1000, it must end above 1000 and below 32768"}};
   for (const auto& [text, message] : cases) {

@@ -26,6 +26,15 @@ TEST(RaceColours, GiveKnownRacesTheirSlotAndOthersTheLowestFreeOne) {
   EXPECT_EQ(*loaded.ColourOf(2), (Colour{1, 2, 3}));
 }
 
+TEST(RaceColours, LetARaceNamedTwiceGiveItsFirstSlotToOthers) {
+  GameSession session = GameOf({"A", "B"});
+  std::string text;
+  for (int slot = 1; slot <= 16; ++slot) text += "\"A\"," + std::to_string(slot) + ",1,2,3\r\n";
+  ApplyRaceColours(text, session);
+  EXPECT_EQ(session.Player(1).ColourSlot(), 16);
+  EXPECT_EQ(session.Player(2).ColourSlot(), 1);
+}
+
 TEST(RaceColours, PassOverRecordsOutOfRangeOrCutShort) {
   for (const char* record :
        {"\"A\",17,1,2,3\r\n", "\"A\",0,1,2,3\r\n", "\"A\",2,256,2,3\r\n", "\"A\",2,1,-1,3\r\n",

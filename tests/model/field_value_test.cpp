@@ -46,6 +46,10 @@ TEST(NumericValue, ReadsTheNumberThatATextBeginsWith) {
     EXPECT_DOUBLE_EQ(FieldValue(text).Number(), value) << text;
   }
   EXPECT_LT(NumericValue("1e999"), std::numeric_limits<double>::infinity());
+  const std::string zeros(400, '0');
+  EXPECT_EQ(NumericValue("0." + zeros + "1"), 0);  // beyond a double without an exponent, too
+  EXPECT_EQ(NumericValue("1" + zeros + "e-1"), NumericValue("1e999"));
+  EXPECT_EQ(NumericValue("&H1" + zeros), NumericValue("1e999"));
 }
 
 TEST(FieldValue, ReadsAsANumberOnlyWhenTheWholeFieldIsThatNumber) {

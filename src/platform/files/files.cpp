@@ -25,11 +25,16 @@ struct CloseFile {
 };
 using OpenFileHandle = std::unique_ptr<std::FILE, CloseFile>;
 
-OpenFileHandle OpenForBytes(const fs::path& path, bool forWriting) {
+enum class OpenTo { Read, Write, Change };
+
+OpenFileHandle OpenForBytes(const fs::path& path, OpenTo purpose) {
+  const auto index = static_cast<std::size_t>(purpose);
 #if defined(_WIN32)
-  return OpenFileHandle(_wfopen(path.c_str(), forWriting ? L"wb" : L"rb"));
+  constexpr const wchar_t* kModes[] = {L"rb", L"wb", L"r+b"};
+  return OpenFileHandle(_wfopen(path.c_str(), kModes[index]));
 #else
-  return OpenFileHandle(std::fopen(path.c_str(), forWriting ? "wb" : "rb"));
+  constexpr const char* kModes[] = {"rb", "wb", "r+b"};
+  return OpenFileHandle(std::fopen(path.c_str(), kModes[index]));
 #endif
 }
 
@@ -57,7 +62,7 @@ fs::path PathBeside(const fs::path& path) {
 }
 
 std::error_code WriteWholeFile(const fs::path& path, std::string_view content) {
-  OpenFileHandle file = OpenForBytes(path, true);
+  OpenFileHandle file = OpenForBytes(path, OpenTo::Write);
   if (!file) return LastError();
   std::error_code error;
   if (std::fwrite(content.data(), 1, content.size(), file.get()) != content.size() ||
@@ -135,7 +140,7 @@ Result<std::string> ReadTextFile(const fs::path& path) {
     return Failure{TextFromPath(*found) + ": the file is too large to be one of the game's (" +
                    std::to_string(size / (1024ULL * 1024)) + " MB)"};
   }
-  OpenFileHandle file = OpenForBytes(*found, false);
+  OpenFileHandle file = OpenForBytes(*found, OpenTo::Read);
   if (!file) return FileFailure(*found, "the file cannot be opened", LastError());
   std::string bytes(size, '\0');
   bytes.resize(std::fread(bytes.data(), 1, bytes.size(), file.get()));
@@ -164,9 +169,15 @@ Result<void> SaveText(const fs::path& path, const Result<std::string>& text) {
 
 Result<void> ReplaceFile(const fs::path& path, std::string_view content) {
   std::error_code error;
-  fs::path target = FindFile(path).value_or(path);
+  const std::optional<fs::path> old = FindFile(path);
+  fs::path target = old.value_or(path);
   // A link keeps being a link: what it points at is replaced.
   if (fs::is_symlink(target, error)) target = fs::canonical(target, error);
+  if (error && target.empty()) return FileFailure(path, "the file cannot be written", error);
+  // Renaming would pass over the write protection of the old file, which somebody may rely on.
+  if (old && !OpenForBytes(target, OpenTo::Change)) {
+    return FileFailure(target, "the file cannot be written", LastError());
+  }
   const fs::path beside = PathBeside(target);
   error = WriteWholeFile(beside, content);
   if (!error) {

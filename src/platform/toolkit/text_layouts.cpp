@@ -27,6 +27,7 @@ TextLayout LayOut(std::string_view text, const QFont& font) {
 }  // namespace
 
 const TextLayout& TextLayouts::Of(std::string_view text) {
+  text = text.substr(0, kLongestText);
   const auto known = layouts_.find(text);
   if (known != layouts_.end()) return known->second;
   if (layouts_.size() >= kMostTexts) layouts_.clear();

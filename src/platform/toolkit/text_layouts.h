@@ -28,6 +28,9 @@ class TextLayouts {
  public:
   /// How many texts are kept, a multiple of what a map shows; the next one starts anew.
   static constexpr std::size_t kMostTexts = 8192;
+  /// How many bytes of a text are drawn, more than any screen has room for: laying out a text of
+  /// megabytes, as a damaged file may hold it, would take minutes.
+  static constexpr std::size_t kLongestText = 8192;
 
   /// @param font with the dots per inch of the picture to be drawn in
   explicit TextLayouts(const QFont& font) : font_(font) {}
