@@ -1,5 +1,6 @@
 #include "loading/race_colour_file.h"
 
+#include <algorithm>
 #include <array>
 #include <optional>
 
@@ -34,19 +35,30 @@ std::optional<ColourRecord> ReadRecord(DataItemReader& reader) {
   return record;
 }
 
-// Players without a slot get the lowest that nobody has. There are as many slots as players, and
-// one that a player gave up for another, in a file that names a race twice, is free again.
-void FillFreeSlots(GameSession& session) {
-  std::array<bool, kColourSlots + 1> isUsed = {};
+using SlotMarks = std::array<bool, kColourSlots + 1>;
+
+SlotMarks SlotsHeld(const GameSession& session) {
+  SlotMarks isHeld = {};
   for (int player = 1; player <= session.PlayerCount; ++player) {
-    isUsed.at(static_cast<std::size_t>(session.Player(player).ColourSlot())) = true;
+    isHeld.at(static_cast<std::size_t>(session.Player(player).ColourSlot())) = true;
   }
-  int free = 1;
+  return isHeld;
+}
+
+int LowestFree(const SlotMarks& isUsed) {
+  const auto free = std::find(isUsed.begin() + 1, isUsed.end(), false);
+  return free != isUsed.end() ? static_cast<int>(free - isUsed.begin()) : 0;
+}
+
+// Players without a slot get the lowest free one. In a file that names a race twice, a slot that
+// the race gave up counts as used, until no other is left.
+void FillFreeSlots(GameSession& session, SlotMarks isUsed) {
   for (int player = 1; player <= session.PlayerCount; ++player) {
     FieldValue& slot = session.Player(player)[PlayerField::ColourSlot];
     if (slot.Number() != 0) continue;
-    while (isUsed.at(static_cast<std::size_t>(free))) ++free;
-    slot = free++;
+    if (LowestFree(isUsed) == 0) isUsed = SlotsHeld(session);
+    slot = LowestFree(isUsed);
+    isUsed.at(static_cast<std::size_t>(slot.Number())) = true;
   }
 }
 
@@ -56,6 +68,7 @@ void ApplyRaceColours(std::string_view text, GameSession& session) {
   for (int player = 1; player <= kMaxPlayers; ++player) {
     session.Player(player)[PlayerField::ColourSlot] = 0;
   }
+  SlotMarks isUsed = {};
   DataItemReader reader(text);
   while (!reader.AtEnd()) {
     const std::optional<ColourRecord> record = ReadRecord(reader);
@@ -64,9 +77,10 @@ void ApplyRaceColours(std::string_view text, GameSession& session) {
     session.RaceColours.at(slot - 1) = record->SlotColour;
     if (const int player = session.FindPlayerByName(record->Name); player > 0) {
       session.Player(player)[PlayerField::ColourSlot] = record->Slot;
+      isUsed.at(slot) = true;
     }
   }
-  FillFreeSlots(session);
+  FillFreeSlots(session, isUsed);
 }
 
 Result<std::string> RaceColoursText(const GameSession& session) {
