@@ -3,10 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <numeric>
-#include <random>
 #include <tuple>
 
-#include "reference/plain_grid.h"
 #include "support/game_builder.h"
 
 namespace quorvane {
@@ -117,21 +115,6 @@ TEST(SortedRows, EqualRowsKeepTheirPresentOrderInBothDirections) {
             (std::vector<std::size_t>{2, 0, 3, 1}));
   EXPECT_EQ(SortedRows(grid, kName, SortDirection::Descending, present),
             (std::vector<std::size_t>{3, 1, 2, 0}));
-}
-
-TEST(SortedRows, AgreesWithAPlainSort) {
-  constexpr const char* kCells[] = {"",     "0", "-0", "7",      "07",  "10", " 9", "1e2",
-                                    "5.5%", "a", "A",  "Remote", "N/A", "é",  "É",  " "};
-  std::mt19937 dice(1);
-  for (const std::size_t column : {kName, kPopulation}) {
-    Texts cells(300);
-    for (std::string& cell : cells) cell = kCells[dice() % std::size(kCells)];
-    const PlanetGrid grid = GridOf(column, cells);
-    for (const SortDirection direction : {SortDirection::Ascending, SortDirection::Descending}) {
-      EXPECT_EQ(SortedRows(grid, column, direction, MapOrder(grid)),
-                reference::PlainSortedRows(grid, column, direction, MapOrder(grid)));
-    }
-  }
 }
 
 }  // namespace

@@ -1,5 +1,7 @@
 // The map picture beside its plain twin, which asks every pixel whether it belongs to a shape.
 
+#include "reference/plain_surface.h"
+
 #include <gtest/gtest.h>
 
 #include <cstdint>
@@ -8,7 +10,6 @@
 #include <tuple>
 
 #include "platform/toolkit/picture_surface.h"
-#include "reference/plain_surface.h"
 
 namespace quorvane {
 namespace {
