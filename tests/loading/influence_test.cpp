@@ -12,10 +12,7 @@ namespace quorvane {
 namespace {
 
 struct Source {
-  int X;
-  int Y;
-  int Radius;
-  int Owner;
+  int X, Y, Radius, Owner;
 };
 
 // A universe of 1300 light years, where a grid step is 2, with a sphere setting of 100.
@@ -23,11 +20,11 @@ GameSession GameOf(const std::vector<Source>& sources) {
   GameSession session = MakeInfluenceGame({.Width = 1300, .Planets = 0, .Players = 2});
   session.CreatePlanetTable(static_cast<int>(sources.size()));
   for (int i = 1; i <= session.PlanetCount; ++i) {
-    const Source& source = sources.at(static_cast<std::size_t>(i) - 1);
-    session.Planet(i)[PlanetField::X] = source.X;
-    session.Planet(i)[PlanetField::Y] = source.Y;
-    session.Planet(i)[PlanetField::SoiRadius] = source.Radius;
-    session.Planet(i)[PlanetField::OwnerIndex] = source.Owner;
+    const auto& [x, y, radius, owner] = sources.at(static_cast<std::size_t>(i) - 1);
+    session.Planet(i)[PlanetField::X] = x;
+    session.Planet(i)[PlanetField::Y] = y;
+    session.Planet(i)[PlanetField::SoiRadius] = radius;
+    session.Planet(i)[PlanetField::OwnerIndex] = owner;
   }
   return session;
 }
@@ -104,14 +101,11 @@ TEST(ComputeInfluence, LetsARoundedHalfDecideATie) {
 TEST(ComputeInfluence, ShowsProgressEveryTenColumns) {
   GameSession session = MakeInfluenceGame({.Width = 5700, .Planets = 3, .Players = 2});
   ASSERT_EQ(session.GridSize, 649);
-  std::vector<int> mustBe = {0};
-  for (int column = 0; column < 650; column += 10) mustBe.push_back(column);
-  mustBe.push_back(650);
-  std::vector<int> shown;
-  ComputeInfluence(session, [&](int value, int maximum) {
-    EXPECT_EQ(maximum, 650);
-    shown.push_back(value);
-  });
+  std::vector<std::pair<int, int>> mustBe = {{0, 650}};
+  for (int column = 0; column < 650; column += 10) mustBe.emplace_back(column, 650);
+  mustBe.emplace_back(650, 650);
+  std::vector<std::pair<int, int>> shown;
+  ComputeInfluence(session, [&](int value, int most) { shown.emplace_back(value, most); });
   EXPECT_EQ(shown, mustBe);
 }
 
