@@ -81,8 +81,7 @@ TEST(DescribeStargate, ListsGatesUpToItsRangeAsSafeAndUpToFiveTimesItAsDangerous
   EXPECT_EQ(gate.Safe.size(), 6U);
 
   gate = DescribeStargate(session, 7);
-  EXPECT_EQ(gate.Type, "None Detected");
-  EXPECT_TRUE(gate.Safe.empty() && gate.Dangerous.empty());
+  EXPECT_TRUE(gate.Type == "None Detected" && gate.Safe.empty() && gate.Dangerous.empty());
 }
 
 }  // namespace

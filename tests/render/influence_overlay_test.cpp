@@ -60,9 +60,8 @@ TEST(DrawInfluenceBorders, ShowsProgressEveryTenColumnsWhetherInViewOrNot) {
   GameSession session = CoarseGame();
   session.CreateInfluenceGrid(25);
   std::vector<std::pair<int, int>> shown;
-  RecordingSurface surface;
-  DrawInfluenceBorders(session, Zoomed(900, 900, 50), surface,
-                       [&](int value, int maximum) { shown.emplace_back(value, maximum); });
+  const auto show = [&](int value, int maximum) { shown.emplace_back(value, maximum); };
+  Drawn(DrawInfluenceBorders, session, Zoomed(900, 900, 50), show);
   EXPECT_EQ(shown, (decltype(shown){{0, 26}, {0, 26}, {10, 26}, {20, 26}, {26, 26}}));
 }
 

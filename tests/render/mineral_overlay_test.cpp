@@ -9,7 +9,7 @@
 namespace quorvane {
 namespace {
 
-using Minerals = std::array<const char*, 3>;
+using Minerals = std::array<FieldValue, 3>;
 
 std::string Plain(const char* radius, const char* colour) {
   return Disc(radius, colour, "copy no-outline w1");
@@ -42,9 +42,9 @@ TEST(DrawConcentration, KeepsTheModeThatTheSurfaceWasLeftIn) {
 
 TEST(DrawAverageMineralConcentration, MixesTheColourOfAllThree) {
   const std::tuple<Minerals, const char*, const char*> cases[] = {
-      {{"30", "60", "90"}, "60", "#e6994c"},
-      {{"10", "150", "10"}, "57", "#1aff1a"},
-      {{"1", "2", "2"}, "2", "#050503"},
+      {{30, 60, 90}, "60", "#e6994c"},
+      {{10, 150, 10}, "57", "#1aff1a"},
+      {{1, 2, 2}, "2", "#050503"},
       {{"30", "Unknown", "90"}, "30", "#503c3c"}};
   for (const auto& [minerals, radius, colour] : cases) {
     EXPECT_EQ(DrawnFor(DrawAverageMineralConcentration, minerals, "Current", "0", DrawMode::Merge),
@@ -54,15 +54,11 @@ TEST(DrawAverageMineralConcentration, MixesTheColourOfAllThree) {
 
 TEST(DrawEmpireExpansion, ValuesMineralsAndHabitabilityTogether) {
   const std::tuple<Minerals, const char*, const char*, const char*> cases[] = {
-      {{"40", "40", "40"}, "50%", "100", "#ffe600"},
-      {{"40", "40", "40"}, "-20%", "50", "#ff002d"},
-      {{"100", "100", "100"}, "25%", "125", "#00ff00"},
-      {{"100", "100", "100"}, "100%", "125", "#bfff00"},
-      {{"100", "100", "100"}, "5%", "100", "#ff9a00"},
-      {{"45", "90", "90"}, "1%", "100", "#ff8500"},
-      {{"40", "40", "40"}, "", "50", "#ff0000"},
-      {{"200", "200", "200"}, "-45%", "50", "#ff00ff"},
-      {{"40", "0", "40"}, "50%", "30", "#503c3c"}};
+      {{40, 40, 40}, "50%", "100", "#ffe600"},    {{40, 40, 40}, "-20%", "50", "#ff002d"},
+      {{100, 100, 100}, "25%", "125", "#00ff00"}, {{100, 100, 100}, "100%", "125", "#bfff00"},
+      {{100, 100, 100}, "5%", "100", "#ff9a00"},  {{45, 90, 90}, "1%", "100", "#ff8500"},
+      {{40, 40, 40}, "", "50", "#ff0000"},        {{200, 200, 200}, "-45%", "50", "#ff00ff"},
+      {{40, 0, 40}, "50%", "30", "#503c3c"}};
   for (const auto& [minerals, hab, radius, colour] : cases) {
     EXPECT_EQ(DrawnFor(DrawEmpireExpansion, minerals, "Current", hab, DrawMode::Merge),
               Plain(radius, colour))

@@ -27,7 +27,7 @@ class Twins {
     const Pen pen = {.Mode = IsOneIn(2) ? DrawMode::Copy : DrawMode::Merge,
                      .Style = IsOneIn(3) ? DrawStyle::NoOutline : DrawStyle::Solid,
                      .Filled = IsOneIn(2),
-                     .Width = Between(1, 4)};
+                     .Width = IsOneIn(5) ? 17 : Between(1, 4)};
     const Colour fill = RandomColour();
     Draw([&](DrawingSurface& surface) {
       surface.SetPen(pen);
