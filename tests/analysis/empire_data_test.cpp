@@ -7,14 +7,7 @@
 namespace quorvane {
 namespace {
 
-GameSession TwoRaces() {
-  return GameBuilder()
-      .Planet("Alpha", {1200, 1300})
-      .OwnedBy("Humanoid")
-      .Planet("Beta", {1250, 1350})
-      .OwnedBy("Rabbitoid, Inc")
-      .Build();
-}
+GameSession TwoRaces() { return GameBuilder().Player("Humanoid").Player("Rabbitoid, Inc").Build(); }
 
 // Every stored field of a player holds something that only it holds.
 void Fill(PlayerRecord& player, int seed) {

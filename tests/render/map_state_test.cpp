@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <tuple>
 
 #include "support/map_views.h"
 
@@ -32,17 +33,15 @@ TEST(MapState, ZoomIsArmedOnceAndKeepsTheViewUntilTheButtonIsReleased) {
 
 TEST(MapState, ZoomedMapScrollsByWholeStepsThatStayClearOfTheUniversesEdge) {
   using Key = ScrollKey;
-  struct Case {
-    Key Pressed;
-    int ShiftMask, XMin, YMin, Dx, Dy;
-  };
-  // The scale is 50, a step 12.5 times the mask; ties go to even.
-  const Case cases[] = {{Key::Left, 0, 300, 400, -1, 0},  {Key::Down, 0, 300, 400, 0, 1},
-                        {Key::Right, 1, 300, 400, 12, 0}, {Key::Up, 7, 300, 400, 0, -88},
-                        {Key::Left, 2, 25, 400, 0, 0},    {Key::Left, 2, 26, 400, -25, 0},
-                        {Key::Up, 2, 300, 25, 0, 0},      {Key::Up, 2, 300, 26, 0, -25},
-                        {Key::Right, 2, 775, 400, 0, 0},  {Key::Right, 2, 774, 400, 25, 0},
-                        {Key::Down, 2, 300, 775, 0, 0},   {Key::Down, 2, 300, 774, 0, 25}};
+  // Key and shift mask, the window's corner and its steps. The scale is 50, a step 12.5 times the
+  // mask; ties go to even.
+  const std::tuple<Key, int, int, int, int, int> cases[] = {
+      {Key::Left, 0, 300, 400, -1, 0},  {Key::Down, 0, 300, 400, 0, 1},
+      {Key::Right, 1, 300, 400, 12, 0}, {Key::Up, 7, 300, 400, 0, -88},
+      {Key::Left, 2, 25, 400, 0, 0},    {Key::Left, 2, 26, 400, -25, 0},
+      {Key::Up, 2, 300, 25, 0, 0},      {Key::Up, 2, 300, 26, 0, -25},
+      {Key::Right, 2, 775, 400, 0, 0},  {Key::Right, 2, 774, 400, 25, 0},
+      {Key::Down, 2, 300, 775, 0, 0},   {Key::Down, 2, 300, 774, 0, 25}};
   for (const auto& [key, shiftMask, xMin, yMin, dx, dy] : cases) {
     MapState state = {.View = Zoomed(xMin, yMin, 200), .ZoomArmed = 1};
     EXPECT_TRUE(ScrollView(state, key, shiftMask)) << "redrawn, moved or not";

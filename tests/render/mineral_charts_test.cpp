@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <numbers>
 #include <tuple>
 
 #include "support/game_builder.h"
@@ -23,29 +24,27 @@ MineralChart ChartFor(const Amounts& amounts, bool isStored) {
                   : ConcentrationChart(game.Build().Planet(1));
 }
 
-// The slices as "b1-180 g180-270", in degrees.
+// The slices as "b1 180 g180 270 ", in degrees.
 std::string SlicesText(const MineralChart& chart) {
   std::string text;
   for (const PieSlice& slice : chart.Slices) {
     text += slice.SliceColour == Colour{0, 0, 255} ? 'b' : slice.SliceColour.Red == 0 ? 'g' : 'y';
-    const auto degrees = [](double angle) {
-      return std::to_string(std::lround(angle * 180 / M_PI));
-    };
-    text += degrees(slice.Start) + "-" + degrees(slice.End) + " ";
+    for (const double angle : {slice.Start, slice.End}) {
+      text += std::to_string(std::lround(angle * 180 / std::numbers::pi)) + " ";
+    }
   }
   return text;
 }
 
 TEST(MineralCharts, SliceTheWholeCircleAndCutTallBars) {
   const std::tuple<const char*, Amounts, bool, const char*, Heights> cases[] = {
-      {"concentrations", {"50", "25", "25"}, false, "b1-180 g180-270 y270-360 ", {800, 400, 400}},
-      {"one is out", {0, 100, 150}, false, "g0-144 y144-360 ", {0, 1600, 1600}},
-      {"only ironium", {10, 0, 0}, false, "b1-360 ", {160, 0, 0}},
-      {"none", {0, 0, 0}, false, "", {0.16, 0.16, 0.16}},
+      {"concentrations", {"50", "25", "25"}, false, "b1 180 g180 270 y270 360 ", {800, 400, 400}},
+      {"one is out", {0, 100, 150}, false, "g0 144 y144 360 ", {0, 1600, 1600}},
+      {"only ironium", {10, 0, 0}, false, "b1 360 ", {160, 0, 0}},
       {"unknown", {"Unknown", "Unknown", "Unknown"}, false, "", {0.16, 0.16, 0.16}},
       {"hardly any", {0.2, 0.1, 0}, false, "", {0, 0, 0}},
-      {"stored", {1999, 999, 999}, true, "b1-180 g180-270 y270-360 ", {320, 160, 160}},
-      {"a lot", {20000, 0, 0}, true, "b1-360 g360-360 y360-360 ", {1600, 0.16, 0.16}},
+      {"stored", {1999, 999, 999}, true, "b1 180 g180 270 y270 360 ", {320, 160, 160}},
+      {"a lot", {20000, 0, 0}, true, "b1 360 g360 360 y360 360 ", {1600, 0.16, 0.16}},
       {"nothing stored", {0, "", 0}, true, "", {0.16, 0.16, 0.16}}};
   for (const auto& [what, amounts, isStored, slices, heights] : cases) {
     const MineralChart chart = ChartFor(amounts, isStored);

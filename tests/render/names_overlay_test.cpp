@@ -4,9 +4,7 @@
 
 #include <utility>
 
-#include "support/game_builder.h"
-#include "support/map_views.h"
-#include "support/recording_surface.h"
+#include "support/drawn.h"
 
 namespace quorvane {
 namespace {
@@ -21,9 +19,8 @@ TEST(DrawPlanetNames, SitCentredBelowThePlanetInTheOwnersColourAndGrowWithTheZoo
       {500, {"text 4750,5100 \"Alpha\" #ff0000 7pt", "text 4850,5100 \"007\" #ffffff 7pt"}},
       {200, {"text 4750,5250 \"Alpha\" #ff0000 8pt", "text 4850,5250 \"007\" #ffffff 8pt"}}};
   for (const auto& [width, printed] : cases) {
-    RecordingSurface surface;
-    DrawPlanetNames(game.Build(), Zoomed(500 - width / 2, 500 - width / 2, width), surface, true);
-    EXPECT_EQ(surface.Lines(), printed);
+    const MapView view = Zoomed(500 - width / 2, 500 - width / 2, width);
+    EXPECT_EQ(Drawn(DrawPlanetNames, game.Build(), view, true), printed);
   }
 }
 

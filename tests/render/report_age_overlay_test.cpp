@@ -4,9 +4,7 @@
 
 #include <tuple>
 
-#include "support/game_builder.h"
-#include "support/map_views.h"
-#include "support/recording_surface.h"
+#include "support/drawn.h"
 
 namespace quorvane {
 namespace {
@@ -21,14 +19,8 @@ TEST(DrawReportAge, GoesFromGreenToRedWithTheYears) {
     GameBuilder game;
     game.Planet("Alpha", {1500, 1500}).With(PlanetField::ReportAge, years);
     game.With(PlanetField::AgeText, age);
-    RecordingSurface surface;
-    DrawReportAge(game.Build(), FullView(), surface);
-    Texts expected;
-    if (colour != nullptr) {
-      expected = {std::string("circle 5000,5000 r60 ") + colour + " fill " + colour +
-                  " copy solid w1"};
-    }
-    EXPECT_EQ(surface.Lines(), expected) << years;
+    const Texts expected = colour != nullptr ? Texts{Disc("60", colour)} : Texts();
+    EXPECT_EQ(Drawn(DrawReportAge, game.Build()), expected) << years;
   }
 }
 

@@ -2,9 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "support/game_builder.h"
-#include "support/map_views.h"
-#include "support/recording_surface.h"
+#include "support/drawn.h"
 
 namespace quorvane {
 namespace {
@@ -18,16 +16,12 @@ TEST(DrawScannedPlanets, PenetratingRangesLieAboveNormalOnesAndPointsAboveBoth) 
   GameSession session = game.Build();
   const MapView view = Zoomed(300, 300, 500);  // 20 units to a light year
   const Texts points = {"point 2000,4000 #ffff00 copy w4"};
-  RecordingSurface surface;
-  DrawScannedPlanets(session, view, surface);
-  EXPECT_EQ(surface.Lines(),
+  EXPECT_EQ(Drawn(DrawScannedPlanets, session, view),
             (Texts{"circle 2000,4000 r1000 #600000 fill #600000 copy solid w1",
                    "circle 4000,4000 r200 #600000 fill #600000 copy solid w1",
                    "circle 2000,4000 r400 #606000 fill #606000 copy solid w1", points[0]}));
   session.ReportStyle = kOldReportStyle;
-  surface.Forget();
-  DrawScannedPlanets(session, view, surface);
-  EXPECT_EQ(surface.Lines(), points);
+  EXPECT_EQ(Drawn(DrawScannedPlanets, session, view), points);
 }
 
 }  // namespace

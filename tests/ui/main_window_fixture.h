@@ -20,15 +20,19 @@ class MainWindowTest : public testing::Test {
     window.show();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
   }
-  WindowDriver Driver() { return WindowDriver(window); }
 
+  // Works the dialog that the next step opens.
+  template <typename Work>
+  void InNextDialog(const Work& work) {
+    QTimer::singleShot(0, &window, [work] { work(*QApplication::activeModalWidget()); });
+  }
   // "Load Data", and in the open dialog the map, a year and the load button.
   void Load() {
-    QTimer::singleShot(0, &window, [this] {
-      WindowDriver dialog(*QApplication::activeModalWidget());
+    InNextDialog([](QWidget& opened) {
+      WindowDriver dialog(opened);
       dialog.ClickEntry("File1", "Demo.MAP").Type("txtGameYear", "2450").Click("Command1");
     });
-    Driver().Choose("mnuMap");
+    driver.Choose("mnuMap");
   }
 
   // The pixel of the map where a place in game coordinates is shown.
@@ -37,9 +41,8 @@ class MainWindowTest : public testing::Test {
     const SurfacePoint at = view.ToSurface({place.X - 1000, view.UniverseExtent - place.Y});
     return window.Map->Universe->WidgetPoint(at).toPoint();
   }
-  void MovePointer(QPoint to) { Driver().MoveTo("Universe", to); }
 
-  QImage Map() { return Driver().Find<PictureBox>("Universe").Surface().Picture(); }
+  QImage Map() { return driver.Find<PictureBox>("Universe").Surface().Picture(); }
   bool IsBlank(const QImage& picture) {
     QImage blank(picture.size(), picture.format());
     blank.fill(Qt::black);
@@ -49,6 +52,13 @@ class MainWindowTest : public testing::Test {
   GameFolder folder;
   ScriptedPrompts prompts;
   Main window;
+  WindowDriver driver{window};
+};
+
+/// The same with the game loaded.
+class LoadedGameTest : public MainWindowTest {
+ protected:
+  LoadedGameTest() { Load(); }
 };
 
 }  // namespace quorvane

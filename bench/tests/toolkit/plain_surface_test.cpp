@@ -1,5 +1,7 @@
 // The map picture beside its plain twin, which asks every pixel whether it belongs to a shape.
 
+#include "reference/plain_surface.h"
+
 #include <gtest/gtest.h>
 
 #include <cstdint>
@@ -8,7 +10,6 @@
 #include <tuple>
 
 #include "platform/toolkit/picture_surface.h"
-#include "reference/plain_surface.h"
 
 namespace quorvane {
 namespace {
@@ -26,7 +27,7 @@ class Twins {
     const Pen pen = {.Mode = IsOneIn(2) ? DrawMode::Copy : DrawMode::Merge,
                      .Style = IsOneIn(3) ? DrawStyle::NoOutline : DrawStyle::Solid,
                      .Filled = IsOneIn(2),
-                     .Width = Between(1, 4)};
+                     .Width = IsOneIn(5) ? 17 : Between(1, 4)};
     const Colour fill = RandomColour();
     Draw([&](DrawingSurface& surface) {
       surface.SetPen(pen);

@@ -1,6 +1,8 @@
 // The merge of planet reports, value by value against a plain version of it, on many made-up games
 // whose reports are as the game writes them and on damaged ones.
 
+#include "reference/plain_merge.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -15,7 +17,6 @@
 #include "generator/random.h"
 #include "loading/load_game.h"
 #include "loading/report_finder.h"
-#include "reference/plain_merge.h"
 #include "support/temp_folder.h"
 
 namespace quorvane {

@@ -1,0 +1,61 @@
+// The influence of many made-up games, point by point beside the plain sums.
+
+#include "reference/plain_influence.h"
+
+#include <gtest/gtest.h>
+
+#include <utility>
+
+#include "loading/influence.h"
+#include "synthetic_game.h"
+
+namespace quorvane {
+namespace {
+
+testing::AssertionResult SameInfluence(const GameSession& fast, const GameSession& plain) {
+  for (int gx = 0; gx <= plain.GridSize; ++gx) {
+    for (int gy = 0; gy <= plain.GridSize; ++gy) {
+      const InfluencePoint is = fast.InfluenceGrid.At(gx, gy);
+      const InfluencePoint mustBe = plain.InfluenceGrid.At(gx, gy);
+      if (is == mustBe) continue;
+      return testing::AssertionFailure()
+             << "point " << gx << ", " << gy << " is (" << is.Holder << ", " << is.Strength
+             << "), must be (" << mustBe.Holder << ", " << mustBe.Strength << ")";
+    }
+  }
+  for (int player = 0; player <= kMaxPlayers; ++player) {
+    if (!(fast.Player(player) == plain.Player(player))) {
+      return testing::AssertionFailure() << "the territory of player " << player << " differs";
+    }
+  }
+  return testing::AssertionSuccess();
+}
+
+TEST(ComputeInfluence, CopesWithPlanetsFarOutsideTheUniverse) {
+  GameSession fast = MakeInfluenceGame({.Width = 31700, .Planets = 4, .Players = 4});
+  const std::pair<int, int> positions[] = {
+      {-32768, -32768}, {32767, 32767}, {-32768, 32767}, {31760, -60}};
+  for (int i = 1; i <= 4; ++i) {
+    fast.Planet(i)[PlanetField::X] = positions[i - 1].first;
+    fast.Planet(i)[PlanetField::Y] = positions[i - 1].second;
+  }
+  GameSession plain = fast;
+  ComputeInfluence(fast, {});
+  reference::PlainComputeInfluence(plain);
+  EXPECT_EQ(fast.InfluenceGrid.At(650, 0).Holder, 4);
+  EXPECT_TRUE(SameInfluence(fast, plain));
+}
+
+TEST(ComputeInfluence, GivesWhatThePlainSumsGive) {
+  constexpr unsigned kGames = 150;
+  for (unsigned number = 0; number < kGames; ++number) {
+    GameSession fast = MakeAwkwardGame(number);
+    GameSession plain = fast;
+    ComputeInfluence(fast, {});
+    reference::PlainComputeInfluence(plain);
+    EXPECT_TRUE(SameInfluence(fast, plain)) << "game " << number;
+  }
+}
+
+}  // namespace
+}  // namespace quorvane
