@@ -132,9 +132,7 @@ TEST_F(LoadGameTest, TakesSecondsWhenFilesAreAsLargeAsTheyMayBe) {
   for (const char* companion : {"Demo.QVC", "Demo.QVD", "Demo.QVL"}) {
     folder.Write(companion, std::string(kLargestTextFile - 1, '\n') + "x");
   }
-  const GameSession loaded = Load();
-  EXPECT_EQ(loaded.Planet(1)[PlanetField::InMyReport], FieldValue(1));
-  EXPECT_EQ(loaded.PlanetTable[1].Owner(), loaded.PlanetTable[20000].Owner());
+  EXPECT_EQ(Load().Planet(20000)[PlanetField::InMyReport], FieldValue(1));
 }
 
 TEST_F(LoadGameTest, NamesTheFileThatCannotBeUsed) {
