@@ -7,9 +7,9 @@ namespace {
 
 TEST(DecodeText, ReadsBytesThatAreNoUtf8AsWindows1252) {
   const std::pair<std::string, std::string> cases[] = {
-      {"24 \xBA", "24 \xC2\xBA"},              // the game's degree sign
-      {"\x80 \x81", "\xE2\x82\xAC \xC2\x81"},  // one that Windows-1252 moved, one it left open
-      {"caf\xC3\xA9", "caf\xC3\xA9"},          // UTF-8 stays
+      {"24 \xBA", "24 \xC2\xBA"},          // the game's degree sign
+      {"\x9F \x81", "\xC5\xB8 \xC2\x81"},  // one that Windows-1252 moved, one it left open
+      {"caf\xC3\xA9", "caf\xC3\xA9"},      // UTF-8 stays
       {"\xC3\xA9 \xE9", "\xC3\x83\xC2\xA9 \xC3\xA9"},  // one bad byte makes the whole text bytes
       {"\xEF\xBB\xBFmark", "mark"},
       {"\xC0\xAF", "\xC3\x80\xC2\xAF"},                  // overlong

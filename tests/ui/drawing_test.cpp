@@ -1,6 +1,6 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QToolButton>
+#include <tuple>
 
 #include "ui/details_panel.h"
 #include "ui/drawing_board.h"

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QLineEdit>
 #include <QTest>
 
 #include "support/game_builder.h"

@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <QAction>
-#include <QToolButton>
 
 #include "platform/toolkit/twips.h"
 #include "ui/details_panel.h"

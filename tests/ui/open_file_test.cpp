@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QLineEdit>
 #include <QListWidget>
 
 #include "support/game_folder.h"
