@@ -1,0 +1,13 @@
+# One test program for each folder, so that a change rebuilds and links little.
+function(quorvane_tests folder)
+  quorvane_test_program(${folder} ${CMAKE_CURRENT_SOURCE_DIR}/${folder} ${ARGN})
+endfunction()
+
+function(quorvane_test_program folder path)
+  file(GLOB sources CONFIGURE_DEPENDS ${path}/*_test.cpp)
+  string(REPLACE "/" "_" name ${folder}_tests)
+  add_executable(${name} ${sources})
+  target_link_libraries(${name} PRIVATE ${ARGN})
+  gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60
+    PROPERTIES ENVIRONMENT QT_QPA_PLATFORM=offscreen)
+endfunction()
