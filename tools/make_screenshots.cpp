@@ -155,9 +155,9 @@ void TakeDetails(Main& window, const ScreenshotJob& job) {
     Save(*window.Detail, job, QString("details-%1").arg(tab));
   }
   window.Detail->setCurrentIndex(1);
-  window.Detail->ChartType->click();
+  window.Detail->Minerals->ChartType->click();
   Save(*window.Detail, job, "details-bars");
-  window.Detail->ChartType->click();
+  window.Detail->Minerals->ChartType->click();
   window.Detail->setCurrentIndex(0);
 }
 

@@ -2,8 +2,8 @@
 
 #include <QGridLayout>
 
+#include "ui/controls.h"
 #include "ui/icons.h"
-#include "ui/labels.h"
 #include "ui/texts.h"
 
 namespace quorvane {
@@ -41,8 +41,7 @@ About::About(QWidget* parent) : QDialog(parent) {
   lblDescription = NewParagraph("lblDescription", kDescription, kTextWidth, this);
   lblDisclaimer = NewParagraph("lblDisclaimer", kDisclaimer, kTextWidth, this);
   Label1 = NewParagraph("Label1", kContact, kTextWidth, this);
-  cmdOK = new QPushButton("OK", this);
-  cmdOK->setObjectName("cmdOK");
+  cmdOK = NewButton("cmdOK", "OK", this);
   cmdOK->setDefault(true);
   connect(cmdOK, &QPushButton::clicked, this, &About::cmdOK_Click);
   LayOut();

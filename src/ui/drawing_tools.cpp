@@ -8,6 +8,7 @@
 #include <algorithm>
 
 #include "model/drawing_record.h"
+#include "ui/controls.h"
 #include "ui/texts.h"
 
 namespace quorvane {
@@ -82,11 +83,9 @@ void DrawingTools::StopDrawing() { Draw[0]->setChecked(true); }
 void DrawingTools::ResetColour() { DColour[0]->setChecked(true); }
 
 void DrawingTools::AddButtons() {
-  SaveQVL = new QPushButton(tr("Save QVL"), this);
-  SaveQVL->setObjectName("SaveQVL");
+  SaveQVL = NewButton("SaveQVL", tr("Save QVL"), this);
   SaveQVL->setToolTip("You need to save for the lines to redraw");
-  ClearQVL = new QPushButton(tr("Clear QVL"), this);
-  ClearQVL->setObjectName("ClearQVL");
+  ClearQVL = NewButton("ClearQVL", tr("Clear QVL"), this);
 }
 
 void DrawingTools::EnableTools(bool isEnabled) {

@@ -9,19 +9,13 @@
 #include "analysis/empire_data.h"
 #include "analysis/race_ranges.h"
 #include "model/text.h"
-#include "ui/labels.h"
+#include "ui/controls.h"
 #include "ui/texts.h"
 
 namespace quorvane {
 namespace {
 
 constexpr const char* kSelectorText = "Select an Empire";
-
-QPushButton* NewButton(const char* name, const char* caption, QWidget* parent) {
-  auto* button = new QPushButton(caption, parent);
-  button->setObjectName(name);
-  return button;
-}
 
 FieldValue& At(PlayerRecord& player, PlayerField first, std::size_t index) {
   return player.Field(static_cast<std::size_t>(first) + index);

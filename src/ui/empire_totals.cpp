@@ -2,7 +2,7 @@
 
 #include <QGridLayout>
 
-#include "ui/labels.h"
+#include "ui/controls.h"
 #include "ui/texts.h"
 
 namespace quorvane {

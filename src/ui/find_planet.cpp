@@ -6,19 +6,13 @@
 #include <QShowEvent>
 
 #include "analysis/find_planet.h"
-#include "ui/labels.h"
+#include "ui/controls.h"
 #include "ui/texts.h"
 
 namespace quorvane {
 namespace {
 
 constexpr int kListWidth = 260;
-
-QPushButton* NewButton(const char* name, const QString& text, QWidget* parent) {
-  auto* button = new QPushButton(text, parent);
-  button->setObjectName(name);
-  return button;
-}
 
 // Completing a name only helps with typing. A text that was typed must stay one, even where it
 // equals an entry, so the box may not choose that entry when the typing ends.

@@ -4,7 +4,7 @@
 #include <QPainter>
 
 #include "render/swatch.h"
-#include "ui/labels.h"
+#include "ui/controls.h"
 #include "ui/pixel_rect.h"
 #include "ui/texts.h"
 
@@ -75,24 +75,24 @@ void Legend::ShowPlayers(const GameSession& session) {
     RaceC[index]->setVisible(!name.isEmpty());
   }
   outlines_ = {};
-  ShowColours(session);
+  TakeColours(session);
+  for (std::size_t row = 0; row < colours_.size(); ++row) PaintRow(row);
 }
 
 void Legend::ShowChangedColours(const GameSession& session) {
   const auto before = colours_;
-  ShowColours(session);
+  TakeColours(session);
   for (std::size_t row = 0; row < colours_.size(); ++row) {
     if (colours_[row] != before[row]) outlines_[row] = Colour();
     PaintRow(row);
   }
 }
 
-void Legend::ShowColours(const GameSession& session) {
+void Legend::TakeColours(const GameSession& session) {
   for (std::size_t row = 0; row < colours_.size(); ++row) {
     const int player = static_cast<int>(row) + 1;
     const Colour* colour = player <= session.PlayerCount ? session.ColourOf(player) : nullptr;
     colours_[row] = colour != nullptr ? *colour : Colour();
-    PaintRow(row);
   }
 }
 

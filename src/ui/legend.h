@@ -49,7 +49,7 @@ class Legend : public QObject {
   void Chosen(int row);
 
  private:
-  void ShowColours(const GameSession& session);
+  void TakeColours(const GameSession& session);
   void PaintRow(std::size_t row);
 
   std::array<Colour, kLegendRows> colours_ = {};

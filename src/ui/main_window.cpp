@@ -8,7 +8,6 @@
 #include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QRadioButton>
-#include <QScopedValueRollback>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QTabBar>
@@ -16,23 +15,19 @@
 #include <optional>
 #include <utility>
 
-#include "analysis/find_planet.h"
-#include "analysis/race_colour.h"
 #include "loading/load_game.h"
 #include "platform/toolkit/twips.h"
 #include "render/main_layout.h"
-#include "render/planet_pick.h"
+#include "ui/controls.h"
 #include "ui/details_panel.h"
 #include "ui/drawing_board.h"
 #include "ui/find_planet.h"
 #include "ui/grid.h"
-#include "ui/labels.h"
 #include "ui/legend.h"
 #include "ui/map_panel.h"
 #include "ui/message_box_prompts.h"
 #include "ui/overlay_bar.h"
 #include "ui/pixel_rect.h"
-#include "ui/race_colour.h"
 #include "ui/texts.h"
 
 namespace quorvane {
@@ -135,7 +130,8 @@ void Main::ConnectParts() {
   connect(Map, &MapPanel::Hovered, this, &Main::Universe_Hovered);
   connect(Board, &DrawingBoard::Cleared, this, &Main::Board_Cleared);
   connect(RaceLegend, &Legend::Chosen, this, &Main::RaceC_Click);
-  connect(Detail, &DetailsPanel::ChartsSwitched, this, [this] { Map->Universe->setFocus(); });
+  connect(Detail->Minerals, &MineralsTab::ChartsSwitched, this,
+          [this] { Map->Universe->setFocus(); });
 }
 
 // No overlay may change in the middle of a zoom.
@@ -193,15 +189,6 @@ void Main::Form_Resize() {
   RaceLegend->Place(*layout);
 }
 
-// The picture of a resized map is blank. It gets back all that it showed, drawings that are not
-// saved yet included.
-void Main::Map_Resized() {
-  session_.BordersCached = 0;
-  if (session_.PlanetCount == 0 || isDrawing_) return;
-  DrawMap(Overlays->Switches());
-  Board->DrawShapes();
-}
-
 bool Main::eventFilter(QObject* target, QEvent* event) {
   const auto* widget = qobject_cast<QWidget*>(target);
   if (event->type() == QEvent::KeyPress && widget != nullptr && widget->window() == this &&
@@ -217,101 +204,6 @@ bool Main::Form_KeyDown(int key, Qt::KeyboardModifiers modifiers) {
   DrawOverlays();
   PlaceSelector();
   return true;
-}
-
-void Main::Combo1_Click() {
-  if (Overlays->Switches().IsOn(OverlayKind::EstimateHabValues)) DrawOverlays();
-}
-
-void Main::Universe_MouseDown(int button, int shift, double x, double y) {
-  if (Board->Universe_MouseDown({x, y})) return;
-  Map->Universe_MouseDown(button, shift, x, y);
-}
-
-// Tells all that is known of the planet that was clicked.
-void Main::Universe_Clicked(SurfacePoint at) {
-  const int planet = PlanetAt(session_, Map->State().View, at);
-  SelectPlanet(session_, planet);
-  PlaceSelector();
-  if (planet > 0) Detail->ShowPlanet(session_, planet);
-}
-
-void Main::Universe_Hovered(SurfacePoint at, bool isPicking) {
-  const MapView& view = Map->State().View;
-  if (isPicking) {
-    const int planet = PlanetAt(session_, view, at);
-    const QString name = planet > 0 ? ToQString(session_.Planet(planet).Name()) : QString();
-    theplanet->setText(planet > 0 ? " " + name : " Deep Space");
-    Map->Universe->setToolTip(planet > 0 ? "Click for more details on " + name : QString());
-  }
-  XYCoord->setText(ToQString(PointerText(view, at)));
-  Board->Universe_MouseMove(at);
-}
-
-// Without the layer, its overlay is off.
-void Main::Board_Cleared() {
-  {
-    const QScopedValueRollback oneRedraw(isDrawing_, true);
-    Overlays->OvButt[static_cast<std::size_t>(OverlayKind::QvlDrawing)]->setChecked(false);
-  }
-  DrawOverlays();
-}
-
-void Main::RaceC_Click(int index) {
-  const QString name = RaceLegend->Race[static_cast<std::size_t>(index)]->text();
-  const int slot = ColourSlotOf(session_, ToText(name));
-  if (slot == 0) return;
-  RaceColour dialog(session_, index, slot, name, this);
-  if (dialog.exec() == QDialog::Accepted) RaceLegend->ShowChangedColours(session_);
-  session_.BordersCached = 0;
-  Map->Universe2->Surface().Clear();
-  DrawOverlays();
-}
-
-void Main::PlaceSelector() { Map->PlaceSelector(session_.SelectedX, session_.SelectedY); }
-
-void Main::DrawOverlays() {
-  // Switches that the redraw itself changes are part of the same user action.
-  if (isDrawing_) return;
-  const QScopedValueRollback oneRedraw(isDrawing_, true);
-  OverlaySwitches switches = Overlays->Switches();
-  const bool isZoomIn = switches.IsOn(OverlayKind::ZoomIn);
-  if (Map->ArmZoom(isZoomIn)) {
-    Detail->Tools->StopDrawing();
-    return;
-  }
-  if (Map->LeaveZoom(isZoomIn)) {
-    constexpr int kButtonsOfFullView = 11;  // the estimated habitability is left as it is
-    Overlays->EnableButtons(kButtonsOfFullView);
-    Detail->Tools->StopDrawing();
-    PlaceSelector();
-  }
-  if (switches.IsOn(OverlayKind::ClearMap)) {
-    switches.ClearMap();
-    Overlays->Show(switches);
-  }
-  const bool wantsDrawing = switches.IsOn(OverlayKind::QvlDrawing);
-  const bool hasDrawing = wantsDrawing && Board->ReadLayer();
-  if (wantsDrawing && !hasDrawing) {
-    switches.Set(OverlayKind::QvlDrawing, false);
-    Overlays->Show(switches);
-  }
-  Board->ForgetShapes();
-  DrawMap(switches);
-  if (hasDrawing) Detail->Tools->ResetColour();
-}
-
-void Main::DrawMap(OverlaySwitches switches) {
-  switches.RaceName = ToText(Combo1->currentText());
-  Map->Draw(session_, switches, Board->Layer(), ProgressDisplay());
-}
-
-ShowProgress Main::ProgressDisplay() {
-  return [this](int value, int maximum) {
-    ProgressBar1->setRange(0, maximum);
-    ProgressBar1->setValue(value);
-    ProgressBar1->repaint();
-  };
 }
 
 }  // namespace quorvane

@@ -102,7 +102,7 @@ void Main::ResetWindow() {
   Combo1->clear();
   Combo1->clearEditText();
   Map->ShowUniverse(session_.UniverseExtent);
-  Detail->DisableCharts();
+  Detail->Minerals->DisableCharts();
   PlaceSelector();
 }
 

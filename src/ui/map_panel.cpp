@@ -29,12 +29,6 @@ std::optional<ScrollKey> ScrollKeyOf(int key) {
   }
 }
 
-int ShiftMaskOf(Qt::KeyboardModifiers modifiers) {
-  return (modifiers.testFlag(Qt::ShiftModifier) ? 1 : 0) +
-         (modifiers.testFlag(Qt::ControlModifier) ? 2 : 0) +
-         (modifiers.testFlag(Qt::AltModifier) ? 4 : 0);
-}
-
 PictureBox* NewMap(const char* name, QWidget& area) {
   auto* map = new PictureBox(&area);
   map->setObjectName(name);

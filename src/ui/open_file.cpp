@@ -10,6 +10,7 @@
 #include "loading/open_checks.h"
 #include "loading/report_finder.h"
 #include "platform/files/files.h"
+#include "ui/controls.h"
 #include "ui/file_chooser.h"
 #include "ui/icons.h"
 #include "ui/report_rows.h"
@@ -19,9 +20,8 @@ namespace quorvane {
 namespace {
 
 QLabel* NewLabel(const char* name, const QString& text, QWidget* parent) {
-  auto* label = new QLabel(text, parent);
+  QLabel* label = NewCaption(text, parent);
   label->setObjectName(name);
-  label->setTextFormat(Qt::PlainText);
   return label;
 }
 
@@ -30,14 +30,6 @@ Widget* Named(Widget* widget, const char* name, const QString& accessibleName) {
   widget->setObjectName(name);
   widget->setAccessibleName(accessibleName);
   return widget;
-}
-
-QPushButton* NewButton(const char* name, const QString& caption, QBoxLayout& row, QWidget* parent) {
-  auto* button = new QPushButton(caption, parent);
-  button->setObjectName(name);
-  button->setAutoDefault(false);
-  row.addWidget(button);
-  return button;
 }
 
 }  // namespace
@@ -124,8 +116,7 @@ void OpenFile::AddSettings(QBoxLayout& column) {
       "Label4",
       "By altering this value, you can increase/decrease the SOI of each planet, thus changing the "
       "maximum radius of a planets border. Increasing the SOI will slow the loading and may cause "
-      "an "
-      "overflow in some universes. I recommend you stick with 100ly",
+      "an overflow in some universes. I recommend you stick with 100ly",
       frame);
   advice->setWordWrap(true);
   frameRow->addWidget(txtSOI, 0, Qt::AlignTop);
@@ -135,11 +126,15 @@ void OpenFile::AddSettings(QBoxLayout& column) {
 
 void OpenFile::AddButtons(QBoxLayout& column) {
   auto* row = new QHBoxLayout();
-  RemRace = NewButton("RemRace", "&Remember My Race", *row, this);
-  SaveYears = NewButton("SaveYears", "Save &Years", *row, this);
-  row->addStretch(1);
-  Command1 = NewButton("Command1", "&Load && Generate Data", *row, this);
-  Command2 = NewButton("Command2", "&Cancel", *row, this);
+  RemRace = NewButton("RemRace", "&Remember My Race", this);
+  SaveYears = NewButton("SaveYears", "Save &Years", this);
+  Command1 = NewButton("Command1", "&Load && Generate Data", this);
+  Command2 = NewButton("Command2", "&Cancel", this);
+  for (QPushButton* button : {RemRace, SaveYears, Command1, Command2}) {
+    button->setAutoDefault(false);
+    row->addWidget(button);
+  }
+  row->insertStretch(2, 1);
   Command1->setDefault(true);
   Command1->setIcon(ThemedIcon("load"));
   QSizePolicy keepsRoom = RemRace->sizePolicy();

@@ -8,7 +8,7 @@
 #include "platform/toolkit/twips.h"
 #include "render/palette.h"
 #include "render/swatch.h"
-#include "ui/labels.h"
+#include "ui/controls.h"
 
 namespace quorvane {
 namespace {
@@ -40,8 +40,7 @@ RaceColour::RaceColour(GameSession& session, int position, int slot, const QStri
   RedSlide = AddSlider(*sliders, "RedSlide", "Red", colour.Red);
   GreenSlide = AddSlider(*sliders, "GreenSlide", "Green", colour.Green);
   BlueSlide = AddSlider(*sliders, "BlueSlide", "Blue", colour.Blue);
-  butOK = new QPushButton("OK", this);
-  butOK->setObjectName("butOK");
+  butOK = NewButton("butOK", "OK", this);
   butOK->setDefault(true);
   column->addLayout(sliders);
   column->addStretch(1);

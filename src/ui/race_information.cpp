@@ -7,7 +7,7 @@
 #include <QVBoxLayout>
 
 #include "analysis/empire_statistics.h"
-#include "ui/labels.h"
+#include "ui/controls.h"
 #include "ui/texts.h"
 
 namespace quorvane {
@@ -62,8 +62,7 @@ RaceInformation::RaceInformation(QWidget* parent) : QWidget(parent), fields_(new
   column->addWidget(NewTraitChooser());
   column->addLayout(NewTraitGrid());
 
-  ReCalcHab = new QPushButton("Re-Calc Hab Ranges", this);
-  ReCalcHab->setObjectName("ReCalcHab");
+  ReCalcHab = NewButton("ReCalcHab", "Re-Calc Hab Ranges", this);
   auto* page = new QVBoxLayout(this);
   page->setContentsMargins(16, 12, 16, 12);
   page->setSpacing(10);

@@ -5,8 +5,8 @@
 #include <QVBoxLayout>
 
 #include "analysis/planet_grid.h"
+#include "ui/controls.h"
 #include "ui/grid.h"
-#include "ui/labels.h"
 
 namespace quorvane {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <QVBoxLayout>
 
-#include "ui/labels.h"
+#include "ui/controls.h"
 
 namespace quorvane {
 namespace {
@@ -32,8 +32,7 @@ Thanksto::Thanksto(QWidget* parent) : QDialog(parent) {
   Label5 = NewParagraph("Label5", kAuthors, kTextWidth, this);
   Label4 = NewParagraph("Label4", "And to you, for using my program, and giving me feedback.",
                         kTextWidth, this);
-  cmdOK = new QPushButton("OK", this);
-  cmdOK->setObjectName("cmdOK");
+  cmdOK = NewButton("cmdOK", "OK", this);
   cmdOK->setDefault(true);
 
   auto* column = new QVBoxLayout(this);

@@ -12,13 +12,13 @@ int ButtonMask(Qt::MouseButtons buttons) {
          (buttons.testFlag(Qt::MiddleButton) ? 4 : 0);
 }
 
-int ShiftMask(Qt::KeyboardModifiers modifiers) {
+}  // namespace
+
+int ShiftMaskOf(Qt::KeyboardModifiers modifiers) {
   return (modifiers.testFlag(Qt::ShiftModifier) ? 1 : 0) +
          (modifiers.testFlag(Qt::ControlModifier) ? 2 : 0) +
          (modifiers.testFlag(Qt::AltModifier) ? 4 : 0);
 }
-
-}  // namespace
 
 PictureBox::PictureBox(QWidget* parent, QSizeF units)
     : QWidget(parent), surface_(size(), devicePixelRatioF(), units) {
@@ -46,12 +46,12 @@ void PictureBox::paintEvent(QPaintEvent*) {
 
 void PictureBox::mousePressEvent(QMouseEvent* event) {
   const SurfacePoint at = LogicalPoint(event->position());
-  emit MouseDown(ButtonMask(event->button()), ShiftMask(event->modifiers()), at.X, at.Y);
+  emit MouseDown(ButtonMask(event->button()), ShiftMaskOf(event->modifiers()), at.X, at.Y);
 }
 
 void PictureBox::mouseMoveEvent(QMouseEvent* event) {
   const SurfacePoint at = LogicalPoint(event->position());
-  emit MouseMove(ButtonMask(event->buttons()), ShiftMask(event->modifiers()), at.X, at.Y);
+  emit MouseMove(ButtonMask(event->buttons()), ShiftMaskOf(event->modifiers()), at.X, at.Y);
 }
 
 void PictureBox::FitSurface() {

@@ -6,6 +6,9 @@
 
 namespace quorvane {
 
+/// 1 Shift, 2 Ctrl, 4 Alt, added together.
+int ShiftMaskOf(Qt::KeyboardModifiers modifiers);
+
 /// Shows a picture that always has the widget's own size. Whoever draws on the surface calls
 /// `update()` afterwards. Shapes above the picture are children of their own.
 class PictureBox : public QWidget {
@@ -24,7 +27,7 @@ class PictureBox : public QWidget {
   void Resized();
   /// A press of a mouse button, in logical units.
   /// @param button 1 left, 2 right, 4 middle
-  /// @param shift  1 Shift, 2 Ctrl, 4 Alt, added together
+  /// @param shift  as `ShiftMaskOf` gives it
   void MouseDown(int button, int shift, double x, double y);
   /// A move of the pointer, with the buttons that are held down.
   void MouseMove(int buttons, int shift, double x, double y);

@@ -26,10 +26,10 @@ class PictureImage : public SurfaceImage {
   QImage picture_;
 };
 
-QImage BlankPicture(QSize size, double ratio, QRgb plain) {
+QImage BlankPicture(QSize size, double ratio) {
   const QSize deviceSize = (QSizeF(size) * ratio).toSize().expandedTo({1, 1});
   QImage picture(deviceSize, QImage::Format_RGB32);
-  picture.fill(plain);
+  picture.fill(Qt::black);
   const int dotsPerMetre = qRound(kOrdinaryDotsPerInch * ratio * kInchesPerMetre);
   picture.setDotsPerMeterX(dotsPerMetre);
   picture.setDotsPerMeterY(dotsPerMetre);
@@ -49,11 +49,6 @@ bool PictureSurface::Resize(QSize size, double ratio) {
   ratio_ = ratio;
   MakePicture();
   return true;
-}
-
-void PictureSurface::SetPlainColour(Colour colour) {
-  plainColour_ = RgbOf(colour);
-  MakePicture();
 }
 
 void PictureSurface::Clear() { picture_ = background_; }
@@ -122,7 +117,7 @@ PixelCanvas PictureSurface::Canvas() {
 int PictureSurface::DevicePenWidth() const { return std::max(qRound(pen_.Width * ratio_), 1); }
 
 void PictureSurface::MakePicture() {
-  blank_ = BlankPicture(size_, ratio_, plainColour_);
+  blank_ = BlankPicture(size_, ratio_);
   deviceSize_ = blank_.size();
   background_ = blank_;
   picture_ = blank_;

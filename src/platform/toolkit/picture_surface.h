@@ -31,9 +31,6 @@ class PictureSurface : public DrawingSurface {
   /// @return false, and nothing changes, when it has this size and ratio already
   bool Resize(QSize size, double ratio);
 
-  /// Gives the plain background a colour; black unless this is called. The picture is then blank.
-  void SetPlainColour(Colour colour);
-
   /// What the surface shows, in device pixels.
   const QImage& Picture() const { return picture_; }
   /// The logical scale.
@@ -81,7 +78,6 @@ class PictureSurface : public DrawingSurface {
 
   Pen pen_;
   DotMask dot_{1, 1};
-  QRgb plainColour_ = RgbOf({0, 0, 0});
   QRgb fillColour_ = RgbOf({0, 0, 0});
   QRgb foreColour_ = RgbOf({255, 255, 255});
   double fontPoints_ = 8.25;

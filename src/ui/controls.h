@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QLabel>
+#include <QPushButton>
 #include <QString>
 
 namespace quorvane {
@@ -34,6 +35,13 @@ inline QLabel* NewParagraph(const QString& name, const QString& text, int width,
   label->setWordWrap(true);
   label->setFixedWidth(width);
   return label;
+}
+
+/// A button under its control name.
+inline QPushButton* NewButton(const QString& name, const QString& caption, QWidget* parent) {
+  auto* button = new QPushButton(caption, parent);
+  button->setObjectName(name);
+  return button;
 }
 
 }  // namespace quorvane

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QPushButton>
+#include <QWidget>
+#include <array>
+
+#include "model/planet_record.h"
+#include "platform/toolkit/pie_chart.h"
+
+namespace quorvane {
+
+/// The "Minerals" tab of the details panel: what a planet's ground holds and what is stored on it,
+/// as pies or as bars, above a table of the numbers.
+class MineralsTab : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit MineralsTab(QWidget* parent);
+
+  /// Draws a planet's charts. The table's labels are filled by the panel, with all other texts.
+  void ShowCharts(const PlanetRecord& planet);
+  /// Until a planet of the loaded game has been shown, there are no charts to switch.
+  void DisableCharts() { ChartType->setEnabled(false); }
+
+  QPushButton* ChartType = nullptr;
+  PieChart* Pie1 = nullptr;
+  PieChart* Pie2 = nullptr;
+  /// The bars `MCI`, `MCB`, `MCG` of the concentrations, and `MSI`, `MSB`, `MSG` of what is stored.
+  std::array<QWidget*, 3> ConcentrationBars = {};
+  std::array<QWidget*, 3> StoredBars = {};
+
+ signals:
+  /// The charts were switched; the map takes the focus.
+  void ChartsSwitched();
+
+ private:
+  void ChartType_Click();
+};
+
+}  // namespace quorvane
