@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <vector>
 
 #include "platform/files/files.h"
 
@@ -9,6 +10,7 @@ namespace quorvane {
 namespace {
 
 namespace fs = std::filesystem;
+using FileNames = std::vector<std::string>;
 
 constexpr std::size_t kExtensionLength = 4;  // the dot included
 
@@ -28,19 +30,27 @@ void UseOldReport(GameChoice& choice, const fs::path& report, const std::string&
   choice.MyRaceRow = 1;
 }
 
-void UseNewReports(GameChoice& choice) {
+// The report of that name in the map's folder, whose reports are listed.
+std::optional<fs::path> FindReport(const GameChoice& choice, const FileNames& listed,
+                                   const std::string& report) {
+  const std::optional<std::string> name = NameAmong(listed, report);
+  if (!name) return std::nullopt;
+  return Beside(choice, *name);
+}
+
+void UseNewReports(GameChoice& choice, const FileNames& listed) {
   choice.ReportStyle = kNewReportStyle;
   for (int row = 1; row <= kMaxPlayers; ++row) {
-    const auto report = FindFile(Beside(choice, ReportFileName(choice, row)));
+    const auto report = FindReport(choice, listed, ReportFileName(choice, row));
     if (!report) continue;
     choice.ReportFiles[Index(row)] = {.Path = *report, .Included = "1", .Year = ""};
     if (choice.MyRaceRow == 0) choice.MyRaceRow = row;
   }
 }
 
-bool AnyNewReport(const GameChoice& choice) {
+bool AnyNewReport(const GameChoice& choice, const FileNames& listed) {
   for (int row = 0; row <= kMaxPlayers; ++row) {
-    if (FindFile(Beside(choice, ReportFileName(choice, row)))) return true;
+    if (NameAmong(listed, ReportFileName(choice, row))) return true;
   }
   return false;
 }
@@ -73,15 +83,16 @@ void ChooseMap(GameChoice& choice, const fs::path& mapFile) {
 
 bool FindReportFiles(GameChoice& choice, const std::string& gameYear, const AskForNewStyle& ask) {
   const std::string pattern = BaseNameOf(choice.MapFilePath) + ".P";
-  if (FilesNamedLike(choice.MapFilePath.parent_path(), pattern, "").empty()) return false;
+  const FileNames listed = FilesNamedLike(choice.MapFilePath.parent_path(), pattern, "");
+  if (listed.empty()) return false;
   choice.ReportFiles.fill(ReportFileSlot());
-  std::optional<fs::path> oldReport = FindFile(Beside(choice, OldReportFileName(choice)));
-  if (oldReport && AnyNewReport(choice) && ask()) oldReport.reset();
+  std::optional<fs::path> oldReport = FindReport(choice, listed, OldReportFileName(choice));
+  if (oldReport && AnyNewReport(choice, listed) && ask()) oldReport.reset();
   choice.MyRaceRow = 0;
   if (oldReport) {
     UseOldReport(choice, *oldReport, gameYear);
   } else {
-    UseNewReports(choice);
+    UseNewReports(choice, listed);
   }
   return true;
 }

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QAction>
+#include <tuple>
 
 #include "platform/toolkit/twips.h"
 #include "ui/details_panel.h"
@@ -40,6 +41,42 @@ TEST_F(LoadedGameTest, KeepsTheGameOnScreenWhenAnotherCannotBeLoaded) {
   EXPECT_EQ(prompts.Shown(), Texts{"Demo.MAP, line 2: the planet number is no number: nothing"});
   EXPECT_EQ(Map(), before);
   EXPECT_EQ(window.Session().PlayerCount, 2);
+}
+
+// What other programs may do to a file once it was chosen.
+TEST_F(LoadedGameTest, KeepsTheGameOnScreenWhenAFileChangesBeforeItIsRead) {
+  const auto remove = [](const std::filesystem::path& file) { std::filesystem::remove(file); };
+  const auto empty = [](const std::filesystem::path& file) {
+    std::filesystem::resize_file(file, 0);
+  };
+  const auto replace = [](const std::filesystem::path& file) {
+    std::filesystem::remove(file);
+    std::filesystem::create_directory(file);
+  };
+  const std::tuple<const char*, void (*)(const std::filesystem::path&), const char*> cases[] = {
+      {"Demo.MAP", remove, "Demo.MAP: there is no such file"},
+      {"Demo.MAP", empty, "Demo.MAP, line 2: a planet was expected here, the map has none"},
+      {"Demo.MAP", replace, "Demo.MAP: there is no such file"},
+      {"Demo.P3", remove, "Demo.P3: there is no such file"},
+      {"Demo.P3", empty, "Demo.P3, line 1: the heading of a planet report was expected"},
+      {"Demo.P3", replace, "Demo.P3: there is no such file"}};
+  driver.Click("OvButt(4)");
+  window.ProgressBar1->hide();  // it alone changes
+  const QImage shown = window.grab().toImage();
+  for (const auto& [name, change, message] : cases) {
+    const std::string content = folder.Read(name);
+    change(folder / name);
+    window.LoadChosenGame();
+    const Texts told = prompts.Shown();
+    ASSERT_EQ(told.size(), 1U) << message;
+    EXPECT_NE(told[0].find(message), std::string::npos) << told[0];
+    EXPECT_TRUE(window.grab().toImage() == shown) << message;
+    EXPECT_EQ(window.Session().PlanetTable.size(), 5U);
+    remove(folder / name);
+    folder.Write(name, content);
+  }
+  window.LoadChosenGame();
+  EXPECT_EQ(prompts.Shown(), Texts());
 }
 
 TEST_F(LoadedGameTest, ButtonsAndMenuItemsSwitchTogether) {

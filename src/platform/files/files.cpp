@@ -86,12 +86,18 @@ std::optional<fs::path> FindFile(const fs::path& path) {
   std::error_code error;
   if (fs::is_regular_file(path, error)) return path;
   const std::string wanted = TextFromPath(path.filename());
-  // The first in alphabetical order, so that the choice does not depend on the folder's own order.
-  const std::vector<std::string> names = FilesNamedLike(path.parent_path(), wanted, "");
-  const auto found = std::ranges::find_if(
-      names, [&](const std::string& name) { return name.size() == wanted.size(); });
-  if (found == names.end()) return std::nullopt;
+  const auto found = NameAmong(FilesNamedLike(path.parent_path(), wanted, ""), wanted);
+  if (!found) return std::nullopt;
   return path.parent_path() / PathFromText(*found);
+}
+
+std::optional<std::string> NameAmong(const std::vector<std::string>& names,
+                                     std::string_view wanted) {
+  if (std::ranges::find(names, wanted) != names.end()) return std::string(wanted);
+  // The first in alphabetical order, so that the choice does not depend on the folder's own order.
+  const auto found = std::ranges::find_if(
+      names, [&](const std::string& name) { return EqualIgnoringCase(name, wanted); });
+  return found != names.end() ? std::optional(*found) : std::nullopt;
 }
 
 fs::path FolderIgnoringCase(const fs::path& parent, std::string_view name) {

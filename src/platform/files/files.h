@@ -23,6 +23,11 @@ std::string TextFromPath(const std::filesystem::path& path);
 /// @return nothing when there is no such file
 std::optional<std::filesystem::path> FindFile(const std::filesystem::path& path);
 
+/// The same among the names that a folder lists in alphabetical order, for those who look for many
+/// of its files: a folder may hold thousands and lie behind a slow network.
+std::optional<std::string> NameAmong(const std::vector<std::string>& names,
+                                     std::string_view wanted);
+
 /// The subfolder of that name: an exact name wins, otherwise one that differs only in case; the
 /// name as it stands when there is neither.
 std::filesystem::path FolderIgnoringCase(const std::filesystem::path& parent,

@@ -1,11 +1,11 @@
 #include <gtest/gtest.h>
 #include <signal.h>
-#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include "platform/files/files.h"
 #include "support/temp_folder.h"
+#include "support/write_faults.h"
 
 namespace quorvane {
 namespace {
@@ -18,19 +18,10 @@ void ExpectFailure(const Result<void>& replaced, const fs::path& path, const cha
   EXPECT_NE(message.find(reason), message.npos) << message;
 }
 
-// Writes while no file may grow beyond half of it. At that size writing fails, as it does on a full
-// disk, when the signal is ignored; otherwise the process ends in mid-file.
 Result<void> ReplaceWithinLimit(const fs::path& path, void (*atLimit)(int)) {
   const std::string content(1 << 20, 'x');
-  rlimit old = {};
-  getrlimit(RLIMIT_FSIZE, &old);
-  const rlimit half = {.rlim_cur = content.size() / 2, .rlim_max = old.rlim_max};
-  const auto before = signal(SIGXFSZ, atLimit);
-  setrlimit(RLIMIT_FSIZE, &half);
-  const Result<void> replaced = ReplaceFile(path, content);
-  setrlimit(RLIMIT_FSIZE, &old);
-  signal(SIGXFSZ, before);
-  return replaced;
+  const FullDisk disk(content.size() / 2, atLimit);
+  return ReplaceFile(path, content);
 }
 
 TEST(FileFaults, NameFileAndReasonWhereNothingCanBeWritten) {
@@ -64,22 +55,6 @@ TEST(FileFaults, LeaveTheOldFileWholeWhenTheProgramDiesWhileWriting) {
   ASSERT_TRUE(ReplaceFile(path, "new"));  // what the dead one left is no hindrance
   EXPECT_EQ(FilesNamedLike(folder.Path(), "", ""), std::vector<std::string>{"Demo.QVD"});
 }
-
-// Nothing is protected against root, who therefore tests as somebody else.
-class OrdinaryUser {
- public:
-  OrdinaryUser() {
-    if (geteuid() == 0) isChanged_ = seteuid(kNobody) == 0;
-  }
-  ~OrdinaryUser() {
-    const bool isBack = !isChanged_ || seteuid(0) == 0;
-    EXPECT_TRUE(isBack);
-  }
-
- private:
-  static constexpr uid_t kNobody = 65534;
-  bool isChanged_ = false;
-};
 
 TEST(FileFaults, RespectWriteProtection) {
   const OrdinaryUser user;

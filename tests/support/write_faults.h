@@ -1,0 +1,50 @@
+#pragma once
+
+#include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/resource.h>
+#include <unistd.h>
+
+namespace quorvane {
+
+/// Nothing is protected against root, who therefore tests as somebody else while this lives.
+class OrdinaryUser {
+ public:
+  OrdinaryUser() {
+    if (geteuid() == 0) isChanged_ = seteuid(kNobody) == 0;
+  }
+  ~OrdinaryUser() {
+    const bool isBack = !isChanged_ || seteuid(0) == 0;
+    EXPECT_TRUE(isBack);
+  }
+  OrdinaryUser(const OrdinaryUser&) = delete;
+  OrdinaryUser& operator=(const OrdinaryUser&) = delete;
+
+ private:
+  static constexpr uid_t kNobody = 65534;
+  bool isChanged_ = false;
+};
+
+/// While this lives, no file may grow beyond a size. At that size writing fails, as it does on a
+/// full disk, when the signal is ignored; otherwise the process ends in mid-file.
+class FullDisk {
+ public:
+  explicit FullDisk(rlim_t largestFile, void (*atLimit)(int) = SIG_IGN)
+      : before_(signal(SIGXFSZ, atLimit)) {
+    getrlimit(RLIMIT_FSIZE, &old_);
+    const rlimit limit = {.rlim_cur = largestFile, .rlim_max = old_.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &limit);
+  }
+  ~FullDisk() {
+    setrlimit(RLIMIT_FSIZE, &old_);
+    signal(SIGXFSZ, before_);
+  }
+  FullDisk(const FullDisk&) = delete;
+  FullDisk& operator=(const FullDisk&) = delete;
+
+ private:
+  void (*before_)(int);
+  rlimit old_ = {};
+};
+
+}  // namespace quorvane
