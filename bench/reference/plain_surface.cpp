@@ -72,8 +72,9 @@ void PlainSurface::Circle(SurfacePoint centre, double radius, Colour colour) {
   const double outer = middle + halfOutline;
   const double inner = middle - halfOutline;
   // So small that it may lie between the centres of all pixels.
-  if (hasOutline && outer < std::sqrt(0.5)) {
-    Put(Floor(at.x()), Floor(at.y()), colour);
+  if (outer < std::sqrt(0.5)) {
+    const bool isSeen = outer > 0 && (hasOutline || pen_.Filled);
+    if (isSeen) Put(Floor(at.x()), Floor(at.y()), hasOutline ? colour : fillColour_);
     return;
   }
   for (int y = Floor(at.y() - outer); y <= at.y() + outer; ++y) {
@@ -113,6 +114,8 @@ int PlainSurface::DevicePenWidth() const { return std::max(qRound(pen_.Width * r
 QFont PlainSurface::Font() const {
   QFont font(QStringLiteral("Arial"));
   font.setPointSizeF(fontPoints_);
+  font.setStyleStrategy(QFont::NoAntialias);
+  font.setHintingPreference(QFont::PreferFullHinting);
   return {font, &picture_};
 }
 

@@ -134,6 +134,8 @@ TextLayouts& PictureSurface::Texts() const {
   if (texts_.size() >= kMostSizes) texts_.clear();
   QFont font(QStringLiteral("Arial"));
   font.setPointSizeF(fontPoints_);
+  font.setStyleStrategy(QFont::NoAntialias);  // every pixel in the colour that was asked for
+  font.setHintingPreference(QFont::PreferFullHinting);
   return texts_.emplace(fontPoints_, QFont(font, &picture_)).first->second;
 }
 

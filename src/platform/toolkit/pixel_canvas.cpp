@@ -193,8 +193,9 @@ void PixelCanvas::Circle(QPointF centre, double radius, double outlineWidth,
   if (!std::isfinite(centre.x()) || !std::isfinite(centre.y()) || !(radius >= 0)) return;
   const double halfOutline = outline ? outlineWidth / 2 : 0;
   const double outer = radius + halfOutline;
-  if (outline && outer < kHalfPixelDiagonal) {
-    Dot(centre.x(), centre.y(), DotMask(1, width_), *outline);
+  if (outer < kHalfPixelDiagonal) {
+    const std::optional<QRgb> colour = outline ? outline : fill;
+    if (outer > 0 && colour) Dot(centre.x(), centre.y(), DotMask(1, width_), *colour);
     return;
   }
   const int top = static_cast<int>(std::clamp(centre.y() - outer, 0.0, 1.0 * height_));

@@ -50,7 +50,7 @@ class PixelCanvas {
   /// pixels it has. A line to something infinite draws nothing.
   void Line(QPointF from, QPointF to, const DotMask& mask, QRgb colour);
   /// A circle with an outline centred on the radius and a filled inside, either of which may be
-  /// missing. However small it is, an outline shows at least one pixel.
+  /// missing. However small it is, unless it is nothing, it shows at least one pixel.
   void Circle(QPointF centre, double radius, double outlineWidth, std::optional<QRgb> outline,
               std::optional<QRgb> fill);
 

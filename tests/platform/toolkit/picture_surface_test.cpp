@@ -54,6 +54,7 @@ TEST(PictureSurface, CirclesHaveAnOutlineOfThePensWidthAroundTheFillHoweverLarge
       {{.Width = 2}, {2.5, 2.5}, 1.5, ".RRR./RRRRR/RR.RR/RRRRR/.RRR."},
       {{.Filled = true}, {1.02, 1.98}, 0, "...../.R.../...../...../....."},
       {kDiscs, {1.02, 1.98}, 0, "...../...../...../...../....."},
+      {kDiscs, {1.02, 1.98}, 0.01, "...../.B.../...../...../....."},
       {kDiscs, {-1e8, 1.5}, 1e8 + 2, "BB.../BB.../BB.../BB.../BB..."}};
   for (const auto& [pen, centre, radius, expected] : cases) {
     PictureSurface surface = SmallPicture(5, 5);
@@ -137,7 +138,9 @@ TEST(PictureText, HangsFromItsTopLeftCornerAndIsAsWideAsItSaysAtEveryDensity) {
     QRect inked;
     for (int y = 0; y < 60 * ratio; ++y) {
       for (int x = 0; x < 200 * ratio; ++x) {
-        if ((surface.Picture().pixel(x, y) & 0xFFFFFF) != 0) inked |= QRect(x, y, 1, 1);
+        const QRgb pixel = surface.Picture().pixel(x, y);
+        ASSERT_TRUE(pixel == qRgb(0, 0, 0) || pixel == qRgb(255, 255, 255));
+        if (pixel != qRgb(0, 0, 0)) inked |= QRect(x, y, 1, 1);
       }
     }
     EXPECT_NEAR(inked.left(), 20 * ratio, 4 * ratio);
