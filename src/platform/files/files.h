@@ -39,10 +39,12 @@ std::vector<std::string> FilesNamedLike(const std::filesystem::path& folder, std
                                         std::string_view end);
 
 /// The decoded text of a file, found as `FindFile` finds it. Fails with name and reason for a file
-/// that is missing, no plain file, unreadable or larger than `kLargestTextFile`.
+/// that is missing, no plain file, unreadable or larger than `kLargestTextFile`, or that holds a
+/// zero byte.
 Result<std::string> ReadTextFile(const std::filesystem::path& path);
 
-/// The same for a file that need not be there: a missing one gives an empty text.
+/// The same for one of the program's own files: a missing one gives an empty text, and zero bytes,
+/// as a crash of the system leaves them, are characters as good as others.
 Result<std::string> ReadOptionalTextFile(const std::filesystem::path& path);
 
 /// Replaces a file whole: the new content is written beside it, flushed and renamed over it, so
@@ -50,7 +52,7 @@ Result<std::string> ReadOptionalTextFile(const std::filesystem::path& path);
 /// keeps its name, one that is protected against writing its content. Fails with name and reason.
 Result<void> ReplaceFile(const std::filesystem::path& path, std::string_view content);
 /// Replaces a file by a text that may have failed to come about; it then stays untouched, as it
-/// does where `ReadTextFile` would refuse the text.
+/// does where the text would be too large to be read.
 Result<void> SaveText(const std::filesystem::path& path, const Result<std::string>& text);
 
 }  // namespace quorvane

@@ -50,10 +50,8 @@ TEST(ReplaceFile, ReplacesWholeFilesUnderTheirOwnNameOrLeavesThemAsTheyWere) {
 
 TEST(SaveText, WritesNothingThatCouldNotBeReadBack) {
   const TempFolder folder;
-  for (const std::string& text : {std::string(kLargestTextFile + 1, 'x'), std::string(1, '\0')}) {
-    EXPECT_FALSE(SaveText(folder / "Demo.QVD", text));
-    EXPECT_FALSE(FindFile(folder / "Demo.QVD"));
-  }
+  EXPECT_FALSE(SaveText(folder / "Demo.QVD", std::string(kLargestTextFile + 1, 'x')));
+  EXPECT_FALSE(FindFile(folder / "Demo.QVD"));
   EXPECT_TRUE(SaveText(folder / "Demo.QVD", std::string(kLargestTextFile, 'x')));
 }
 
