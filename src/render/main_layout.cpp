@@ -1,5 +1,7 @@
 #include "render/main_layout.h"
 
+#include "model/rounding.h"
+
 namespace quorvane {
 namespace {
 
@@ -29,14 +31,15 @@ TwipRect SwatchRect(int row, int left) {
 
 void LayOutStatusLine(MainLayout& layout, int top) {
   const int mapWidth = layout.Universe.Width;
-  layout.XYCoord = {.Left = 0, .Top = top, .Width = mapWidth / 5, .Height = kStatusHeight};
+  layout.XYCoord = {
+      .Left = 0, .Top = top, .Width = ToWhole32(mapWidth / 5.0), .Height = kStatusHeight};
   layout.ThePlanet = {.Left = layout.XYCoord.Width + 50,
                       .Top = top,
-                      .Width = static_cast<int>(mapWidth / 3.3),
+                      .Width = ToWhole32(mapWidth / 3.3),
                       .Height = kStatusHeight};
   layout.ProgressBar = {.Left = layout.ThePlanet.Width + layout.XYCoord.Width + 100,
                         .Top = top,
-                        .Width = static_cast<int>(mapWidth / 2.05),
+                        .Width = ToWhole32(mapWidth / 2.05),
                         .Height = kStatusHeight};
 }
 

@@ -151,10 +151,6 @@ void Main::ConnectMenus() {
   connect(Menu.mnuGrid2, &QAction::triggered, this, &Main::mnuGrid2_Click);
   connect(Menu.mnuAbout, &QAction::triggered, this, &Main::mnuAbout_Click);
   connect(Menu.mnuThanks, &QAction::triggered, this, &Main::mnuThanks_Click);
-  // A picture or colours to save exist once a game is loaded.
-  for (QAction* item : {Menu.mnuSave, Menu.mnuSaveRaceC}) {
-    item->setEnabled(false);
-  }
 }
 
 void Main::resizeEvent(QResizeEvent* event) {
@@ -178,11 +174,8 @@ void Main::Form_Resize() {
                            .Height = layout->ProgressBar.Bottom()};
   area_->resize(AreaSize(scroll_->size(), PixelRect(needed).size(),
                          style()->pixelMetric(QStyle::PM_ScrollBarExtent)));
-  const QRect map = PixelRect(layout->Universe);
-  QRect detail = PixelRect(layout->Detail);
-  detail.moveBottom(map.bottom());  // lined up to the pixel, whatever the rounding
-  Map->Place(map);
-  Detail->setGeometry(detail);
+  Map->Place(PixelRect(layout->Universe));
+  Detail->setGeometry(PixelRect(layout->Detail));
   XYCoord->setGeometry(PixelRect(layout->XYCoord));
   theplanet->setGeometry(PixelRect(layout->ThePlanet));
   ProgressBar1->setGeometry(PixelRect(layout->ProgressBar));

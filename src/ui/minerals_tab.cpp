@@ -7,11 +7,11 @@
 #include "render/mineral_charts.h"
 #include "render/palette.h"
 #include "ui/controls.h"
+#include "ui/pixel_rect.h"
 
 namespace quorvane {
 namespace {
 
-constexpr int kTabStrip = 390;  // the height of the tabs, in twips of the whole panel
 constexpr int kPieSide = 1680;
 constexpr int kPieTop = 735;
 constexpr int kBarFoot = 2400;
@@ -19,10 +19,8 @@ constexpr int kBarWidth = 315;
 constexpr const char* kViewAsBars = "View as Bar Chart";
 constexpr const char* kViewAsPies = "View as Pie Chart";
 
-// Puts a control where the panel's own twips say; the page begins below the tabs.
 void Place(QWidget& widget, int left, int top, int width, int height) {
-  widget.setGeometry(PixelsFromTwips(left), PixelsFromTwips(top - kTabStrip),
-                     PixelsFromTwips(width), PixelsFromTwips(height));
+  widget.setGeometry(PixelRect({.Left = left, .Top = top, .Width = width, .Height = height}));
 }
 
 PieChart* NewPie(const char* name, const QString& accessibleName, int left, QWidget* page) {
@@ -47,7 +45,7 @@ constexpr std::array<Bar, 3> kStoredBars = {{{"MSI", 2880, kIroniumColour},
 
 void SetBarHeight(QWidget& bar, int left, double height) {
   const int pixels = PixelsFromTwips(height);
-  const int foot = PixelsFromTwips(kBarFoot - kTabStrip);
+  const int foot = PixelsFromTwips(kBarFoot);
   bar.setGeometry(PixelsFromTwips(left), foot - pixels, PixelsFromTwips(kBarWidth), pixels);
 }
 
@@ -101,24 +99,39 @@ void FillTable(QWidget& table) {
 
 }  // namespace
 
-MineralsTab::MineralsTab(QWidget* parent) : QWidget(parent) {
-  QLabel* concentration = NewHeading("< Conc.", this);
-  QLabel* stored = NewHeading("Stored >", this);
+MineralsTab::MineralsTab(QTabWidget* panel) : QWidget(panel), panel_(*panel) {
+  plane_ = new QWidget(this);
+  QLabel* concentration = NewHeading("< Conc.", plane_);
+  QLabel* stored = NewHeading("Stored >", plane_);
   stored->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   Place(*concentration, 120, 450, 900, 255);
   Place(*stored, 3480, 450, 900, 255);
-  ChartType = NewButton("ChartType", kViewAsBars, this);
+  ChartType = NewButton("ChartType", kViewAsBars, plane_);
   ChartType->setEnabled(false);
   Place(*ChartType, 1290, 420, 1935, 300);
-  Pie1 = NewPie("Pie1", tr("Mineral concentrations"), 150, this);
-  Pie2 = NewPie("Pie2", tr("Stored minerals"), 2670, this);
-  ConcentrationBars = NewBars(kConcentrationBars, this);
-  StoredBars = NewBars(kStoredBars, this);
+  Pie1 = NewPie("Pie1", tr("Mineral concentrations"), 150, plane_);
+  Pie2 = NewPie("Pie2", tr("Stored minerals"), 2670, plane_);
+  ConcentrationBars = NewBars(kConcentrationBars, plane_);
+  StoredBars = NewBars(kStoredBars, plane_);
   connect(ChartType, &QPushButton::clicked, this, &MineralsTab::ChartType_Click);
 
-  auto* table = new QWidget(this);
+  auto* table = new QWidget(plane_);
   FillTable(*table);
   Place(*table, 0, 2475, 4485, 1170);
+}
+
+// A page begins below the tabs, whose height is the system's choice; the plane begins where the
+// panel does.
+void MineralsTab::AlignPlane() { plane_->setGeometry({mapFrom(&panel_, QPoint()), panel_.size()}); }
+
+void MineralsTab::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  AlignPlane();
+}
+
+void MineralsTab::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  AlignPlane();
 }
 
 void MineralsTab::ShowCharts(const PlanetRecord& planet) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QPushButton>
+#include <QTabWidget>
 #include <QWidget>
 #include <array>
 
@@ -15,7 +16,7 @@ class MineralsTab : public QWidget {
   Q_OBJECT
 
  public:
-  explicit MineralsTab(QWidget* parent);
+  explicit MineralsTab(QTabWidget* panel);
 
   /// Draws a planet's charts. The table's labels are filled by the panel, with all other texts.
   void ShowCharts(const PlanetRecord& planet);
@@ -33,8 +34,16 @@ class MineralsTab : public QWidget {
   /// The charts were switched; the map takes the focus.
   void ChartsSwitched();
 
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+  void showEvent(QShowEvent* event) override;
+
  private:
+  void AlignPlane();
   void ChartType_Click();
+
+  QTabWidget& panel_;
+  QWidget* plane_ = nullptr;  // carries the controls, which stand where the panel's twips say
 };
 
 }  // namespace quorvane

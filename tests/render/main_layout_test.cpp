@@ -11,8 +11,8 @@ TEST(LayOutMain, FollowsTheWindowsHeightAndWidth) {
   EXPECT_EQ(layout->Universe, (TwipRect{0, 560, 11315, 11315}));
   EXPECT_EQ(layout->Detail, (TwipRect{11390, 8170, 4515, 3705}));
   EXPECT_EQ(layout->XYCoord, (TwipRect{0, 11880, 2263, 285}));
-  EXPECT_EQ(layout->ThePlanet, (TwipRect{2313, 11880, 3428, 285}));
-  EXPECT_EQ(layout->ProgressBar, (TwipRect{5791, 11880, 5519, 285}));
+  EXPECT_EQ(layout->ThePlanet, (TwipRect{2313, 11880, 3429, 285}));
+  EXPECT_EQ(layout->ProgressBar, (TwipRect{5792, 11880, 5520, 285}));
   EXPECT_EQ(layout->Race[7], (TwipRect{14640, 3000, 1545, 255}));
   EXPECT_EQ(layout->RaceC[8], (TwipRect{18435, 840, 645, 330}));
 }
