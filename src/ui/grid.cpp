@@ -24,8 +24,8 @@ constexpr int kRowPadding = 6;
 constexpr double kFontSize = 8;
 
 void SetBehaviour(QTableView& table) {
-  table.setSelectionBehavior(QAbstractItemView::SelectRows);
-  table.setSelectionMode(QAbstractItemView::SingleSelection);
+  // A highlighted row would hide its owner's colour; the current cell has its frame.
+  table.setSelectionMode(QAbstractItemView::NoSelection);
   table.setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
   table.setWordWrap(false);
   table.setCornerButtonEnabled(false);

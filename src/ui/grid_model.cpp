@@ -26,7 +26,7 @@ void GridModel::Show(PlanetGrid grid) {
 
 QString GridModel::Heading(int column) const {
   const PlanetGridColumn& shown = grid_.Columns.at(static_cast<std::size_t>(column));
-  return ToQString(shown.Heading).replace("\r\n", "\n");
+  return ToQString(shown.Heading);
 }
 
 const PlanetGridRow& GridModel::ShownRow(int row) const {

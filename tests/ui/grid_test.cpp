@@ -87,12 +87,11 @@ TEST_F(GridTest, ClickOnAHeadingSortsWholeRowsByButton) {
   EXPECT_EQ(first.data(Qt::ForegroundRole).value<QBrush>().color(), QColor(Qt::white));
 }
 
-TEST_F(GridTest, KeysSortByTheCurrentColumnAndTheSelectionStaysOnItsPlanet) {
+TEST_F(GridTest, KeysSortByTheCurrentColumnAndTheCursorStaysOnItsPlanet) {
   grid.DG->setCurrentIndex(grid.DG->model()->index(0, kName));
   QTest::keyClick(grid.DG, Qt::Key_Down, Qt::ControlModifier);
   EXPECT_EQ(Column(kName), "Gamma,delta,Beta,alpha");
   EXPECT_EQ(grid.DG->currentIndex().data(), "delta");
-  EXPECT_TRUE(grid.DG->selectionModel()->isRowSelected(1));
   QTest::keyClick(grid.DG, Qt::Key_Up, Qt::ControlModifier);
   EXPECT_EQ(Column(kName), "alpha,Beta,delta,Gamma");
   QTest::keyClick(grid.DG, Qt::Key_Escape);
@@ -112,7 +111,7 @@ TEST_F(GridTest, ClickBelowTheHeadingOrADragOfItsEdgeSortsNothing) {
 
 TEST_F(GridTest, ChooserHidesAndShowsColumnsAtOnceUntilTheNextFilling) {
   UseChooser(Qt::Key_Return, [&](QListWidget& list) {
-    EXPECT_EQ(list.item(25)->text(), "Halvorane\nEst Hab %");
+    EXPECT_EQ(list.item(25)->text(), "Halvorane\r\nEst Hab %");
     QTest::keyClick(&list, Qt::Key_Space);
     EXPECT_EQ(grid.ColumnWidth(kX), 0);
     for (const int width : {0, 960}) {
