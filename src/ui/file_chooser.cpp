@@ -1,7 +1,9 @@
 #include "ui/file_chooser.h"
 
 #include <QDir>
+#include <QKeyEvent>
 #include <QMouseEvent>
+#include <QSignalBlocker>
 #include <QStorageInfo>
 #include <QStyle>
 
@@ -32,6 +34,21 @@ void ChoiceList::mouseReleaseEvent(QMouseEvent* event) {
   if (!isPressed_) return;
   isPressed_ = false;
   if (currentItem() != nullptr && itemAt(event->position().toPoint()) != nullptr) emit Chosen();
+}
+
+// The list makes its first entry the current one when it gets the focus. That is no choice yet; the
+// space bar makes it one.
+void ChoiceList::focusInEvent(QFocusEvent* event) {
+  const QSignalBlocker noChoice(this);
+  QListWidget::focusInEvent(event);
+}
+
+void ChoiceList::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Space && currentItem() != nullptr) {
+    emit Chosen();
+  } else {
+    QListWidget::keyPressEvent(event);
+  }
 }
 
 FolderList::FolderList(QWidget* parent) : QListWidget(parent) {
@@ -107,6 +124,7 @@ void DriveList::SelectDriveOf(const std::filesystem::path& folder) {
       bestLength = root.size();
     }
   }
+  const QSignalBlocker noChoice(this);  // the folder stays
   if (best >= 0) setCurrentIndex(best);
 }
 

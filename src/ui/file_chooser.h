@@ -6,7 +6,7 @@
 
 namespace quorvane {
 
-/// A list whose entries are chosen with one click or with the arrow keys.
+/// A list whose entries are chosen with one click, the arrow keys or the space bar.
 class ChoiceList : public QListWidget {
   Q_OBJECT
 
@@ -20,6 +20,8 @@ class ChoiceList : public QListWidget {
  protected:
   void mousePressEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
 
  private:
   bool isPressed_ = false;

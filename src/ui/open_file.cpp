@@ -98,7 +98,6 @@ void OpenFile::AddSettings(QBoxLayout& column) {
   auto* yearRow = new QHBoxLayout();
   QLabel* yearLabel = NewLabel("Label2", "Current Game Year:", this);
   txtGameYear = Named(new QLineEdit(this), "txtGameYear", tr("Current game year"));
-  txtGameYear->setMaxLength(10);
   txtGameYear->setFixedWidth(80);
   yearLabel->setBuddy(txtGameYear);
   yearRow->addWidget(yearLabel);
@@ -110,7 +109,6 @@ void OpenFile::AddSettings(QBoxLayout& column) {
   frame->setObjectName("Frame1");
   auto* frameRow = new QHBoxLayout(frame);
   txtSOI = Named(new QLineEdit("100", frame), "txtSOI", tr("Sphere of influence in light years"));
-  txtSOI->setMaxLength(10);
   txtSOI->setFixedWidth(60);
   QLabel* advice = NewLabel(
       "Label4",
@@ -144,7 +142,7 @@ void OpenFile::AddButtons(QBoxLayout& column) {
 }
 
 void OpenFile::ConnectControls() {
-  connect(Drive1, &QComboBox::activated, this, &OpenFile::Drive1_Change);
+  connect(Drive1, &QComboBox::currentIndexChanged, this, &OpenFile::Drive1_Change);
   connect(Dir1, &FolderList::FolderChanged, this, &OpenFile::Dir1_Change);
   connect(Dir1, &FolderList::FolderRefused, this, [this](const QString& folder) {
     prompts_.Inform(ToText(tr("The folder %1 cannot be opened.").arg(folder)));
@@ -185,7 +183,6 @@ void OpenFile::Dir1_Change() {
   RemRace->hide();
   Rows->HideAll();
   Label1->hide();
-  PLALabelText->hide();
 }
 
 void OpenFile::File1_Click() {

@@ -45,7 +45,6 @@ void ReportRows::AddRow(int row) {
   player->setToolTip(tr("This report is my own race's"));
   year->setAccessibleName(tr("Year of report %1").arg(row));
   year->setToolTip(tr("Year of this report; left empty, it is the current game year"));
-  year->setMaxLength(10);
   year->setFixedWidth(kYearWidth);
   Player[Index(row)] = player;
   Check1[Index(row)] = check;

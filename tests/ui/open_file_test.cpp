@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
+#include <QFocusEvent>
 #include <QListWidget>
 
 #include "support/game_folder.h"
@@ -105,6 +107,14 @@ TEST_F(OpenFileTest, ForgetsTheMapWhenTheFolderChanges) {
   EXPECT_FALSE(driver.IsEnabled("Command1") || driver.IsEnabled("SaveYears"));
   EXPECT_FALSE(driver.IsVisible("RemRace") || driver.IsVisible("Check1(1)"));
   EXPECT_EQ(state.Choice.MapDirectory, " ");
+}
+
+TEST_F(OpenFileTest, ReachingTheListByKeyboardIsNoChoiceYet) {
+  QFocusEvent arrival(QEvent::FocusIn, Qt::TabFocusReason);
+  QApplication::sendEvent(&driver.Find("File1"), &arrival);
+  EXPECT_FALSE(driver.IsEnabled("Command1"));
+  driver.Press("File1", Qt::Key_Space);
+  EXPECT_EQ(state.Choice.MapFilePath, folder / "Demo.MAP");
 }
 
 TEST_F(OpenFileTest, SaysThatAMapHasNoReports) {
