@@ -65,13 +65,19 @@ void FindPlanet::showEvent(QShowEvent* event) {
   QDialog::showEvent(event);
 }
 
-// Another game may have been loaded since the last time.
+// What was typed or chosen last stays, unless another game has been loaded since.
 void FindPlanet::FillPlanetList() {
-  PlanetList->clear();
-  for (const std::string& entry : PlanetEntries(session_)) PlanetList->addItem(ToQString(entry));
-  PlanetList->setCurrentIndex(-1);
-  PlanetList->clearEditText();
+  QStringList entries;
+  for (const std::string& entry : PlanetEntries(session_)) entries << ToQString(entry);
+  if (entries != entries_) {
+    entries_ = entries;
+    PlanetList->clear();
+    PlanetList->addItems(entries);
+    PlanetList->setCurrentIndex(-1);
+    PlanetList->clearEditText();
+  }
   PlanetList->setFocus();
+  PlanetList->lineEdit()->selectAll();
 }
 
 // The entry that was chosen, from 0; -1 when a name was typed instead.

@@ -33,7 +33,7 @@ TEST_F(FindPlanetTest, TypedNameFindsTheFirstPlanetAndAnEntryItsOwn) {
   EXPECT_FALSE(dialog.isVisible());
 
   dialog.show();
-  EXPECT_EQ(driver.Text("PlanetList"), "");
+  EXPECT_EQ(driver.Text("PlanetList"), "Twin");
   dialog.PlanetList->setCurrentIndex(2);
   driver.Click("Command1");
   EXPECT_EQ(session.SelectedX, 500);
@@ -53,6 +53,7 @@ TEST_F(FindPlanetTest, ListsThePlanetsOfTheGameOnScreenAtEachOpening) {
   session = GameBuilder().Planet("Only", {1100, 1200}).Build();
   dialog.show();
   EXPECT_EQ(dialog.PlanetList->count(), 1);
+  EXPECT_EQ(driver.Text("PlanetList"), "");
   EXPECT_EQ(dialog.ShowFoundDetails, 1);
 }
 
