@@ -76,14 +76,8 @@ void ReadShape(DrawingFields& fields, DrawingRecord& record) {
   }
 }
 
-// Whether a text would be cut, or lose blanks at its ends, when it is read without quotes.
-bool NeedsQuotes(std::string_view text) {
-  constexpr std::string_view kDroppedAtEnds = " \t";
-  if (text.empty()) return false;
-  return text.find_first_of(",\r\n") != text.npos ||
-         kDroppedAtEnds.find(text.front()) != kDroppedAtEnds.npos ||
-         kDroppedAtEnds.find(text.back()) != kDroppedAtEnds.npos;
-}
+// Whether a text would be cut when it is read without quotes.
+bool NeedsQuotes(std::string_view text) { return text.find_first_of(",\r\n") != text.npos; }
 
 std::string JoinFields(std::initializer_list<std::string> fields) {
   std::string joined;

@@ -59,7 +59,7 @@ void DrawShape(const MapShape& shape, DrawingSurface& surface) {
   const auto index = static_cast<std::size_t>(shape.ColourNumber) - 1;
   if (index >= DrawColours.size()) return;
   const Colour colour = DrawColours[index];
-  surface.SetPen(kDrawingPen);
+  if (shape.Kind != DrawingKind::Text) surface.SetPen(kDrawingPen);
   switch (shape.Kind) {
     case DrawingKind::Line:
       surface.Line(shape.At, shape.To, colour);

@@ -39,23 +39,24 @@ DrawingBoard::DrawingBoard(GameSession& session, MapPanel& map, DrawingTools& to
 void DrawingBoard::ShowLoadedGame() {
   DrawLine->hide();
   ForgetShapes();
+  tools_.StopDrawing();
   tools_.ShowSavedLayer(ToQString(session_.DrawingLayer));
+  // Drawing goes on in the colour that was used last.
+  const std::vector<DrawingRecord> layer = ParseDrawing(session_.DrawingLayer);
+  if (!layer.empty()) tools_.SelectColour(layer.back().ColourNumber);
   if (FindFile(session_.DrawingFilePath)) map_.TakeDrawingPen();
 }
 
 bool DrawingBoard::Universe_MouseDown(SurfacePoint at) {
-  switch (tools_.Tool()) {
-    case DrawingTool::StopDrawing:
-      return false;
-    case DrawingTool::Circle:
-    case DrawingTool::Line:
-      StretchBand(at);
-      return true;
-    case DrawingTool::Text:
-      AddText(at);
-      return true;
+  const DrawingTool tool = tools_.Tool();
+  if (tool == DrawingTool::StopDrawing) return false;
+  if (session_.PlanetCount == 0) return true;  // no universe to draw in yet
+  if (tool == DrawingTool::Text) {
+    AddText(at);
+  } else {
+    StretchBand(at);
   }
-  return false;
+  return true;
 }
 
 void DrawingBoard::Universe_MouseMove(SurfacePoint at) {
@@ -76,20 +77,19 @@ void DrawingBoard::StretchBand(SurfacePoint at) {
 }
 
 void DrawingBoard::AddText(SurfacePoint at) {
-  const std::optional<std::string> text =
-      prompts_.AskText("Enter Text", "Enter text to add here", "");
-  if (!text) return;
-  if (const std::optional<std::string> fault = DrawnTextFault(*text)) {
-    prompts_.Inform(*fault);
-    return;
-  }
+  const std::string text =
+      prompts_.AskText("Enter Text", "Enter text to add here", "").value_or("");
   const std::string answer =
       prompts_.AskText("Enter size", "Enter size of font (minimum 8)", "8").value_or("");
   const double size = NumericValue(answer);
-  if (text->empty() || size < kSmallestFont) return;
+  if (text.empty() || size < kSmallestFont) return;
+  if (const std::optional<std::string> fault = DrawnTextFault(text)) {
+    prompts_.Inform(*fault);
+    return;
+  }
   AddShape({.Kind = DrawingKind::Text,
             .At = at,
-            .Text = *text,
+            .Text = text,
             .Size = size,
             .ColourNumber = tools_.DrawColourIndex});
 }
@@ -122,6 +122,7 @@ void DrawingBoard::DrawShapes() {
 }
 
 void DrawingBoard::SaveQVL_Click() {
+  if (session_.PlanetCount == 0) return prompts_.Inform(kNothingToSave);
   const Result<void> saved = WriteDrawingFile(session_, ToText(tools_.PlotBox->toPlainText()));
   if (saved) tools_.LayerSaved();
   prompts_.Inform(saved ? "Saved to " + TextFromPath(session_.DrawingFilePath) : saved.Message());

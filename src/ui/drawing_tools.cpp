@@ -46,13 +46,11 @@ DrawingTools::DrawingTools(QWidget* parent) : QWidget(parent) {
   grid->addWidget(ClearQVL, 2, 1);
   grid->setRowStretch(1, 1);
   connect(PlotBox, &QPlainTextEdit::textChanged, this, &DrawingTools::PlotBox_Change);
-  EnableTools(false);
 }
 
 void DrawingTools::ShowSavedLayer(const QString& layer) {
   PlotBox->setPlainText(layer);
   LayerSaved();
-  EnableTools(true);
 }
 
 void DrawingTools::LayerSaved() {
@@ -80,20 +78,15 @@ DrawingTool DrawingTools::Tool() const {
 
 void DrawingTools::StopDrawing() { Draw[0]->setChecked(true); }
 
-void DrawingTools::ResetColour() { DColour[0]->setChecked(true); }
+void DrawingTools::SelectColour(int number) {
+  const auto index = static_cast<std::size_t>(number) - 1;
+  if (index < DColour.size()) DColour[index]->setChecked(true);
+}
 
 void DrawingTools::AddButtons() {
   SaveQVL = NewButton("SaveQVL", tr("Save QVL"), this);
   SaveQVL->setToolTip("You need to save for the lines to redraw");
   ClearQVL = NewButton("ClearQVL", tr("Clear QVL"), this);
-}
-
-void DrawingTools::EnableTools(bool isEnabled) {
-  for (QRadioButton* tool : Draw) tool->setEnabled(isEnabled);
-  for (QRadioButton* colour : DColour) colour->setEnabled(isEnabled);
-  PlotBox->setReadOnly(!isEnabled);
-  SaveQVL->setEnabled(isEnabled);
-  ClearQVL->setEnabled(isEnabled);
 }
 
 void DrawingTools::DColour_Click(int index) {

@@ -12,14 +12,14 @@ namespace quorvane {
 enum class DrawingTool { StopDrawing, Circle, Line, Text };
 
 /// The "QVL" tab: tools and colours for drawing on the map, and the drawing layer as text, which
-/// the user may edit by hand. Nothing can be drawn before a game is loaded.
+/// the user may edit by hand.
 class DrawingTools : public QWidget {
   Q_OBJECT
 
  public:
   explicit DrawingTools(QWidget* parent);
 
-  /// Shows the layer as its file has it, and lets the user draw.
+  /// Shows the layer as its file has it.
   void ShowSavedLayer(const QString& layer);
   /// What the layer holds has just been saved.
   void LayerSaved();
@@ -33,8 +33,8 @@ class DrawingTools : public QWidget {
   DrawingTool Tool() const;
   /// Selects "Stop Drawing": clicks on the map show details again.
   void StopDrawing();
-  /// Selects the first drawing colour, white.
-  void ResetColour();
+  /// Selects a drawing colour, 1 … 7; other numbers change nothing.
+  void SelectColour(int number);
 
   /// The drawing colour, 1 … 7.
   int DrawColourIndex = 1;
@@ -53,7 +53,6 @@ class DrawingTools : public QWidget {
   QWidget* NewToolList();
   QWidget* NewColourFrame();
   void AddButtons();
-  void EnableTools(bool isEnabled);
   void DColour_Click(int index);
   void PlotBox_Change();
 

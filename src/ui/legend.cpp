@@ -13,6 +13,7 @@ namespace quorvane {
 RaceSwatch::RaceSwatch(QWidget* parent) : PictureBox(parent, QSizeF(kSwatchWidth, kSwatchHeight)) {
   setToolTip("Click to Change Colour");
   setCursor(Qt::PointingHandCursor);
+  setFocusPolicy(Qt::TabFocus);  // the frame of the focus would stay behind after a click
   connect(this, &PictureBox::MouseDown, this, &RaceSwatch::Chosen);
 }
 
@@ -79,13 +80,10 @@ void Legend::ShowPlayers(const GameSession& session) {
   for (std::size_t row = 0; row < colours_.size(); ++row) PaintRow(row);
 }
 
-void Legend::ShowChangedColours(const GameSession& session) {
-  const auto before = colours_;
+void Legend::ShowChangedColour(const GameSession& session, int row) {
   TakeColours(session);
-  for (std::size_t row = 0; row < colours_.size(); ++row) {
-    if (colours_[row] != before[row]) outlines_[row] = Colour();
-    PaintRow(row);
-  }
+  outlines_.at(static_cast<std::size_t>(row)) = Colour();
+  for (std::size_t shown = 0; shown < colours_.size(); ++shown) PaintRow(shown);
 }
 
 void Legend::TakeColours(const GameSession& session) {

@@ -38,8 +38,8 @@ class Legend : public QObject {
   void Place(const MainLayout& layout);
   /// Shows the players of a newly loaded game.
   void ShowPlayers(const GameSession& session);
-  /// Shows the colours of the game again after the user changed one.
-  void ShowChangedColours(const GameSession& session);
+  /// Shows the colours of the game again after the user changed that of a row.
+  void ShowChangedColour(const GameSession& session, int row);
 
   std::array<QLabel*, kLegendRows> Race = {};
   std::array<RaceSwatch*, kLegendRows> RaceC = {};
@@ -53,7 +53,7 @@ class Legend : public QObject {
   void PaintRow(std::size_t row);
 
   std::array<Colour, kLegendRows> colours_ = {};
-  // Only swatches that were changed have an outline.
+  // Only swatches whose colour was chosen by the user have an outline.
   std::array<std::optional<Colour>, kLegendRows> outlines_ = {};
 };
 

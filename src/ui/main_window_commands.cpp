@@ -84,11 +84,7 @@ void Main::ShowLoadedGame() {
   Combo1->setCurrentIndex(session_.PlayerCount > 0 ? 0 : -1);
   Combo1->setEnabled(true);
   EnableOverlays(true);
-  const bool isNewStyle = session_.ReportStyle == kNewReportStyle;
-  Overlays->Item(OverlayKind::ValueAfterTerraforming).setEnabled(isNewStyle);
-  Overlays->Item(OverlayKind::CompleteStargateNetwork).setEnabled(isNewStyle);
-  Menu.mnuSave->setEnabled(true);
-  Menu.mnuSaveRaceC->setEnabled(true);
+  Overlays->EnableNewReportItems(session_.ReportStyle == kNewReportStyle);
   Menu.mnuData->setEnabled(true);
 }
 
@@ -135,6 +131,7 @@ void Main::mnuAbout_Click() { About(this).exec(); }
 void Main::mnuThanks_Click() { Thanksto(this).exec(); }
 
 void Main::mnuSave_Click() {
+  if (session_.PlanetCount == 0) return prompts_.Inform(kNothingToSave);
   const std::filesystem::path file = MapPictureFile(session_);
   prompts_.Inform("Map saved to " + TextFromPath(file));
   const Result<void> saved = SavePicture(file, Map->Universe->Surface().Picture());
@@ -142,6 +139,7 @@ void Main::mnuSave_Click() {
 }
 
 void Main::mnuSaveRaceC_Click() {
+  if (session_.PlanetCount == 0) return prompts_.Inform(kNothingToSave);
   const Result<void> saved = WriteRaceColourFile(session_);
   prompts_.Inform(saved ? "Current Colour settings saved" : saved.Message());
 }

@@ -68,7 +68,7 @@ void Main::RaceC_Click(int index) {
   const int slot = ColourSlotOf(session_, ToText(name));
   if (slot == 0) return;
   RaceColour dialog(session_, index, slot, name, this);
-  if (dialog.exec() == QDialog::Accepted) RaceLegend->ShowChangedColours(session_);
+  if (dialog.exec() == QDialog::Accepted) RaceLegend->ShowChangedColour(session_, index);
   session_.BordersCached = 0;
   Map->Universe2->Surface().Clear();
   DrawOverlays();
@@ -104,7 +104,7 @@ void Main::DrawOverlays() {
   }
   Board->ForgetShapes();
   DrawMap(switches);
-  if (hasDrawing) Detail->Tools->ResetColour();
+  if (hasDrawing) Detail->Tools->SelectColour(1);
 }
 
 void Main::DrawMap(OverlaySwitches switches) {

@@ -8,12 +8,6 @@
 #include "ui/texts.h"
 
 namespace quorvane {
-namespace {
-
-// The game's line end is two characters, a box's is one.
-QString ShownText(const std::string& text) { return ToQString(text).replace("\r\n", "\n"); }
-
-}  // namespace
 
 void MessageBoxPrompts::Inform(const std::string& text) {
   QMessageBox box(QMessageBox::NoIcon, kProgramName, ToQString(text), QMessageBox::Ok, Parent());
@@ -23,7 +17,7 @@ void MessageBoxPrompts::Inform(const std::string& text) {
 }
 
 bool MessageBoxPrompts::AskYesNo(const std::string& title, const std::string& question) {
-  QMessageBox box(QMessageBox::Question, ToQString(title), ShownText(question),
+  QMessageBox box(QMessageBox::Question, ToQString(title), ToQString(question),
                   QMessageBox::Yes | QMessageBox::No, Parent());
   box.setObjectName("MessageBox");
   box.setTextFormat(Qt::PlainText);
@@ -38,7 +32,7 @@ std::optional<std::string> MessageBoxPrompts::AskText(const std::string& title,
   box.setObjectName("InputBox");
   box.setWindowTitle(ToQString(title));
   // The prompt stands for the text box, so that an "&" in it would mark an access key.
-  box.setLabelText(WithoutAccessKeys(ShownText(prompt)));
+  box.setLabelText(WithoutAccessKeys(ToQString(prompt)));
   for (QLabel* label : box.findChildren<QLabel*>()) label->setTextFormat(Qt::PlainText);
   box.setTextValue(ToQString(preset));
   if (box.exec() != QDialog::Accepted || box.textValue().isEmpty()) return std::nullopt;

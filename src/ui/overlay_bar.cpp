@@ -54,6 +54,11 @@ void OverlayBar::EnableButtons(int end, bool isEnabled) {
   }
 }
 
+void OverlayBar::EnableNewReportItems(bool isEnabled) {
+  Item(OverlayKind::ValueAfterTerraforming).setEnabled(isEnabled);
+  Item(OverlayKind::CompleteStargateNetwork).setEnabled(isEnabled);
+}
+
 void OverlayBar::AddButton(QWidget& area, int index) {
   const OverlayTexts& texts = kOverlayTable[static_cast<std::size_t>(index)];
   auto* button = new QToolButton(&area);
@@ -95,6 +100,7 @@ void OverlayBar::AddItems(QMenu& menu) {
   for (std::size_t other = kOverlayButtonCount; other < kOverlayCount; ++other) {
     AddItem(others, static_cast<OverlayKind>(other));
   }
+  EnableNewReportItems(false);
   for (const int names : {0, 1}) {
     connect(&Item(kNames.at(static_cast<std::size_t>(names))), &QAction::triggered, this,
             [this, names] { mnuNames_Click(names); });

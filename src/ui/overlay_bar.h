@@ -26,6 +26,9 @@ class OverlayBar : public QObject {
   void Show(const OverlaySwitches& switches);
   /// Enables buttons 0 up to, without, `end`; the menu items that mirror them stay as they are.
   void EnableButtons(int end, bool isEnabled = true);
+  /// Enables the overlays that only new-style reports know: values after terraforming and the
+  /// complete stargate network.
+  void EnableNewReportItems(bool isEnabled);
   QAction& Item(OverlayKind kind) const { return *items_[static_cast<std::size_t>(kind)]; }
 
   std::array<QToolButton*, kOverlayButtonCount> OvButt = {};

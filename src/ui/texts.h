@@ -12,6 +12,9 @@ namespace quorvane {
 /// The title of message boxes.
 inline constexpr const char* kProgramName = "Quorvane";
 
+/// What a command that saves says while no game is loaded.
+inline constexpr const char* kNothingToSave = "There is nothing to save before a game is loaded";
+
 inline QString ToQString(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }

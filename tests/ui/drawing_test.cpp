@@ -56,8 +56,8 @@ TEST_F(DrawingTest, TextIsAskedForAndRefusedWhereItsFileCouldNotHoldIt) {
       {"Home, sweet home", "8", ",\"Home, sweet home\",8,1\n", 2},
       {"Fleet", "7.9", "", 2},
       {"Fleet", "abc", "", 2},
-      {"", "8", "", 1},
-      {"say \"hello\"", "8", "", 2}};
+      {"", "8", "", 2},
+      {"say \"hello\"", "8", "", 3}};
   driver.Click("Draw(3)");
   for (const auto& [text, size, ending, messages] : cases) {
     window.Detail->Tools->ClearLayer();
@@ -111,7 +111,7 @@ TEST_F(DrawingTest, FileThatCannotBeReadOrWrittenIsToldAndTheLayerStays) {
   EXPECT_TRUE(IsSaveWanted());
 }
 
-TEST_F(DrawingTest, ResizedMapKeepsWhatWasDrawnSinceItsRedrawAndALoadTheColour) {
+TEST_F(DrawingTest, ResizedMapKeepsWhatWasDrawnSinceItsRedrawAndALoadGoesOnInItsColour) {
   driver.Click("DColour(1)").Click("Draw(2)").ClickAt("Universe", At({1100, 1300}));
   driver.ClickAt("Universe", At({1300, 1300}));
   window.resize(1100, 700);
@@ -121,7 +121,8 @@ TEST_F(DrawingTest, ResizedMapKeepsWhatWasDrawnSinceItsRedrawAndALoadTheColour) 
   folder.Write("Demo.QVL", "C,1200,1200,40,6\r\n");
   Load();
   EXPECT_EQ(Layer(), "C,1200,1200,40,6\n");
-  EXPECT_TRUE(driver.IsDown("DColour(1)"));
+  EXPECT_TRUE(driver.IsDown("DColour(5)"));
+  EXPECT_TRUE(driver.IsDown("Draw(0)"));
   EXPECT_FALSE(IsSaveWanted());
 }
 

@@ -49,6 +49,9 @@ TEST_F(RaceColourTest, DarkColoursAreRefusedAndClosingStoresNothing) {
   });
   EXPECT_EQ(window.Session().RaceColours[0], (Colour{255, 0, 0}));
   EXPECT_EQ(Swatch("RaceC(0)"), QColor(255, 0, 0));
+  const QImage before = driver.Find("RaceC(0)").grab().toImage();
+  ChangeColour("RaceC(0)", [](RaceColour& dialog) { dialog.butOK->click(); });
+  EXPECT_NE(driver.Find("RaceC(0)").grab().toImage(), before) << "discs have outlines now";
 }
 
 TEST_F(RaceColourTest, SwatchWorksByKeyboardAndDoesNothingForAnUnknownRace) {
