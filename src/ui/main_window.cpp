@@ -8,6 +8,7 @@
 #include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QRadioButton>
+#include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QTabBar>
@@ -33,7 +34,6 @@
 namespace quorvane {
 namespace {
 
-constexpr QSize kFirstSize(1280, 860);
 // How much of the window's height lies above and below its client area on the systems whose frame
 // the layout was made for; a thicker frame must not push the status line out of sight.
 constexpr int kFrameTwips = 735;
@@ -57,6 +57,14 @@ QSize AreaSize(QSize frame, QSize needed, int scrollBar) {
   return room.expandedTo(needed);
 }
 
+// Where it can, the window opens whole on a small screen, too.
+QSize FirstSize(const QScreen& screen) {
+  constexpr QSize kWanted(1280, 860);
+  constexpr QSize kLeast(1280, 700);
+  constexpr QSize kFrame(0, 40);
+  return kWanted.boundedTo((screen.availableSize() - kFrame).expandedTo(kLeast));
+}
+
 }  // namespace
 
 Main::Main(std::filesystem::path startFolder, Prompts* prompts)
@@ -69,7 +77,7 @@ Main::Main(std::filesystem::path startFolder, Prompts* prompts)
   ConnectParts();
   ConnectMenus();
   Form_Load();
-  resize(kFirstSize);
+  resize(FirstSize(*screen()));
   qApp->installEventFilter(this);
 }
 
