@@ -4,7 +4,8 @@ function(quorvane_tests folder)
 endfunction()
 
 function(quorvane_test_program folder path)
-  file(GLOB sources CONFIGURE_DEPENDS ${path}/*_test.cpp)
+  # What only one kind of system can do is tested in a subfolder named after it.
+  file(GLOB sources CONFIGURE_DEPENDS ${path}/*_test.cpp ${path}/${QUORVANE_SYSTEM}/*_test.cpp)
   string(REPLACE "/" "_" name ${folder}_tests)
   add_executable(${name} ${sources})
   target_link_libraries(${name} PRIVATE ${ARGN})
