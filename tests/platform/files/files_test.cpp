@@ -17,6 +17,19 @@ TEST(FindFile, GivesTheNameThatAFileHasOnTheDisk) {
   EXPECT_EQ(FindFile(""), std::nullopt);
 }
 
+TEST(Files, MayHaveNamesInAnyScriptAndKeepEveryByte) {
+  const TempFolder folder;
+  const std::string content = "a\r\nb\n\n\r\x1A\tc\r";
+  for (const std::string name : {"Größe.QVD", "Łódź.QVD", "Марс.QVD", "火星.QVD", "🚀.QVD"}) {
+    ASSERT_TRUE(ReplaceFile(folder / name, "old")) << name;
+    ASSERT_TRUE(ReplaceFile(folder / name, content)) << name;
+    EXPECT_EQ(*ReadTextFile(folder / name), content) << name;
+    EXPECT_EQ(folder.Read(name), content) << name;
+    EXPECT_EQ(FilesNamedLike(folder.Path(), name, ""), std::vector{name});
+    EXPECT_TRUE(TextFromPath(folder / name).ends_with(name)) << name;
+  }
+}
+
 TEST(ReadTextFile, SaysWhatIsWrongWithAFileThatCannotBeUsed) {
   const TempFolder folder;
   folder.Write("binary", std::string("one\ntwo\n\0", 9));
