@@ -12,3 +12,9 @@ if(QUORVANE_WARNINGS_AS_ERRORS)
 endif()
 set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+
+# The kind of system that the program is for; sources and tests of one kind only are named after it.
+set(QUORVANE_SYSTEM posix)
+if(WIN32)
+  set(QUORVANE_SYSTEM windows)
+endif()

@@ -17,6 +17,9 @@ constexpr const char* kSettingsName = "Stars.ini";
 constexpr const char* kDriveRoot =
     "C:\\";  // where the search ends when the settings name no folder
 
+// How a folder of another machine begins; not every library takes it for an absolute path.
+constexpr std::string_view kServerPrefix = "\\\\";
+
 bool IsWindowsPath(std::string_view path) {
   return path.size() >= 2 && path[1] == ':' &&
          std::isalpha(static_cast<unsigned char>(path[0])) != 0;
@@ -28,7 +31,8 @@ fs::path FolderNamedIn(const SettingsPlace& place) {
   if (folder.empty()) folder = kDriveRoot;
   fs::path path =
       place.WinePrefix.empty() ? PathFromText(folder) : TranslateFromWine(folder, place.WinePrefix);
-  return path.is_relative() && !IsWindowsPath(folder) ? place.File.parent_path() / path : path;
+  const bool isWhole = IsWindowsPath(folder) || folder.starts_with(kServerPrefix);
+  return path.is_relative() && !isWhole ? place.File.parent_path() / path : path;
 }
 
 }  // namespace
@@ -63,7 +67,7 @@ std::vector<SettingsPlace> SettingsPlaces(const fs::path& home, const fs::path& 
   std::vector<SettingsPlace> places = {{.File = "C:\\WINDOWS\\STARS.INI", .WinePrefix = {}},
                                        {.File = "C:\\WINNT\\STARS.INI", .WinePrefix = {}}};
   // Newer systems keep what an old program writes into the system's folder apart for each user.
-  if (const char* local = std::getenv("LOCALAPPDATA")) {
+  if (const wchar_t* local = _wgetenv(L"LOCALAPPDATA")) {
     places.push_back(
         {.File = fs::path(local) / "VirtualStore" / "Windows" / kSettingsName, .WinePrefix = {}});
   }

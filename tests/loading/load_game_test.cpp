@@ -115,7 +115,9 @@ TEST_F(LoadGameTest, HoldsSixteenRacesAndNamesTheOthers) {
 TEST_F(LoadGameTest, FindsAGameOfAnyNameBehindALinkAmongAThousandOtherFiles) {
   for (const std::string name : {"My Game", "Größe & Würde", "a, b; c", "[x](y){z}", "  "}) {
     for (int i = 17; i < 217; ++i) folder.Write(name + ".P" + std::to_string(i), "other");
-    std::filesystem::create_symlink(folder / "Demo.MAP", folder / (name + ".MAP"));
+    std::error_code hasNoLinks;
+    std::filesystem::create_symlink(folder / "Demo.MAP", folder / (name + ".MAP"), hasNoLinks);
+    if (hasNoLinks) folder.Write(name + ".MAP", folder.Read("Demo.MAP"));
     folder.Write(name + ".P3", folder.Read("Demo.P3"));
     EXPECT_EQ(Load("", name + ".MAP").Planet(1).Population(), 100) << name;
   }

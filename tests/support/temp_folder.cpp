@@ -4,6 +4,8 @@
 #include <iterator>
 #include <random>
 
+#include "platform/files/files.h"
+
 namespace quorvane {
 
 TempFolder::TempFolder() {
@@ -19,14 +21,18 @@ TempFolder::~TempFolder() {
   std::filesystem::remove_all(path_, ignored);
 }
 
+std::filesystem::path TempFolder::operator/(std::string_view name) const {
+  return path_ / PathFromText(name);
+}
+
 std::filesystem::path TempFolder::Write(std::string_view name, std::string_view bytes) const {
-  const std::filesystem::path path = path_ / name;
+  const std::filesystem::path path = *this / name;
   std::ofstream(path, std::ios::binary) << bytes;
   return path;
 }
 
 std::string TempFolder::Read(std::string_view name) const {
-  std::ifstream file(path_ / name, std::ios::binary);
+  std::ifstream file(*this / name, std::ios::binary);
   return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
 }
 

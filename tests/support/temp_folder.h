@@ -15,7 +15,7 @@ class TempFolder {
   TempFolder& operator=(const TempFolder&) = delete;
 
   const std::filesystem::path& Path() const { return path_; }
-  std::filesystem::path operator/(std::string_view name) const { return path_ / name; }
+  std::filesystem::path operator/(std::string_view name) const;
   /// Writes a file of these bytes and gives its path.
   std::filesystem::path Write(std::string_view name, std::string_view bytes) const;
   /// The bytes of a file; empty when there is none.

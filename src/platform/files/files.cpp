@@ -3,50 +3,16 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
-#include <memory>
 #include <system_error>
 #include <utility>
 
 #include "model/text.h"
-
-#if defined(_WIN32)
-#include <io.h>
-#else
-#include <unistd.h>
-#endif
+#include "platform/files/system_files.h"
 
 namespace quorvane {
 namespace {
 
 namespace fs = std::filesystem;
-
-struct CloseFile {
-  void operator()(std::FILE* file) const { std::fclose(file); }
-};
-using OpenFileHandle = std::unique_ptr<std::FILE, CloseFile>;
-
-enum class OpenTo { Read, Write, Change };
-
-OpenFileHandle OpenForBytes(const fs::path& path, OpenTo purpose) {
-  const auto index = static_cast<std::size_t>(purpose);
-#if defined(_WIN32)
-  constexpr const wchar_t* kModes[] = {L"rb", L"wb", L"r+b"};
-  return OpenFileHandle(_wfopen(path.c_str(), kModes[index]));
-#else
-  constexpr const char* kModes[] = {"rb", "wb", "r+b"};
-  return OpenFileHandle(std::fopen(path.c_str(), kModes[index]));
-#endif
-}
-
-bool FlushToDisk(std::FILE* file) {
-  if (std::fflush(file) != 0) return false;
-#if defined(_WIN32)
-  return _commit(_fileno(file)) == 0;
-#else
-  // Some file systems cannot sync single files; that alone does not make the data wrong.
-  return fsync(fileno(file)) == 0 || errno == EINVAL || errno == ENOTSUP;
-#endif
-}
 
 Failure FileFailure(const fs::path& path, const std::string& what, const std::error_code& error) {
   return {TextFromPath(path) + ": " + what + " (" + error.message() + ")"};
@@ -95,20 +61,14 @@ Result<std::string> ReadBytes(const fs::path& path) {
 
 }  // namespace
 
-fs::path PathFromText(std::string_view text) { return {std::u8string(text.begin(), text.end())}; }
-
-std::string TextFromPath(const fs::path& path) {
-  const std::u8string text = path.u8string();
-  return {text.begin(), text.end()};
-}
-
 std::optional<fs::path> FindFile(const fs::path& path) {
   std::error_code error;
-  if (fs::is_regular_file(path, error)) return path;
+  const bool isFound = fs::is_regular_file(path, error);
+  if (isFound && SystemTellsCaseApart()) return path;
   const std::string wanted = TextFromPath(path.filename());
   const auto found = NameAmong(FilesNamedLike(path.parent_path(), wanted, ""), wanted);
-  if (!found) return std::nullopt;
-  return path.parent_path() / PathFromText(*found);
+  if (found) return path.parent_path() / PathFromText(*found);
+  return isFound ? std::optional(path) : std::nullopt;
 }
 
 std::optional<std::string> NameAmong(const std::vector<std::string>& names,

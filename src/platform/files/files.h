@@ -14,13 +14,14 @@ namespace quorvane {
 /// The largest file of text that the program reads; a game's own files are a hundred times smaller.
 inline constexpr std::uintmax_t kLargestTextFile = 8ULL * 1024 * 1024;
 
-/// Text in UTF-8 and paths, whatever the platform keeps paths in.
+/// Text in UTF-8 and paths, whatever the platform keeps paths in. Neither fails: on Windows, where
+/// not all bytes are a name and not all names are text, what has no equal is replaced.
 std::filesystem::path PathFromText(std::string_view text);
 std::string TextFromPath(const std::filesystem::path& path);
 
 /// The file that a path means: the game comes from a system that ignores the case of file names, so
 /// an exact name wins, otherwise a name in the same folder that differs only in case is the file.
-/// @return nothing when there is no such file
+/// @return the path with the name as it is written on the disk; nothing when there is no such file
 std::optional<std::filesystem::path> FindFile(const std::filesystem::path& path);
 
 /// The same among the names that a folder lists in alphabetical order, for those who look for many

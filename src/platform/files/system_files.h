@@ -1,0 +1,28 @@
+#pragma once
+
+#include <cstdio>
+#include <filesystem>
+#include <memory>
+
+namespace quorvane {
+
+// What each kind of system does in its own way, for `files.cpp` alone; `system_files_posix.cpp` and
+// `system_files_windows.cpp` each have all of it, with the conversions that `files.h` declares.
+
+struct CloseFile {
+  void operator()(std::FILE* file) const { std::fclose(file); }
+};
+using OpenFileHandle = std::unique_ptr<std::FILE, CloseFile>;
+
+enum class OpenTo { Read, Write, Change };
+
+/// Opens a file whose bytes are read and written as they stand; nothing, with `errno`, on failure.
+OpenFileHandle OpenForBytes(const std::filesystem::path& path, OpenTo purpose);
+
+/// Hands what was written on to the disk itself; false, with `errno`, on failure.
+bool FlushToDisk(std::FILE* file);
+
+/// Whether the system finds a file only under the letter case in which its name is written.
+bool SystemTellsCaseApart();
+
+}  // namespace quorvane
