@@ -52,6 +52,7 @@ void ChoiceList::keyPressEvent(QKeyEvent* event) {
 }
 
 FolderList::FolderList(QWidget* parent) : QListWidget(parent) {
+  setIconSize({16, 16});  // whatever size the desktop gives to lists
   connect(this, &QListWidget::itemActivated, this,
           [this](const QListWidgetItem* item) { Open(*item); });
 }
