@@ -44,11 +44,8 @@ void ChoiceList::focusInEvent(QFocusEvent* event) {
 }
 
 void ChoiceList::keyPressEvent(QKeyEvent* event) {
-  if (event->key() == Qt::Key_Space && currentItem() != nullptr) {
-    emit Chosen();
-  } else {
-    QListWidget::keyPressEvent(event);
-  }
+  QListWidget::keyPressEvent(event);
+  if (event->key() == Qt::Key_Space && currentItem() != nullptr) emit Chosen();
 }
 
 FolderList::FolderList(QWidget* parent) : QListWidget(parent) {

@@ -3,7 +3,9 @@
 #include <QAction>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPainter>
 #include <QShortcut>
+#include <QStyledItemDelegate>
 #include <algorithm>
 
 #include "platform/toolkit/twips.h"
@@ -23,9 +25,26 @@ constexpr int kTopAndBottomTwips = 700;
 constexpr int kRowPadding = 6;
 constexpr double kFontSize = 8;
 
+// A highlighted row would hide its owner's colour, and so would the style's mark of the current
+// cell: that one has a frame instead.
+class CellFrame : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+  void paint(QPainter* painter, const QStyleOptionViewItem& option,
+             const QModelIndex& index) const override {
+    QStyleOptionViewItem plain = option;
+    plain.state &= ~QStyle::State_HasFocus;
+    QStyledItemDelegate::paint(painter, plain, index);
+    if (!option.state.testFlag(QStyle::State_HasFocus)) return;
+    painter->setPen(option.palette.color(QPalette::Link));
+    painter->drawRect(option.rect.adjusted(0, 0, -1, -1));
+  }
+};
+
 void SetBehaviour(QTableView& table) {
-  // A highlighted row would hide its owner's colour; the current cell has its frame.
   table.setSelectionMode(QAbstractItemView::NoSelection);
+  table.setItemDelegate(new CellFrame(&table));
   table.setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
   table.setWordWrap(false);
   table.setCornerButtonEnabled(false);
