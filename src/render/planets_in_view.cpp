@@ -2,11 +2,6 @@
 
 namespace quorvane {
 
-SurfacePoint PositionOf(const PlanetRecord& planet, const MapView& view) {
-  return view.ToSurface(
-      {.X = static_cast<double>(planet.X()), .Y = static_cast<double>(planet.Y())});
-}
-
 std::vector<PlanetInView> PlanetsInView(const GameSession& session, const MapView& view) {
   std::vector<PlanetInView> planets;
   for (int number = 1; number <= session.PlanetCount; ++number) {

@@ -14,7 +14,10 @@ struct PlanetInView {
 };
 
 /// Where a planet is drawn, whether or not the view shows that place.
-SurfacePoint PositionOf(const PlanetRecord& planet, const MapView& view);
+inline SurfacePoint PositionOf(const PlanetRecord& planet, const MapView& view) {
+  return view.ToSurface(
+      {.X = static_cast<double>(planet.X()), .Y = static_cast<double>(planet.Y())});
+}
 
 /// The planets strictly inside the view's window, in planet order. They refer to the session's
 /// records.
