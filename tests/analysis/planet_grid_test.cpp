@@ -26,18 +26,6 @@ PlanetGrid GridOf(std::size_t column, const Texts& cells) {
   return grid;
 }
 
-TEST(FillPlanetGrid, HasAColumnForEachPlayerAfterTheFixedOnes) {
-  GameBuilder game;
-  for (int player = 1; player <= 16; ++player) game.Player("Race " + std::to_string(player));
-  const PlanetGrid grid = FillPlanetGrid(game.Planet("Alpha", {1500, 1500}).Build());
-  ASSERT_EQ(grid.Columns.size(), 41U);
-  EXPECT_EQ(grid.Rows.at(0).Cells.size(), 41U);
-  EXPECT_EQ(grid.Columns[8].Heading, "SOI ");
-  EXPECT_EQ(grid.Columns[24].Width, 850);
-  EXPECT_EQ(grid.Columns[40].Heading, "Race 16\r\nEst Hab %");
-  EXPECT_EQ(grid.Columns[40].Width, kDefaultColumnWidth);
-}
-
 TEST(FillPlanetGrid, ShowsFieldsAsTheyStandAndWhatFollowsFromThem) {
   using Field = PlanetField;
   const std::tuple<Field, FieldValue, std::size_t, const char*> cases[] = {
@@ -69,6 +57,11 @@ TEST(FillPlanetGrid, ColoursRowsByOwnerAndSaysWhyThereIsNoEstimate) {
   game.WithPlayerField(PlayerField::ColourSlot, 0);
   game.Planet("Free", {1500, 1500}).With(PlanetField::Radiation, "0mR");
   const PlanetGrid grid = FillPlanetGrid(game.Build());
+  ASSERT_EQ(grid.Columns.size(), kFirstEstimate + 2);
+  EXPECT_EQ(grid.Columns[8].Heading, "SOI ");
+  EXPECT_EQ(grid.Columns[24].Width, 850);
+  EXPECT_EQ(grid.Columns[26].Heading, "Colourless\r\nEst Hab %");
+  EXPECT_EQ(grid.Columns[26].Width, kDefaultColumnWidth);
   EXPECT_EQ(grid.Rows.at(0).Background, (Colour{85, 43, 0}));
   EXPECT_EQ(grid.Rows.at(1).Background, (Colour{0, 0, 0}));
   EXPECT_EQ(grid.Rows.at(2).Background, (Colour{0, 0, 0}));
@@ -92,15 +85,6 @@ TEST(SortedRows, OrdersNumbersTextsAndMixturesOfBoth) {
     for (const std::size_t row : order) sorted.push_back(cells[row]);
     EXPECT_EQ(sorted, expected);
   }
-}
-
-TEST(SortedRows, EqualRowsKeepTheirPresentOrderInBothDirections) {
-  const PlanetGrid grid = GridOf(kName, {"a", "B", "A", "b"});
-  const std::vector<std::size_t> present = {3, 2, 1, 0};
-  EXPECT_EQ(SortedRows(grid, kName, SortDirection::Ascending, present),
-            (std::vector<std::size_t>{2, 0, 3, 1}));
-  EXPECT_EQ(SortedRows(grid, kName, SortDirection::Descending, present),
-            (std::vector<std::size_t>{3, 1, 2, 0}));
 }
 
 }  // namespace

@@ -20,32 +20,6 @@ TEST(ReportLine, GivesEmptyFieldsTheirStandIn) {
   for (const auto& [field, standIn] : cases) EXPECT_EQ(line.Text(field), standIn) << field;
 }
 
-TEST(ReportLine, KeepsOnlyFieldsThatATabCloses) {
-  const ReportLine line("Alpha\tHumanoid\tlost");
-  EXPECT_EQ(line.Count(), 2U);
-  FieldValue starbase = "of another planet";
-  line.CopyTo(starbase, ReportField::Starbase);
-  EXPECT_TRUE(starbase.IsEmpty());
-  EXPECT_TRUE(line.ReadsAs(ReportField::Population, 0));
-  EXPECT_FALSE(line.ReadsAs(ReportField::Population, -1));
-  EXPECT_EQ(ReportLine("Alpha").Count(), 0U);
-}
-
-TEST(ReportLine, GivesALineThatEndsInAPercentageItsTailOfZeros) {
-  const ReportLine line("Orpheus\tDrask\t\t3\t\t45%");
-  ASSERT_EQ(line.Count(), 14U);
-  EXPECT_EQ(line.Text(5), "45%");
-  for (std::size_t i = 6; i < 14; ++i) EXPECT_EQ(line.Text(i), "0") << i;
-  EXPECT_EQ(ReportLine(std::string(36, '\t') + "-4%").Count(), kReportFields);
-}
-
-TEST(ReportLine, KnowsALineThatWasNeverDated) {
-  EXPECT_EQ(ReportLine("a\tb\tc\t 5\t").Age(), 5);
-  EXPECT_EQ(ReportLine("a\tb\tc\t\t").Age(), std::nullopt);
-  EXPECT_EQ(ReportLine("a\tb\tc\t5 years\t").Age(), std::nullopt);
-  EXPECT_EQ(ReportLine("a\tb\t").Age(), 0);
-}
-
 using Lines = std::vector<std::string>;
 
 template <typename ForEachLine>

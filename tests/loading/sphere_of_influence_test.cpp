@@ -22,11 +22,5 @@ TEST(SphereRadius, GrowsWithPeopleStarbaseAndDefences) {
   for (const auto& [what, inputs, radius] : cases) EXPECT_EQ(SphereRadius(inputs), radius) << what;
 }
 
-TEST(StarbasePopulation, FollowsTheDesignName) {
-  EXPECT_EQ(StarbasePopulation("Orbital Fort"), 250000);
-  EXPECT_EQ(StarbasePopulation("Death Star"), 3000000);
-  EXPECT_EQ(StarbasePopulation("death star"), 1350000);
-}
-
 }  // namespace
 }  // namespace quorvane

@@ -2,20 +2,13 @@
 
 #include <gtest/gtest.h>
 
-#include <set>
-
 namespace quorvane {
 namespace {
 
-using Kind = OverlayKind;
-using Kinds = std::set<Kind>;
-
-Kinds KindsOn(const OverlaySwitches& switches) {
-  Kinds on;
-  for (const OverlayTexts& texts : kOverlayTable) {
-    if (switches.IsOn(texts.Kind)) on.insert(texts.Kind);
-  }
-  return on;
+OverlaySwitches On(std::initializer_list<OverlayKind> kinds) {
+  OverlaySwitches switches;
+  for (const OverlayKind kind : kinds) switches.Set(kind, true);
+  return switches;
 }
 
 TEST(OverlaySwitches, ClearMapLeavesTheZoomAndANewGameTerritoryEdgesAndEmpireExpansion) {
@@ -23,11 +16,11 @@ TEST(OverlaySwitches, ClearMapLeavesTheZoomAndANewGameTerritoryEdgesAndEmpireExp
   for (const OverlayTexts& texts : kOverlayTable) cleared.Set(texts.Kind, true);
   OverlaySwitches begun = cleared;
   cleared.ClearMap();
-  EXPECT_EQ(KindsOn(cleared), Kinds{Kind::ZoomIn});
+  EXPECT_EQ(cleared, On({OverlayKind::ZoomIn}));
   begun.BeginNewGame();
-  EXPECT_EQ(KindsOn(begun), (Kinds{Kind::TerritoryEdges, Kind::EmpireExpansion}));
+  EXPECT_EQ(begun, On({OverlayKind::TerritoryEdges, OverlayKind::EmpireExpansion}));
   begun.ClearMap();
-  EXPECT_EQ(KindsOn(begun), Kinds()) << "nothing is switched on";
+  EXPECT_EQ(begun, On({})) << "nothing is switched on";
 }
 
 }  // namespace
