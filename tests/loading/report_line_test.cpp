@@ -20,6 +20,11 @@ TEST(ReportLine, GivesEmptyFieldsTheirStandIn) {
   for (const auto& [field, standIn] : cases) EXPECT_EQ(line.Text(field), standIn) << field;
 }
 
+TEST(ReportLine, HasNoMoreFieldsThanItMayAndReadsAMissingOneAsZero) {
+  EXPECT_EQ(ReportLine(std::string(36, '\t') + "-4%").Count(), kReportFields);
+  EXPECT_TRUE(ReportLine("Alpha\t").ReadsAs(ReportField::Population, 0));
+}
+
 using Lines = std::vector<std::string>;
 
 template <typename ForEachLine>

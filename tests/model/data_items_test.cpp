@@ -37,8 +37,7 @@ TEST(DataItemWriter, QuotesTextsOnlyAndDropsTheZeroBeforeThePoint) {
   writer.Text("Two\r\nlines, one text").Number(-200).Number(0.12).Number(-0.5).EndRecord();
   writer.Field(FieldValue()).EndRecord();
   writer.Field("").Field(1.75).EndRecord();
-  EXPECT_EQ(*writer.Finish(),
-            "\"Two\r\nlines, one text\",-200,.12,-.5\r\n\r\n\"\",1.75\r\n");
+  EXPECT_EQ(*writer.Finish(), "\"Two\r\nlines, one text\",-200,.12,-.5\r\n\r\n\"\",1.75\r\n");
 }
 
 }  // namespace

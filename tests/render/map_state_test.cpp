@@ -15,6 +15,13 @@ std::array<int, 4> EdgesOf(const MapView& view) {
   return {view.ViewXMin, view.ViewXMax, view.ViewYMin, view.ViewYMax};
 }
 
+TEST(MapView, DotSizeGrowsWithHalfTheZoomTiesToEven) {
+  const std::pair<int, int> cases[] = {{1, 1}, {2, 1}, {3, 2}, {5, 2}, {6, 3}, {7, 4}, {9, 4}};
+  for (const auto& [zoom, dotSize] : cases) {
+    EXPECT_EQ(Zoomed(0, 0, 2000 / zoom).DotSize(), dotSize) << "zoom " << zoom;
+  }
+}
+
 TEST(MapState, ZoomIsArmedOnceAndKeepsTheViewUntilTheButtonIsReleased) {
   MapState state = {.View = Zoomed(300, 400, 200)};
   EXPECT_TRUE(ArmZoom(state, true));

@@ -17,7 +17,9 @@ const MapView kZoomed = Zoomed(300, 300, 500);  // four times, 20 units to a lig
 
 TEST(DrawPlanets, MarksGrowWithTheZoomAndEndAtTheWindow) {
   GameBuilder game;
-  game.Planet("On the edge", {1300, 1500}).Planet("Inside", {1400, 1500});
+  game.Planet("West edge", {1300, 1500}).Planet("East edge", {1800, 1500});
+  game.Planet("North edge", {1400, 1700}).Planet("South edge", {1400, 1200});
+  game.Planet("Inside", {1400, 1500});
   EXPECT_EQ(Drawn(DrawPlanets, game.Build(), kZoomed),
             (Texts{"circle 2000,4000 r40 #000000 fill #000000 copy solid w2",
                    "circle 2000,4000 r20 #ffffff fill #ffffff copy solid w2"}));
