@@ -11,8 +11,8 @@ GameSession TwoRaces() { return GameBuilder().Player("Humanoid").Player("Rabbito
 
 // Every stored field of a player holds something that only it holds.
 void Fill(PlayerRecord& player, int seed) {
-  for (std::size_t field = 8; field <= 37; ++field) {
-    if (field < 14 || field > 18) player.Field(field) = seed + static_cast<double>(field) / 100;
+  for (int field = 8; field <= 37; ++field) {
+    if (field < 14 || field > 18) player.Field(static_cast<std::size_t>(field)) = seed + field;
   }
   player[PlayerField::PrimaryTrait] = "JoaT";
   player[PlayerField::NotesText] = "two\r\nlines, a comma";
@@ -20,20 +20,12 @@ void Fill(PlayerRecord& player, int seed) {
 
 TEST(EmpireData, ComesBackAsItWasSaved) {
   GameSession saved = TwoRaces();
-  Fill(saved.Player(1), 0);
-  Fill(saved.Player(2), -2);
+  Fill(saved.Player(1), 100);
+  Fill(saved.Player(2), -200);
   saved.Player(2)[PlayerField::RadImmune] = FieldValue();
-  const Result<std::string> text = EmpireDataText(saved);
-  ASSERT_TRUE(text);
   GameSession loaded = TwoRaces();
-  ApplyEmpireData(*text, loaded);
-  for (const int player : {1, 2}) {
-    for (std::size_t field = 1; field <= kPlayerFieldCount; ++field) {
-      EXPECT_EQ(FieldText(loaded.Player(player).Field(field)),
-                FieldText(saved.Player(player).Field(field)))
-          << "player " << player << ", field " << field;
-    }
-  }
+  ApplyEmpireData(*EmpireDataText(saved), loaded);
+  EXPECT_EQ(loaded.PlayerTable, saved.PlayerTable);
 }
 
 TEST(EmpireData, SaysWhoseTextTheFileCannotKeep) {
@@ -44,32 +36,23 @@ TEST(EmpireData, SaysWhoseTextTheFileCannotKeep) {
             "from: \"the herd\", still");
 }
 
-TEST(EmpireData, PassesOverOtherRacesAndRecordsCutShort) {
+TEST(EmpireData, GoesToTheLastPlayerOfItsNameUnlessCutShort) {
   GameSession saved = TwoRaces();
-  Fill(saved.Player(1), 1);
-  Fill(saved.Player(2), 2);
+  Fill(saved.Player(1), 100);
+  Fill(saved.Player(2), 200);
   saved.Player(1)[PlayerField::Name] = "Somebody else";
   const std::string text = *EmpireDataText(saved);
   GameSession loaded = TwoRaces();
+  loaded.Player(1)[PlayerField::Name] = loaded.Player(2).Name();
   ApplyEmpireData(text, loaded);
   EXPECT_TRUE(loaded.Player(1)[PlayerField::GravMin].IsEmpty());
-  EXPECT_DOUBLE_EQ(loaded.Player(2)[PlayerField::GravMin].Number(), 2.08);
+  EXPECT_EQ(loaded.Player(2)[PlayerField::GravMin], FieldValue(208));
 
   for (std::size_t length = 0; length + 30 < text.size(); ++length) {
     GameSession cut = TwoRaces();
     ApplyEmpireData(text.substr(0, length), cut);
     EXPECT_TRUE(cut.Player(2)[PlayerField::GravMin].IsEmpty()) << length << " bytes";
   }
-}
-
-TEST(EmpireData, GoesToTheLastPlayerOfThatName) {
-  GameSession session = TwoRaces();
-  session.Player(2)[PlayerField::Name] = "Humanoid";
-  std::string text = "\"Humanoid\"\r\n";
-  for (int item = 0; item < 25; ++item) text += "7\r\n";
-  ApplyEmpireData(text, session);
-  EXPECT_TRUE(session.Player(1)[PlayerField::GravMin].IsEmpty());
-  EXPECT_EQ(session.Player(2)[PlayerField::GravMin], FieldValue(7));
 }
 
 }  // namespace

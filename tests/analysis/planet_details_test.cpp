@@ -28,10 +28,7 @@ TEST(DescribePlanet, ShowsReportsAsTheyStandAndSaysWhatIsNotKnown) {
   explored.With(PlanetField::AgeText, "  5 years old").With(PlanetField::HabValue, "-12");
   explored.With(PlanetField::IronMC, 54).With(PlanetField::IronMR, "Remote");
   explored.With(PlanetField::BoraMR, 7).With(PlanetField::StoredGerm, 1979);
-  explored.With(PlanetField::Gravity, "1.20g")
-      .With(PlanetField::Temperature2,
-            "-40\u00BA"
-            "C");
+  explored.With(PlanetField::Gravity, "1.20g").With(PlanetField::Temperature2, "-40ºC");
   GameSession session = explored.Build();
   EXPECT_EQ(
       Described(session, {"PlanetName", "Owner", "Owner2", "ReportAge", "ReportAge2", "HabValue",

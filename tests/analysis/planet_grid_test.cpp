@@ -9,34 +9,7 @@
 namespace quorvane {
 namespace {
 
-using Texts = std::vector<std::string>;
-
-constexpr std::size_t kName = 3;
-constexpr std::size_t kPopulation = 7;
 constexpr std::size_t kFirstEstimate = 25;
-
-// A grid that has texts in one column only.
-PlanetGrid GridOf(std::size_t column, const Texts& cells) {
-  PlanetGrid grid;
-  for (const std::string& cell : cells) {
-    Texts& row = grid.Rows.emplace_back().Cells;
-    row.resize(column);
-    row.push_back(cell);
-  }
-  return grid;
-}
-
-TEST(FillPlanetGrid, HasAColumnForEachPlayerAfterTheFixedOnes) {
-  GameBuilder game;
-  for (int player = 1; player <= 16; ++player) game.Player("Race " + std::to_string(player));
-  const PlanetGrid grid = FillPlanetGrid(game.Planet("Alpha", {1500, 1500}).Build());
-  ASSERT_EQ(grid.Columns.size(), 41U);
-  EXPECT_EQ(grid.Rows.at(0).Cells.size(), 41U);
-  EXPECT_EQ(grid.Columns[8].Heading, "SOI ");
-  EXPECT_EQ(grid.Columns[24].Width, 850);
-  EXPECT_EQ(grid.Columns[40].Heading, "Race 16\r\nEst Hab %");
-  EXPECT_EQ(grid.Columns[40].Width, kDefaultColumnWidth);
-}
 
 TEST(FillPlanetGrid, ShowsFieldsAsTheyStandAndWhatFollowsFromThem) {
   using Field = PlanetField;
@@ -69,6 +42,11 @@ TEST(FillPlanetGrid, ColoursRowsByOwnerAndSaysWhyThereIsNoEstimate) {
   game.WithPlayerField(PlayerField::ColourSlot, 0);
   game.Planet("Free", {1500, 1500}).With(PlanetField::Radiation, "0mR");
   const PlanetGrid grid = FillPlanetGrid(game.Build());
+  ASSERT_EQ(grid.Columns.size(), kFirstEstimate + 2);
+  EXPECT_EQ(grid.Columns[8].Heading, "SOI ");
+  EXPECT_EQ(grid.Columns[24].Width, 850);
+  EXPECT_EQ(grid.Columns[26].Heading, "Colourless\r\nEst Hab %");
+  EXPECT_EQ(grid.Columns[26].Width, kDefaultColumnWidth);
   EXPECT_EQ(grid.Rows.at(0).Background, (Colour{85, 43, 0}));
   EXPECT_EQ(grid.Rows.at(1).Background, (Colour{0, 0, 0}));
   EXPECT_EQ(grid.Rows.at(2).Background, (Colour{0, 0, 0}));
@@ -76,31 +54,10 @@ TEST(FillPlanetGrid, ColoursRowsByOwnerAndSaysWhyThereIsNoEstimate) {
   EXPECT_EQ(grid.Rows.at(2).Cells.at(kFirstEstimate + 1), "N/A");
 }
 
-TEST(SortedRows, OrdersNumbersTextsAndMixturesOfBoth) {
-  const std::tuple<std::size_t, Texts, Texts> cases[] = {
-      {kPopulation, {"100", "9", "-5", "12.5"}, {"-5", "9", "12.5", "100"}},
-      {kPopulation, {"b", "10", "", "9a", " 9", "B"}, {"", " 9", "10", "9a", "B", "b"}},
-      {kPopulation, {"1", "1.0", "0", "&H1"}, {"0", "1", "1.0", "&H1"}},
-      {kName, {"beta", "Alpha", "10", "9", "BETA", ""}, {"", "10", "9", "Alpha", "beta", "BETA"}},
-      {kName, {"éz", "Éa", "z"}, {"z", "Éa", "éz"}},
-      {kFirstEstimate, {"N/A", "100", "-45", "No Scan"}, {"-45", "100", "N/A", "No Scan"}}};
-  for (const auto& [column, cells, expected] : cases) {
-    std::vector<std::size_t> order = {0, 1, 2, 3, 4, 5};
-    order.resize(cells.size());
-    order = SortedRows(GridOf(column, cells), column, SortDirection::Ascending, order);
-    Texts sorted;
-    for (const std::size_t row : order) sorted.push_back(cells[row]);
-    EXPECT_EQ(sorted, expected);
+TEST(IsTextColumn, HoldsFromTheNameToTheAge) {
+  for (std::size_t column = 0; column <= kFirstEstimate; ++column) {
+    EXPECT_EQ(IsTextColumn(column), column >= 3 && column <= 6) << column;
   }
-}
-
-TEST(SortedRows, EqualRowsKeepTheirPresentOrderInBothDirections) {
-  const PlanetGrid grid = GridOf(kName, {"a", "B", "A", "b"});
-  const std::vector<std::size_t> present = {3, 2, 1, 0};
-  EXPECT_EQ(SortedRows(grid, kName, SortDirection::Ascending, present),
-            (std::vector<std::size_t>{2, 0, 3, 1}));
-  EXPECT_EQ(SortedRows(grid, kName, SortDirection::Descending, present),
-            (std::vector<std::size_t>{3, 1, 2, 0}));
 }
 
 }  // namespace

@@ -29,12 +29,5 @@ TEST(DrawingLayer, IsNormalisedByReadingAndComesBackTheSame) {
   }
 }
 
-TEST(ParseDrawing, KeepsEveryFieldInItsPlace) {
-  const std::vector<DrawingRecord> records = ParseDrawing("T,10,-20,\"x, y\",12,7\nL,1,2,3,4,5\n");
-  const DrawingRecord text = {DrawingKind::Text, 10, -20, 0, 0, 0, "x, y", 12, 7};
-  const DrawingRecord line = {DrawingKind::Line, 1, 2, 3, 4, 0, "", 0, 5};
-  EXPECT_EQ(records, (std::vector{text, line}));
-}
-
 }  // namespace
 }  // namespace quorvane

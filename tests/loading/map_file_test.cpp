@@ -9,9 +9,8 @@ namespace {
 
 TEST(ParseUniverseMap, ReadsTabsBlanksAndQuotedNames) {
   const Result<UniverseMap> map = ParseUniverseMap(
-      "#\tX\tY\tName\r\n1\t1014\t1098\tKestrel \r\n\r\n7 1200 2399 \"O'Hara, "
-      "B\"\n3\t1100\t1200\t409, "
-      "dropped\r\n",
+      "#\tX\tY\tName\r\n1\t1014\t1098\tKestrel \r\n\r\n"
+      "7 1200 2399 \"O'Hara, B\"\n3\t1100\t1200\t409, dropped\r\n",
       "Demo.MAP");
   ASSERT_TRUE(map) << map.Message();
   ASSERT_EQ(map->Planets.size(), 3U);

@@ -7,14 +7,6 @@
 namespace quorvane {
 namespace {
 
-TEST(Rounding, TakesHalvesToTheEvenNeighbour) {
-  EXPECT_EQ(RoundHalfEven(2.5), 2);
-  EXPECT_EQ(RoundHalfEven(3.5), 4);
-  EXPECT_EQ(RoundHalfEven(-2.5), -2);
-  EXPECT_EQ(RoundToDecimals(0.125, 2), 0.12);
-  EXPECT_EQ(RoundToDecimals(0.375, 2), 0.38);
-}
-
 TEST(Rounding, CutsWhatDoesNotFit) {
   const double infinity = std::numeric_limits<double>::infinity();
   EXPECT_EQ(ToWhole16(32767.6), 32767);

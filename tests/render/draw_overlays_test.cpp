@@ -19,6 +19,23 @@ std::vector<Kind> AllKinds() {
   return kinds;
 }
 
+OverlaySwitches On(const std::vector<Kind>& kinds) {
+  OverlaySwitches switches;
+  for (const Kind kind : kinds) switches.Set(kind, true);
+  return switches;
+}
+
+TEST(OverlaySwitches, ClearMapLeavesTheZoomAndANewGameTerritoryEdgesAndEmpireExpansion) {
+  OverlaySwitches cleared = On(AllKinds());
+  cleared.ClearMap();
+  EXPECT_EQ(cleared, On({Kind::ZoomIn}));
+  OverlaySwitches begun = On(AllKinds());
+  begun.BeginNewGame();
+  EXPECT_EQ(begun, On({Kind::TerritoryEdges, Kind::EmpireExpansion}));
+  begun.ClearMap();
+  EXPECT_EQ(begun, On({})) << "nothing is switched on";
+}
+
 class DrawOverlaysTest : public testing::Test {
  protected:
   DrawOverlaysTest() {
@@ -29,8 +46,7 @@ class DrawOverlaysTest : public testing::Test {
 
   // Redraws with these overlays on and gives what the map was told.
   Texts Redraw(const std::vector<Kind>& kinds) {
-    OverlaySwitches switches;
-    for (const Kind kind : kinds) switches.Set(kind, true);
+    OverlaySwitches switches = On(kinds);
     switches.RaceName = session.MyRaceName;
     map.Forget();
     DrawOverlays({session, view, switches, map, twin, [this](int, int) { hasProgress = true; }});

@@ -9,13 +9,6 @@
 namespace quorvane {
 namespace {
 
-GameBuilder ReportedPlanet(FieldValue habValue, const char* age = "Current") {
-  GameBuilder game;
-  game.Planet("Alpha", {1500, 1500}).With(PlanetField::AgeText, age);
-  game.With(PlanetField::HabValue, std::move(habValue));
-  return game;
-}
-
 TEST(DrawCurrentHabValues, DiscTellsTheClassByItsColourAndTheValueByItsSize) {
   const std::tuple<const char*, const char*, const char*, const char*> cases[] = {
       {"-45", "Current", "150", "#ff0000"}, {"-50", "Current", "166", "#ff0000"},
@@ -23,13 +16,16 @@ TEST(DrawCurrentHabValues, DiscTellsTheClassByItsColourAndTheValueByItsSize) {
       {"-1", "Current", "42", "#ff00ff"},   {"0", "Current", "30", "#ffff00"},
       {"10", "Current", "150", "#ffff00"},  {"11", "Current", "30", "#00ff00"},
       {"21", "Current", "32", "#00ff00"},   {"100", "Current", "150", "#00ff00"},
-      {"100", "", "100", "#00ff00"},        {"-20", "", "30", "#ff0000"}};
+      {"100", "", "100", "#00ff00"},        {"-20", "", "30", "#ff0000"},
+      {"", "Current", "", nullptr}};
   for (const auto& [value, age, radius, colour] : cases) {
-    EXPECT_EQ(Drawn(DrawCurrentHabValues, ReportedPlanet(value, age).Build()),
-              Texts{Disc(radius, colour, "merge no-outline w1")})
-        << value;
+    GameBuilder game;
+    game.Planet("Alpha", {1500, 1500}).With(PlanetField::AgeText, age);
+    game.With(PlanetField::HabValue, value);
+    const std::string pen = "merge no-outline w1";
+    const Texts expected = colour != nullptr ? Texts{Disc(radius, colour, pen)} : Texts();
+    EXPECT_EQ(Drawn(DrawCurrentHabValues, game.Build()), expected) << value;
   }
-  EXPECT_EQ(Drawn(DrawCurrentHabValues, ReportedPlanet("").Build()), Texts()) << "not stated";
 }
 
 TEST(DrawEstimatedHabValues, CarriesTheValueOverToAPlanetWhoseEnvironmentIsNotKnown) {

@@ -5,6 +5,7 @@
 #include <array>
 #include <tuple>
 
+#include "render/zoom_box.h"
 #include "support/map_views.h"
 
 namespace quorvane {
@@ -12,6 +13,13 @@ namespace {
 
 std::array<int, 4> EdgesOf(const MapView& view) {
   return {view.ViewXMin, view.ViewXMax, view.ViewYMin, view.ViewYMax};
+}
+
+TEST(MapView, DotSizeGrowsWithHalfTheZoomTiesToEven) {
+  const std::pair<int, int> cases[] = {{1, 1}, {2, 1}, {3, 2}, {5, 2}, {6, 3}, {7, 4}, {9, 4}};
+  for (const auto& [zoom, dotSize] : cases) {
+    EXPECT_EQ(Zoomed(0, 0, 2000 / zoom).DotSize(), dotSize) << "zoom " << zoom;
+  }
 }
 
 TEST(MapState, ZoomIsArmedOnceAndKeepsTheViewUntilTheButtonIsReleased) {
@@ -50,6 +58,22 @@ TEST(MapState, ZoomedMapScrollsByWholeStepsThatStayClearOfTheUniversesEdge) {
     state.ZoomArmed = 0;
     EXPECT_FALSE(ScrollView(state, key, shiftMask)) << "not zoomed";
   }
+}
+
+TEST(ZoomBox, ShowsTheSquareBetweenTheTwoClicks) {
+  MapState state = {.View = FullView(), .ClickMode = kStartZoomBox};
+  StartZoomBox(state, {1005, 2015});
+  EXPECT_EQ(state.ClickMode, kEndZoomBox);
+  EXPECT_FALSE(EndZoomBox(state, 1)) << "less than a light year";
+  EXPECT_EQ(state.ClickMode, kEndZoomBox);
+  EXPECT_EQ(state.View.MapScale, 10);
+
+  ASSERT_TRUE(EndZoomBox(state, ZoomBoxSide(1005, 3500)));
+  // The corner lies at 100.5 and 201.5, the side is 249.5: halves go to even.
+  EXPECT_EQ(EdgesOf(state.View), (std::array{100, 350, 202, 452}));
+  EXPECT_EQ(state.View.MapScale, 10000.0 / 250);
+  EXPECT_EQ(state.ClickMode, kOrdinaryClick);
+  EXPECT_EQ(ZoomBoxSide(1000, 400), 600) << "to the right, whichever way the pointer goes";
 }
 
 }  // namespace

@@ -6,8 +6,6 @@
 #include <numbers>
 #include <tuple>
 
-#include "support/game_builder.h"
-
 namespace quorvane {
 namespace {
 
@@ -15,13 +13,11 @@ using Amounts = std::array<FieldValue, 3>;
 using Heights = std::array<double, 3>;
 
 MineralChart ChartFor(const Amounts& amounts, bool isStored) {
-  GameBuilder game;
-  game.Planet("Alpha", {1500, 1500});
-  game.With(isStored ? PlanetField::StoredIron : PlanetField::IronMC, amounts[0]);
-  game.With(isStored ? PlanetField::StoredBora : PlanetField::BoraMC, amounts[1]);
-  game.With(isStored ? PlanetField::StoredGerm : PlanetField::GermMC, amounts[2]);
-  return isStored ? StoredChart(game.Build().Planet(1))
-                  : ConcentrationChart(game.Build().Planet(1));
+  const auto first =
+      static_cast<std::size_t>(isStored ? PlanetField::StoredIron : PlanetField::IronMC);
+  PlanetRecord planet;
+  for (std::size_t i = 0; i < amounts.size(); ++i) planet.Field(first + i) = amounts[i];
+  return isStored ? StoredChart(planet) : ConcentrationChart(planet);
 }
 
 // The slices as "b1 180 g180 270 ", in degrees.

@@ -30,6 +30,7 @@ TEST(PlanetAt, PicksTheLastPlanetWithinTheSquareOnAllFourEdges) {
 
 TEST(PointerText, TellsThePlaceInTheGamesCoordinates) {
   EXPECT_EQ(PointerText(FullView(), {5009.9, 2500}), " X:1500 Y:1750");
+  EXPECT_EQ(PointerText(FullView(), {-1, -1}), " X:999 Y:2001");
   EXPECT_EQ(PointerText(Zoomed(300, 200, 500), {39.9, 40}), " X:1301 Y:1798");
 }
 

@@ -23,22 +23,23 @@ GameBuilder& GameBuilder::WithPlayerField(PlayerField field, FieldValue value) {
 }
 
 GameBuilder& GameBuilder::Planet(std::string_view name, GamePoint at) {
-  PlacedPlanet& planet = planets_.emplace_back();
-  planet.At = at;
-  planet.Record[PlanetField::Number] = planets_.size();
-  planet.Record[PlanetField::Name] = name;
+  PlanetRecord& planet = planets_.emplace_back();
+  planet[PlanetField::Number] = planets_.size();
+  planet[PlanetField::X] = static_cast<int>(at.X) - kUniverseOrigin;
+  planet[PlanetField::Y] = kExtent - static_cast<int>(at.Y);
+  planet[PlanetField::Name] = name;
   return *this;
 }
 
 GameBuilder& GameBuilder::OwnedBy(std::string_view race) {
-  planets_.back().Record[PlanetField::Owner] = race;
+  planets_.back()[PlanetField::Owner] = race;
   const bool isKnown = std::ranges::any_of(
       players_, [&](const PlayerRecord& player) { return player.Name() == race; });
   return isKnown ? *this : Player(race);
 }
 
 GameBuilder& GameBuilder::With(PlanetField field, FieldValue value) {
-  planets_.back().Record[field] = std::move(value);
+  planets_.back()[field] = std::move(value);
   return *this;
 }
 
@@ -52,10 +53,7 @@ GameSession GameBuilder::Build() const {
   for (const PlayerRecord& player : players_) session.Player(++session.PlayerCount) = player;
   session.CreatePlanetTable(static_cast<int>(planets_.size()));
   for (int number = 1; number <= session.PlanetCount; ++number) {
-    const PlacedPlanet& placed = planets_[static_cast<std::size_t>(number) - 1];
-    PlanetRecord& planet = session.Planet(number) = placed.Record;
-    planet[PlanetField::X] = static_cast<int>(placed.At.X) - kUniverseOrigin;
-    planet[PlanetField::Y] = kExtent - static_cast<int>(placed.At.Y);
+    PlanetRecord& planet = session.Planet(number) = planets_[static_cast<std::size_t>(number) - 1];
     planet[PlanetField::OwnerIndex] = session.FindPlayerByName(planet.Owner());
   }
   return session;

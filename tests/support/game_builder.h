@@ -28,13 +28,8 @@ class GameBuilder {
   GameSession Build() const;
 
  private:
-  struct PlacedPlanet {
-    GamePoint At;
-    PlanetRecord Record;
-  };
-
   std::vector<PlayerRecord> players_;
-  std::vector<PlacedPlanet> planets_;
+  std::vector<PlanetRecord> planets_;
 };
 
 }  // namespace quorvane

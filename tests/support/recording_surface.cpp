@@ -29,6 +29,14 @@ std::string After(std::string_view mark, std::string_view text) {
   return std::string(mark).append(text);
 }
 
+std::string ModeText(const Pen& pen) { return pen.Mode == DrawMode::Copy ? "copy" : "merge"; }
+
+std::string StyleText(const Pen& pen) {
+  return pen.Style == DrawStyle::Solid ? "solid" : "no-outline";
+}
+
+std::string WidthText(const Pen& pen) { return After("w", std::to_string(pen.Width)); }
+
 }  // namespace
 
 void RecordingSurface::Clear() {
@@ -49,18 +57,18 @@ std::shared_ptr<const SurfaceImage> RecordingSurface::Image() const {
 }
 
 void RecordingSurface::Point(SurfacePoint at, Colour colour) {
-  Draw({"point", PlaceText(at), ColourText(colour), ModeText(), WidthText()});
+  Draw({"point", PlaceText(at), ColourText(colour), ModeText(pen_), WidthText(pen_)});
 }
 
 void RecordingSurface::Line(SurfacePoint from, SurfacePoint to, Colour colour) {
-  Draw({"line", PlaceText(from), PlaceText(to), ColourText(colour), ModeText(), StyleText(),
-        WidthText()});
+  Draw({"line", PlaceText(from), PlaceText(to), ColourText(colour), ModeText(pen_), StyleText(pen_),
+        WidthText(pen_)});
 }
 
 void RecordingSurface::Circle(SurfacePoint centre, double radius, Colour colour) {
   const std::string fill = pen_.Filled ? After("fill ", ColourText(fillColour_)) : "hollow";
   Draw({"circle", PlaceText(centre), After("r", NumberText(radius)), ColourText(colour), fill,
-        ModeText(), StyleText(), WidthText()});
+        ModeText(pen_), StyleText(pen_), WidthText(pen_)});
 }
 
 void RecordingSurface::Print(SurfacePoint topLeft, std::string_view text) {
@@ -71,16 +79,6 @@ void RecordingSurface::Print(SurfacePoint topLeft, std::string_view text) {
 double RecordingSurface::TextWidth(std::string_view text) const {
   return kCharacterWidth * static_cast<double>(text.size());
 }
-
-std::string RecordingSurface::ModeText() const {
-  return pen_.Mode == DrawMode::Copy ? "copy" : "merge";
-}
-
-std::string RecordingSurface::StyleText() const {
-  return pen_.Style == DrawStyle::Solid ? "solid" : "no-outline";
-}
-
-std::string RecordingSurface::WidthText() const { return After("w", std::to_string(pen_.Width)); }
 
 void RecordingSurface::Draw(const Texts& words) {
   std::string line;

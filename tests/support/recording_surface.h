@@ -45,9 +45,6 @@ class RecordingSurface : public DrawingSurface {
   int WidthInTwips() const override { return widthInTwips_; }
 
  private:
-  std::string ModeText() const;
-  std::string StyleText() const;
-  std::string WidthText() const;
   void Draw(const Texts& words);
 
   int widthInTwips_;
