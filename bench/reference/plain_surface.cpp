@@ -96,7 +96,8 @@ void PlainSurface::Print(SurfacePoint topLeft, std::string_view text) {
   QPainter painter(&picture_);
   painter.setFont(Font());
   painter.setPen(QColor(RgbOf(foreColour_)));
-  painter.drawText(QPointF(at.x(), at.y() + QFontMetricsF(Font()).ascent()), TextOf(text));
+  const QPointF corner(std::floor(at.x() + 0.5), std::floor(at.y() + 0.5));
+  painter.drawText(corner + QPointF(0, QFontMetricsF(Font()).ascent()), TextOf(text));
 }
 
 double PlainSurface::TextWidth(std::string_view text) const {

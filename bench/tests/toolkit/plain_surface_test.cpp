@@ -101,7 +101,7 @@ TEST(PictureText, LooksAsIfItWereLaidOutEachTime) {
     surface.Print({-3.23, 7.7 * points - 50.3}, text);
     return surface.TextWidth(text);
   };
-  for (const double points : {6.0, 8.25, 6.0}) {
+  for (const double points : {6.0, 8.25, 6.0, 300.0}) {
     for (const char* text : {"Hamlet AV", "Hamlet AV", "", " 45%\t4\n5 ", "\u03c0\u4e2d\u05d0"}) {
       EXPECT_EQ(print(fast, points, text), print(plain, points, text)) << text;
       EXPECT_TRUE(fast.Picture() == plain.Picture()) << text << " in " << points << " points";

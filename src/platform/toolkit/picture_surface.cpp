@@ -98,21 +98,27 @@ void PictureSurface::Print(SurfacePoint topLeft, std::string_view text) {
   const bool isInPicture = at.x() < picture_.width() && at.y() < picture_.height() &&
                            at.x() > -layout.Width && at.y() > -layout.Height;
   if (!isInPicture) return;
-  // The painter cuts every glyph's position to 64ths of a pixel, towards the picture's left edge
-  // from either side; this way all glyphs of a text that begins outside are cut alike.
-  const QPointF origin(std::trunc(at.x() * 64) / 64, at.y() + layout.Drop);
+  const QPointF corner(std::floor(at.x() + 0.5), std::floor(at.y() + 0.5));
+  if (!layout.Runs.empty()) {
+    PixelCanvas canvas(Pixels(), deviceSize_, DrawMode::Copy);
+    canvas.Runs({static_cast<int>(corner.x()), static_cast<int>(corner.y())}, layout.Runs,
+                foreColour_);
+    return;
+  }
   QPainter painter(&picture_);
   painter.setPen(QColor(foreColour_));
-  for (const QGlyphRun& glyphs : layout.Glyphs) painter.drawGlyphRun(origin, glyphs);
+  for (const QGlyphRun& glyphs : layout.Glyphs) {
+    painter.drawGlyphRun(corner + QPointF(0, layout.Drop), glyphs);
+  }
 }
 
 double PictureSurface::TextWidth(std::string_view text) const {
   return Texts().Of(text).Width / pixelsPerUnitX_;
 }
 
-PixelCanvas PictureSurface::Canvas() {
-  return {reinterpret_cast<QRgb*>(picture_.bits()), deviceSize_, pen_.Mode};
-}
+QRgb* PictureSurface::Pixels() { return reinterpret_cast<QRgb*>(picture_.bits()); }
+
+PixelCanvas PictureSurface::Canvas() { return {Pixels(), deviceSize_, pen_.Mode}; }
 
 int PictureSurface::DevicePenWidth() const { return std::max(qRound(pen_.Width * ratio_), 1); }
 

@@ -56,6 +56,7 @@ class PictureSurface : public DrawingSurface {
   int WidthInTwips() const override { return TwipsFromPixels(size_.width()); }
 
  private:
+  QRgb* Pixels();
   PixelCanvas Canvas();
   QPointF DevicePoint(SurfacePoint point) const {
     return {point.X * pixelsPerUnitX_, point.Y * pixelsPerUnitY_};

@@ -212,4 +212,12 @@ void PixelCanvas::Circle(QPointF centre, double radius, double outlineWidth,
   }
 }
 
+void PixelCanvas::Runs(PixelPlace corner, std::span<const PixelRun> runs, QRgb colour) {
+  for (const PixelRun& run : runs) {
+    const int y = corner.Y + run.Y;
+    if (y < 0 || y >= height_) continue;
+    Fill(y, {std::max(corner.X + run.First, 0), std::min(corner.X + run.Last, width_ - 1)}, colour);
+  }
+}
+
 }  // namespace quorvane

@@ -3,7 +3,9 @@
 #include <QPointF>
 #include <QRgb>
 #include <QSize>
+#include <cstdint>
 #include <optional>
+#include <span>
 #include <vector>
 
 #include "platform/toolkit/line_steps.h"
@@ -15,6 +17,13 @@ namespace quorvane {
 struct PixelSpan {
   int First = 0;
   int Last = -1;
+};
+
+/// Pixels first … last of one row of a small shape, counted from the shape's own corner.
+struct PixelRun {
+  std::int16_t Y = 0;
+  std::int16_t First = 0;
+  std::int16_t Last = -1;
 };
 
 /// The pixels of a round dot: those whose centres lie within half the diameter of the dot's centre.
@@ -53,6 +62,8 @@ class PixelCanvas {
   /// missing. However small it is, unless it is nothing, it shows at least one pixel.
   void Circle(QPointF centre, double radius, double outlineWidth, std::optional<QRgb> outline,
               std::optional<QRgb> fill);
+  /// A shape of which every row is known, with its corner in that pixel.
+  void Runs(PixelPlace corner, std::span<const PixelRun> runs, QRgb colour);
 
  private:
   // Puts something into each pixel of a line.

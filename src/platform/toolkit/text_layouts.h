@@ -8,22 +8,28 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <vector>
+
+#include "platform/toolkit/pixel_canvas.h"
 
 namespace quorvane {
 
 /// One line of text ready to be drawn. All lengths are in device pixels.
 struct TextLayout {
+  /// What is left to be drawn for a text too large to keep its pixels.
   QList<QGlyphRun> Glyphs;
   /// How far the glyphs' origin lies below the text's top edge; not 0 when a substitute font, which
   /// has characters that the font lacks, is taller than the font.
   double Drop = 0;
   double Width = 0;
   double Height = 0;
+  /// The pixels that the text covers when its top left corner is that of a pixel.
+  std::vector<PixelRun> Runs;
 };
 
 /// The layouts of the texts that were asked for in a font. Finding out which glyphs a text needs
-/// and where they go takes several times longer than drawing them, and a map prints the same names
-/// at every redraw. Needs a running QGuiApplication when a layout is asked for.
+/// and which pixels they cover takes many times longer than colouring these, and a map prints the
+/// same names at every redraw. Needs a running QGuiApplication when a layout is asked for.
 class TextLayouts {
  public:
   /// How many texts are kept, a multiple of what a map shows; the next one starts anew.
