@@ -102,15 +102,6 @@ TEST_F(DrawingTest, LayerIsSavedShownClearedAndReadAnew) {
   EXPECT_TRUE(driver.IsDown("OvButt(10)"));
 }
 
-TEST_F(DrawingTest, FileThatCannotBeReadOrWrittenIsToldAndTheLayerStays) {
-  std::filesystem::create_directory(folder / "Demo.QVL");
-  Plot().setPlainText("C,1200,1200,40,2\n");
-  driver.Click("SaveQVL");
-  EXPECT_NE(prompts.Shown().at(0).find("Demo.QVL"), std::string::npos);
-  EXPECT_EQ(Layer(), "C,1200,1200,40,2\n");
-  EXPECT_TRUE(IsSaveWanted());
-}
-
 TEST_F(DrawingTest, ResizedMapKeepsWhatWasDrawnSinceItsRedrawAndALoadGoesOnInItsColour) {
   driver.Click("DColour(1)").Click("Draw(2)").ClickAt("Universe", At({1100, 1300}));
   driver.ClickAt("Universe", At({1300, 1300}));
