@@ -237,7 +237,6 @@ TEST_F(LoadedGameTest, PlanetGridIsFilledAnewByItsMenuItemAndStaysBesideTheWindo
   };
   Grid* const grid = open();
   ASSERT_NE(grid, nullptr);
-  EXPECT_FALSE(grid->isModal());
   EXPECT_EQ(grid->DG->model()->rowCount(), 4);
   grid->SetColumnWidth(1, 0);
   grid->showMinimized();
