@@ -3,6 +3,7 @@
 #include <deque>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "ui/prompts.h"
@@ -17,10 +18,7 @@ class ScriptedPrompts : public Prompts {
   void Inform(const std::string& text) override { shown_.push_back(text); }
   bool AskYesNo(const std::string& title, const std::string& question) override {
     shown_.push_back(title + ": " + question);
-    if (answers_.empty()) return false;
-    const bool answer = answers_.front();
-    answers_.pop_front();
-    return answer;
+    return answer_;
   }
   std::optional<std::string> AskText(const std::string& title, const std::string& prompt,
                                      const std::string& preset) override {
@@ -31,20 +29,16 @@ class ScriptedPrompts : public Prompts {
     return answer.empty() ? std::nullopt : std::optional(answer);
   }
 
-  /// The next question is answered so.
-  void Answer(bool yes) { answers_.push_back(yes); }
+  /// Questions are answered so from now on; before, they are answered with no.
+  void Answer(bool yes) { answer_ = yes; }
   /// The next text that is asked for; an empty one cancels, as every text without an answer does.
   void AnswerText(const std::string& text) { textAnswers_.push_back(text); }
   /// What was shown since this was last asked.
-  Texts Shown() {
-    Texts shown;
-    shown.swap(shown_);
-    return shown;
-  }
+  Texts Shown() { return std::exchange(shown_, {}); }
 
  private:
   Texts shown_;
-  std::deque<bool> answers_;
+  bool answer_ = false;
   std::deque<std::string> textAnswers_;
 };
 

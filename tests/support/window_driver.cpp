@@ -1,10 +1,5 @@
 #include "support/window_driver.h"
 
-#include <QAbstractButton>
-#include <QAction>
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
 #include <QListWidget>
 #include <QTest>
 #include <cstdlib>
@@ -28,14 +23,6 @@ WindowDriver& WindowDriver::ClickEntry(const QString& list, const QString& text)
   return *this;
 }
 
-WindowDriver& WindowDriver::DoubleClickEntry(const QString& list, const QString& text) {
-  ClickEntry(list, text);
-  auto& widget = Find<QListWidget>(list);
-  QTest::mouseDClick(widget.viewport(), Qt::LeftButton, {},
-                     widget.visualItemRect(widget.currentItem()).center());
-  return *this;
-}
-
 WindowDriver& WindowDriver::ClickAt(const QString& name, QPoint at) {
   QTest::mouseClick(&Usable(name), Qt::LeftButton, {}, at);
   return *this;
@@ -48,8 +35,7 @@ WindowDriver& WindowDriver::MoveTo(const QString& name, QPoint at) {
 
 WindowDriver& WindowDriver::Type(const QString& name, const QString& text) {
   QWidget& control = Usable(name);
-  if (auto* box = qobject_cast<QLineEdit*>(&control)) box->clear();
-  if (auto* combo = qobject_cast<QComboBox*>(&control)) combo->clearEditText();
+  QTest::keySequence(&control, QKeySequence::SelectAll);
   QTest::keyClicks(&control, text);
   return *this;
 }
@@ -67,19 +53,9 @@ WindowDriver& WindowDriver::Choose(const QString& action) {
   return *this;
 }
 
-QAction& WindowDriver::Action(const QString& name) const { return Find<QAction>(name); }
-
 QString WindowDriver::Text(const QString& name) const {
-  const QWidget& control = Find(name);
-  if (const auto* label = qobject_cast<const QLabel*>(&control)) return label->text();
-  if (const auto* button = qobject_cast<const QAbstractButton*>(&control)) return button->text();
-  if (const auto* box = qobject_cast<const QLineEdit*>(&control)) return box->text();
-  if (const auto* combo = qobject_cast<const QComboBox*>(&control)) return combo->currentText();
-  Missing(name + " (shows no text)");
-}
-
-bool WindowDriver::IsDown(const QString& button) const {
-  return Find<QAbstractButton>(button).isChecked();
+  const QVariant text = Find(name).property("text");
+  return (text.isValid() ? text : Find(name).property("currentText")).toString();
 }
 
 void WindowDriver::Missing(const QString& name) {

@@ -1,10 +1,10 @@
 #pragma once
 
-#include <QPoint>
-#include <QString>
+#include <QAction>
+#include <QApplication>
+#include <QTimer>
+#include <QVariant>
 #include <QWidget>
-
-class QAction;
 
 namespace quorvane {
 
@@ -25,7 +25,6 @@ class WindowDriver {
   WindowDriver& Click(const QString& name);
   /// A left click on a list's entry.
   WindowDriver& ClickEntry(const QString& list, const QString& text);
-  WindowDriver& DoubleClickEntry(const QString& list, const QString& text);
   /// A left click at a place of a control, in its own pixels.
   WindowDriver& ClickAt(const QString& name, QPoint at);
   WindowDriver& MoveTo(const QString& name, QPoint at);
@@ -35,12 +34,12 @@ class WindowDriver {
   /// Chooses a menu item, which must be enabled.
   WindowDriver& Choose(const QString& action);
 
-  QAction& Action(const QString& name) const;
+  QAction& Action(const QString& name) const { return Find<QAction>(name); }
   /// What a label, button, text box or combo box shows.
   QString Text(const QString& name) const;
   bool IsVisible(const QString& name) const { return Find(name).isVisibleTo(&window_); }
   bool IsEnabled(const QString& name) const { return Find(name).isEnabled(); }
-  bool IsDown(const QString& button) const;
+  bool IsDown(const QString& button) const { return Find(button).property("checked").toBool(); }
 
  private:
   [[noreturn]] static void Missing(const QString& name);
@@ -48,5 +47,12 @@ class WindowDriver {
 
   QWidget& window_;
 };
+
+/// Works the dialog that the next step opens.
+template <typename Dialog = QWidget, typename Work>
+void InNextDialog(const Work& work) {
+  QTimer::singleShot(0, qApp,
+                     [work] { work(dynamic_cast<Dialog&>(*QApplication::activeModalWidget())); });
+}
 
 }  // namespace quorvane

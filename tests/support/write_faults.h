@@ -10,19 +10,18 @@ namespace quorvane {
 /// Nothing is protected against root, who therefore tests as somebody else while this lives.
 class OrdinaryUser {
  public:
-  OrdinaryUser() {
-    if (geteuid() == 0) isChanged_ = seteuid(kNobody) == 0;
-  }
-  ~OrdinaryUser() {
-    const bool isBack = !isChanged_ || seteuid(0) == 0;
-    EXPECT_TRUE(isBack);
-  }
+  OrdinaryUser() { BecomeIfRoot(kNobody); }
+  ~OrdinaryUser() { BecomeIfRoot(0); }
   OrdinaryUser(const OrdinaryUser&) = delete;
   OrdinaryUser& operator=(const OrdinaryUser&) = delete;
 
  private:
   static constexpr uid_t kNobody = 65534;
-  bool isChanged_ = false;
+
+  static void BecomeIfRoot(uid_t user) {
+    const int failed = getuid() == 0 ? seteuid(user) : 0;
+    EXPECT_EQ(failed, 0);
+  }
 };
 
 /// While this lives, no file may grow beyond a size. At that size writing fails, as it does on a

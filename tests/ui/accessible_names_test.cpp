@@ -10,28 +10,20 @@
 namespace quorvane {
 namespace {
 
-bool ShowsText(const QWidget& control) {
-  const auto* button = qobject_cast<const QAbstractButton*>(&control);
-  const auto* label = qobject_cast<const QLabel*>(&control);
-  return (button != nullptr && !button->text().isEmpty()) || label != nullptr;
+// Who cannot see a control has to be told what it is.
+void Check(const QWidget& top) {
+  for (const QWidget* control : top.findChildren<QWidget*>()) {
+    const QString name = control->objectName();
+    const bool isOwn = !name.isEmpty() && !name.startsWith("qt_") && !control->isHidden();
+    const auto* button = qobject_cast<const QAbstractButton*>(control);
+    const bool showsText = button != nullptr && !button->text().isEmpty();
+    if (!isOwn || control->focusPolicy() == Qt::NoFocus || showsText) continue;
+    EXPECT_FALSE(control->accessibleName().isEmpty())
+        << top.objectName().toStdString() << ": " << name.toStdString();
+  }
 }
 
-// Who cannot see a control has to be told what it is.
-class AccessibleNamesTest : public MainWindowTest {
- protected:
-  static void Check(const QWidget& top) {
-    for (const QWidget* control : top.findChildren<QWidget*>()) {
-      const QString name = control->objectName();
-      const bool isOwn = !name.isEmpty() && !name.startsWith("qt_") && !control->isHidden();
-      if (!isOwn || control->focusPolicy() == Qt::NoFocus || ShowsText(*control)) continue;
-      EXPECT_FALSE(control->accessibleName().isEmpty())
-          << top.objectName().toStdString() << ": " << name.toStdString();
-    }
-  }
-};
-
-TEST_F(AccessibleNamesTest, EveryControlWithoutATextHasOne) {
-  Load();
+TEST_F(LoadedGameTest, EveryControlWithoutATextHasAnAccessibleName) {
   GameSession session = window.Session();
   OpenState open;
   Check(window);

@@ -3,15 +3,13 @@
 #include <gtest/gtest.h>
 
 #include <QHeaderView>
-#include <QListWidget>
 #include <QTest>
-#include <QTimer>
-#include <functional>
 #include <tuple>
 
 #include "platform/toolkit/twips.h"
 #include "support/game_builder.h"
 #include "support/window_driver.h"
+#include "ui/show_hide.h"
 
 namespace quorvane {
 namespace {
@@ -52,13 +50,13 @@ class GridTest : public testing::Test {
   }
 
   // Opens the chooser, works it and closes it with a key.
-  void UseChooser(Qt::Key closingKey, const std::function<void(QListWidget&)>& work) {
-    QTimer::singleShot(0, &grid, [&] {
-      WindowDriver chooser(*QApplication::activeModalWidget());
-      work(chooser.Find<QListWidget>("ShowHideList"));
-      chooser.Press("ShowHideList", closingKey);
+  template <typename Work>
+  void UseChooser(Qt::Key closingKey, const Work& work) {
+    InNextDialog<ShowHide>([=](ShowHide& chooser) {
+      work(*chooser.ShowHideList);
+      QTest::keyClick(chooser.ShowHideList, closingKey);
     });
-    WindowDriver(grid).Choose("mnuSH");
+    grid.mnuSH->trigger();
   }
 
   GameSession session;
@@ -140,14 +138,6 @@ TEST_F(GridTest, TableFollowsTheOuterSizeAndTheWindowNeverGetsTooSmall) {
     EXPECT_NEAR(TwipsFromPixels(grid.DG->width()), TwipsFromPixels(outer.width()) - 135, 8);
     EXPECT_NEAR(TwipsFromPixels(grid.DG->height()), TwipsFromPixels(outer.height()) - 700, 8);
   }
-}
-
-TEST_F(GridTest, ShowsAGameWithoutPlanetsOrPlayers) {
-  grid.Fill(GameSession());
-  ClickHeading(kName, Qt::RightButton);
-  QTest::keyClick(grid.DG, Qt::Key_Up, Qt::ControlModifier);
-  EXPECT_EQ(grid.ColumnCount(), 25);
-  EXPECT_EQ(Column(kName), "");
 }
 
 }  // namespace

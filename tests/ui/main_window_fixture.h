@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <QTest>
-#include <QTimer>
 
 #include "support/game_folder.h"
 #include "support/scripted_prompts.h"
@@ -13,6 +12,15 @@
 
 namespace quorvane {
 
+/// "Load Data", and in the open dialog the map, a year and the load button.
+inline void LoadGame(WindowDriver& driver, const char* map) {
+  InNextDialog([map](QWidget& opened) {
+    WindowDriver dialog(opened);
+    dialog.ClickEntry("File1", map).Type("txtGameYear", "2450").Click("Command1");
+  });
+  driver.Choose("mnuMap");
+}
+
 /// The program's main window on a folder with a small game.
 class MainWindowTest : public testing::Test {
  protected:
@@ -21,19 +29,7 @@ class MainWindowTest : public testing::Test {
     EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
   }
 
-  // Works the dialog that the next step opens.
-  template <typename Work>
-  void InNextDialog(const Work& work) {
-    QTimer::singleShot(0, &window, [work] { work(*QApplication::activeModalWidget()); });
-  }
-  // "Load Data", and in the open dialog the map, a year and the load button.
-  void Load() {
-    InNextDialog([](QWidget& opened) {
-      WindowDriver dialog(opened);
-      dialog.ClickEntry("File1", "Demo.MAP").Type("txtGameYear", "2450").Click("Command1");
-    });
-    driver.Choose("mnuMap");
-  }
+  void Load() { LoadGame(driver, "Demo.MAP"); }
 
   // The pixel of the map where a place in game coordinates is shown.
   QPoint At(GamePoint place) {

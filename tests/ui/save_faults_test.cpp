@@ -12,24 +12,20 @@ namespace fs = std::filesystem;
 
 struct Fault {
   const char* Reason;
-  void (*Begin)(const fs::path& folder, const fs::path& file);
-  void (*End)(const fs::path& folder, const fs::path& file);
+  void (*Begin)(const fs::path& file);
+  void (*End)(const fs::path& file);
 };
 
 std::unique_ptr<FullDisk> fullDisk;
 
 const Fault kFaults[] = {
-    {"No such file or directory",
-     [](const fs::path& folder, auto) { fs::rename(folder, folder.native() + "-moved"); },
-     [](const fs::path& folder, auto) { fs::rename(folder.native() + "-moved", folder); }},
-    {"Permission denied",  // a file that is write-protected, then a folder
-     [](auto, const fs::path& file) { fs::permissions(file, fs::perms(0400)); },
-     [](auto, const fs::path& file) { fs::permissions(file, fs::perms(0600)); }},
+    {"Permission denied", [](const fs::path& file) { fs::permissions(file, fs::perms(0400)); },
+     [](const fs::path& file) { fs::permissions(file, fs::perms(0600)); }},
     {"Permission denied",
-     [](const fs::path& folder, auto) { fs::permissions(folder, fs::perms(0500)); },
-     [](const fs::path& folder, auto) { fs::permissions(folder, fs::perms(0700)); }},
-    {"File too large", [](auto, auto) { fullDisk = std::make_unique<FullDisk>(1); },
-     [](auto, auto) { fullDisk.reset(); }}};
+     [](const fs::path& file) { fs::permissions(file.parent_path(), fs::perms(0500)); },
+     [](const fs::path& file) { fs::permissions(file.parent_path(), fs::perms(0700)); }},
+    {"File too large", [](auto) { fullDisk = std::make_unique<FullDisk>(1); },
+     [](auto) { fullDisk.reset(); }}};
 
 struct SaveCommand {
   const char* Dialog;  // the menu item that opens it; empty: the main window saves
@@ -67,9 +63,9 @@ class SaveFaultsTest : private OrdinaryUser, public LoadedGameTest {
     const GameSession before = window.Session();
     const QImage picture = shown.grab().toImage();
 
-    fault.Begin(folder.Path(), file);
+    fault.Begin(file);
     const Texts told = run();
-    fault.End(folder.Path(), file);
+    fault.End(file);
     // The picture alone is told to be saved first.
     EXPECT_EQ(told.size(), command.Control == std::string("mnuSave") ? 2U : 1U);
     const std::string& message = told.back();

@@ -2,19 +2,19 @@
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 
 #include "support/temp_folder.h"
+#include "support/write_faults.h"
 
 namespace quorvane {
 namespace {
 
-TEST(FindFile, PrefersTheExactNameToOneInAnotherCase) {
+TEST(FindFile, TakesTheFirstOfTheNamesInAnotherCase) {
   const TempFolder folder;
   folder.Write("demo.p1", "1");
   folder.Write("DEMO.P1", "1");
   EXPECT_EQ(FindFile(folder / "Demo.P1"), folder / "DEMO.P1");
-  folder.Write("Demo.P1", "1");
-  EXPECT_EQ(FindFile(folder / "Demo.P1"), folder / "Demo.P1");
 }
 
 TEST(ReadTextFile, DoesNotWaitForAPipe) {
@@ -22,6 +22,36 @@ TEST(ReadTextFile, DoesNotWaitForAPipe) {
   ASSERT_EQ(mkfifo((folder / "pipe").c_str(), 0600), 0);
   const std::string message = ReadTextFile(folder / "pipe").Message();
   EXPECT_NE(message.find("pipe: there is no such file"), message.npos) << message;
+}
+
+TEST(ReplaceFile, NamesFileAndReasonWhereNothingCanBeWritten) {
+  const TempFolder folder;
+  std::filesystem::create_directory(folder / "folder");
+  std::filesystem::create_symlink("nowhere", folder / "link");
+  const std::pair<const char*, const char*> cases[] = {
+      {"no/new", "No such file"}, {"folder", "Is a directory"}, {"link", "No such file"}};
+  for (const auto& [name, reason] : cases) {
+    const std::string message = ReplaceFile(folder / name, "x").Message();
+    EXPECT_TRUE(message.starts_with(TextFromPath(folder / name) + ": ")) << message;
+    EXPECT_NE(message.find(reason), message.npos) << message;
+  }
+  EXPECT_TRUE(FilesNamedLike(folder.Path(), "", "").empty());
+}
+
+TEST(ReplaceFile, LeavesTheOldFileWholeWhenTheProgramDiesWhileWriting) {
+  const TempFolder folder;
+  const std::filesystem::path path = folder.Write("Demo.QVD", "old");
+  const pid_t child = fork();
+  if (child == 0) {
+    const FullDisk disk(1 << 19, SIG_DFL);
+    _exit(ReplaceFile(path, std::string(1 << 20, 'x')) ? 0 : 1);
+  }
+  int status = 0;
+  ASSERT_EQ(waitpid(child, &status, 0), child);
+  ASSERT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGXFSZ) << status;
+  EXPECT_EQ(folder.Read("Demo.QVD"), "old");
+  ASSERT_TRUE(ReplaceFile(path, "new"));  // what the dead one left is no hindrance
+  EXPECT_EQ(FilesNamedLike(folder.Path(), "", ""), std::vector<std::string>{"Demo.QVD"});
 }
 
 }  // namespace
