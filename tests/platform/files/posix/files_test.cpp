@@ -41,6 +41,7 @@ TEST(ReplaceFile, NamesFileAndReasonWhereNothingCanBeWritten) {
 TEST(ReplaceFile, LeavesTheOldFileWholeWhenTheProgramDiesWhileWriting) {
   const TempFolder folder;
   const std::filesystem::path path = folder.Write("Demo.QVD", "old");
+  std::filesystem::permissions(path, std::filesystem::perms(0604));
   const pid_t child = fork();
   if (child == 0) {
     const FullDisk disk(1 << 19, SIG_DFL);
@@ -51,6 +52,7 @@ TEST(ReplaceFile, LeavesTheOldFileWholeWhenTheProgramDiesWhileWriting) {
   ASSERT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGXFSZ) << status;
   EXPECT_EQ(folder.Read("Demo.QVD"), "old");
   ASSERT_TRUE(ReplaceFile(path, "new"));  // what the dead one left is no hindrance
+  EXPECT_EQ(std::filesystem::status(path).permissions(), std::filesystem::perms(0604));
   EXPECT_EQ(FilesNamedLike(folder.Path(), "", ""), std::vector<std::string>{"Demo.QVD"});
 }
 
