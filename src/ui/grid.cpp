@@ -37,8 +37,10 @@ class CellFrame : public QStyledItemDelegate {
     plain.state &= ~QStyle::State_HasFocus;
     QStyledItemDelegate::paint(painter, plain, index);
     if (!option.state.testFlag(QStyle::State_HasFocus)) return;
+    painter->save();
     painter->setPen(option.palette.color(QPalette::Link));
     painter->drawRect(option.rect.adjusted(0, 0, -1, -1));
+    painter->restore();
   }
 };
 
