@@ -18,7 +18,12 @@ struct Fault {
 
 std::unique_ptr<FullDisk> fullDisk;
 
+// Where a folder goes that is deleted from the program's view, so that it can be looked into later.
+fs::path Elsewhere(const fs::path& file) { return file.parent_path().string() + "-gone"; }
+
 const Fault kFaults[] = {
+    {"No such file", [](const fs::path& file) { fs::rename(file.parent_path(), Elsewhere(file)); },
+     [](const fs::path& file) { fs::rename(Elsewhere(file), file.parent_path()); }},
     {"Permission denied", [](const fs::path& file) { fs::permissions(file, fs::perms(0400)); },
      [](const fs::path& file) { fs::permissions(file, fs::perms(0600)); }},
     {"Permission denied",
