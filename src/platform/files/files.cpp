@@ -39,23 +39,21 @@ std::error_code WriteWholeFile(const fs::path& path, std::string_view content) {
   return error;
 }
 
-// The content of a file as it stands.
+// The content of a file as it stands. The file was found as a plain one: a pipe under a map's name
+// would keep the program waiting.
 Result<std::string> ReadBytes(const fs::path& path) {
-  const std::optional<fs::path> found = FindFile(path);
-  // Only plain files are opened: a pipe under a map's name would keep the program waiting.
-  if (!found) return Failure{TextFromPath(path) + ": there is no such file"};
   std::error_code error;
-  const std::uintmax_t size = fs::file_size(*found, error);
-  if (error) return FileFailure(*found, "the file cannot be read", error);
+  const std::uintmax_t size = fs::file_size(path, error);
+  if (error) return FileFailure(path, "the file cannot be read", error);
   if (size > kLargestTextFile) {
-    return Failure{TextFromPath(*found) + ": the file is too large to be one of the game's (" +
+    return Failure{TextFromPath(path) + ": the file is too large to be one of the game's (" +
                    std::to_string(size / (1024ULL * 1024)) + " MB)"};
   }
-  OpenFileHandle file = OpenForBytes(*found, OpenTo::Read);
-  if (!file) return FileFailure(*found, "the file cannot be opened", LastError());
+  OpenFileHandle file = OpenForBytes(path, OpenTo::Read);
+  if (!file) return FileFailure(path, "the file cannot be opened", LastError());
   std::string bytes(size, '\0');
   bytes.resize(std::fread(bytes.data(), 1, bytes.size(), file.get()));
-  if (std::ferror(file.get())) return FileFailure(*found, "the file cannot be read", LastError());
+  if (std::ferror(file.get())) return FileFailure(path, "the file cannot be read", LastError());
   return bytes;
 }
 
@@ -116,19 +114,22 @@ std::vector<std::string> FilesNamedLike(const fs::path& folder, std::string_view
 }
 
 Result<std::string> ReadTextFile(const fs::path& path) {
-  Result<std::string> bytes = ReadBytes(path);
+  const std::optional<fs::path> found = FindFile(path);
+  if (!found) return Failure{TextFromPath(path) + ": there is no such file"};
+  Result<std::string> bytes = ReadBytes(*found);
   if (!bytes) return bytes;
   if (const size_t zero = bytes->find('\0'); zero != bytes->npos) {
     const auto line = std::count(bytes->begin(), bytes->begin() + static_cast<long>(zero), '\n');
-    return Failure{PlaceInFile(TextFromPath(path), static_cast<int>(line) + 1) +
+    return Failure{PlaceInFile(TextFromPath(*found), static_cast<int>(line) + 1) +
                    ": this is no text file, a zero byte stands here"};
   }
   return DecodeText(std::move(*bytes));
 }
 
 Result<std::string> ReadOptionalTextFile(const fs::path& path) {
-  if (!FindFile(path)) return std::string();
-  Result<std::string> bytes = ReadBytes(path);
+  const std::optional<fs::path> found = FindFile(path);
+  if (!found) return std::string();
+  Result<std::string> bytes = ReadBytes(*found);
   return bytes ? DecodeText(std::move(*bytes)) : bytes;
 }
 
