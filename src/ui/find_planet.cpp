@@ -25,6 +25,12 @@ void OfferCompletions(QComboBox& list) {
   QObject::disconnect(list.lineEdit(), &QLineEdit::returnPressed, &list, nullptr);
 }
 
+QStringList EntriesOf(const QComboBox& list) {
+  QStringList entries;
+  for (int row = 0; row < list.count(); ++row) entries << list.itemText(row);
+  return entries;
+}
+
 }  // namespace
 
 FindPlanet::FindPlanet(GameSession& session, Prompts& prompts, QWidget* parent)
@@ -69,8 +75,7 @@ void FindPlanet::showEvent(QShowEvent* event) {
 void FindPlanet::FillPlanetList() {
   QStringList entries;
   for (const std::string& entry : PlanetEntries(session_)) entries << ToQString(entry);
-  if (entries != entries_) {
-    entries_ = entries;
+  if (entries != EntriesOf(*PlanetList)) {
     PlanetList->clear();
     PlanetList->addItems(entries);
     PlanetList->setCurrentIndex(-1);

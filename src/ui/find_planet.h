@@ -5,7 +5,6 @@
 #include <QDialog>
 #include <QLabel>
 #include <QPushButton>
-#include <QStringList>
 
 #include "model/game_session.h"
 #include "ui/prompts.h"
@@ -41,7 +40,6 @@ class FindPlanet : public QDialog {
 
   GameSession& session_;
   Prompts& prompts_;
-  QStringList entries_;  // of the game that the list shows
 };
 
 }  // namespace quorvane
