@@ -12,7 +12,6 @@
 #include <vector>
 
 #include "game_on_disk.h"
-#include "loading/drawing_file.h"
 #include "loading/load_game.h"
 #include "platform/toolkit/picture_surface.h"
 #include "ratio_reporter.h"
@@ -34,12 +33,13 @@ template <typename Surface>
 class Map {
  public:
   Map(const GameSession& session, const OverlaySwitches& switches)
-      : session_(session), switches_(switches), drawing_(ParseDrawing(session.DrawingLayer)) {
+      : session_(session), switches_(switches) {
     view_.ShowAll(session_.UniverseExtent);
   }
 
   void Redraw() {
-    DrawOverlays({session_, view_, switches_, universe_, universe2_, nullptr, drawing_});
+    DrawOverlays(
+        {session_, view_, switches_, universe_, universe2_, nullptr, session_.DrawingLayer});
   }
   const QImage& Picture() const { return universe_.Picture(); }
 
@@ -47,7 +47,6 @@ class Map {
   GameSession session_;
   MapView view_;
   OverlaySwitches switches_;
-  std::vector<DrawingRecord> drawing_;
   Surface universe_{kMapSize};
   Surface universe2_{kMapSize};
 };

@@ -98,9 +98,9 @@ void AnalysePlayers(GameSession& session, const ShowProgress& showProgress) {
 
 Result<void> ReadCompanions(GameSession& session) {
   if (Result<void> colours = ReadRaceColourFile(session); !colours) return colours;
-  const Result<std::vector<DrawingRecord>> drawing = ReadDrawingFile(session);
+  Result<std::vector<DrawingRecord>> drawing = ReadDrawingFile(session);
   if (!drawing) return Failure{drawing.Message()};
-  session.DrawingLayer = DrawingLayerText(*drawing);
+  session.DrawingLayer = std::move(*drawing);
   return ReadEmpireDataFile(session);
 }
 

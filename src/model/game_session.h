@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "model/drawing_record.h"
 #include "model/game_choice.h"
 #include "model/influence_grid.h"
 #include "model/planet_record.h"
@@ -44,10 +45,13 @@ struct GameSession : GameChoice {
   int SelectedX = 0;
   int SelectedY = 0;
 
-  /// The drawing layer as read from the drawing file, one record per line.
-  std::string DrawingLayer;
+  /// The drawing layer as read from the drawing file.
+  std::vector<DrawingRecord> DrawingLayer;
   /// Owners for whom the player table has no place, in map order.
   std::vector<std::string> OwnersWithoutRecord;
+
+  /// Whether there is a game at all: a map without planets is refused.
+  bool IsLoaded() const { return PlanetCount > 0; }
 
   PlanetRecord& Planet(int number) { return PlanetTable.at(static_cast<std::size_t>(number)); }
   const PlanetRecord& Planet(int number) const {

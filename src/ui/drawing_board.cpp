@@ -40,9 +40,9 @@ void DrawingBoard::ShowLoadedGame() {
   DrawLine->hide();
   ForgetShapes();
   tools_.StopDrawing();
-  tools_.ShowSavedLayer(ToQString(session_.DrawingLayer));
+  const std::vector<DrawingRecord>& layer = session_.DrawingLayer;
+  tools_.ShowSavedLayer(ToQString(DrawingLayerText(layer)));
   // Drawing goes on in the colour that was used last.
-  const std::vector<DrawingRecord> layer = ParseDrawing(session_.DrawingLayer);
   if (!layer.empty()) tools_.SelectColour(layer.back().ColourNumber);
   if (FindFile(session_.DrawingFilePath)) map_.TakeDrawingPen();
 }
@@ -50,7 +50,7 @@ void DrawingBoard::ShowLoadedGame() {
 bool DrawingBoard::Universe_MouseDown(SurfacePoint at) {
   const DrawingTool tool = tools_.Tool();
   if (tool == DrawingTool::StopDrawing) return false;
-  if (session_.PlanetCount == 0) return true;  // no universe to draw in yet
+  if (!session_.IsLoaded()) return true;  // no universe to draw in yet
   if (tool == DrawingTool::Text) {
     AddText(at);
   } else {
@@ -122,7 +122,7 @@ void DrawingBoard::DrawShapes() {
 }
 
 void DrawingBoard::SaveQVL_Click() {
-  if (session_.PlanetCount == 0) return prompts_.Inform(kNothingToSave);
+  if (!session_.IsLoaded()) return prompts_.Inform(kNothingToSave);
   const Result<void> saved = WriteDrawingFile(session_, ToText(tools_.PlotBox->toPlainText()));
   if (saved) tools_.LayerSaved();
   prompts_.Inform(saved ? "Saved to " + TextFromPath(session_.DrawingFilePath) : saved.Message());

@@ -131,7 +131,7 @@ void Main::mnuAbout_Click() { About(this).exec(); }
 void Main::mnuThanks_Click() { Thanksto(this).exec(); }
 
 void Main::mnuSave_Click() {
-  if (session_.PlanetCount == 0) return prompts_.Inform(kNothingToSave);
+  if (!session_.IsLoaded()) return prompts_.Inform(kNothingToSave);
   const std::filesystem::path file = MapPictureFile(session_);
   prompts_.Inform("Map saved to " + TextFromPath(file));
   const Result<void> saved = SavePicture(file, Map->Universe->Surface().Picture());
@@ -139,7 +139,7 @@ void Main::mnuSave_Click() {
 }
 
 void Main::mnuSaveRaceC_Click() {
-  if (session_.PlanetCount == 0) return prompts_.Inform(kNothingToSave);
+  if (!session_.IsLoaded()) return prompts_.Inform(kNothingToSave);
   const Result<void> saved = WriteRaceColourFile(session_);
   prompts_.Inform(saved ? "Current Colour settings saved" : saved.Message());
 }

@@ -20,7 +20,7 @@ namespace quorvane {
 // saved yet included.
 void Main::Map_Resized() {
   session_.BordersCached = 0;
-  if (session_.PlanetCount == 0 || isDrawing_) return;
+  if (!session_.IsLoaded() || isDrawing_) return;
   DrawMap(Overlays->Switches());
   Board->DrawShapes();
 }

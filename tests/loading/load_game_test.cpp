@@ -5,6 +5,7 @@
 #include <tuple>
 #include <vector>
 
+#include "loading/drawing_file.h"
 #include "loading/open_checks.h"
 #include "loading/report_finder.h"
 #include "platform/files/files.h"
@@ -76,7 +77,7 @@ TEST_F(LoadGameTest, AppliesTheCompanionFiles) {
   const GameSession loaded = Load();
   EXPECT_EQ(loaded.Player(1).ColourSlot(), 2);
   EXPECT_EQ(*loaded.ColourOf(2), (Colour{10, 20, 30}));
-  EXPECT_EQ(loaded.DrawingLayer, "C,1100,1200,50,3\r\n");
+  EXPECT_EQ(DrawingLayerText(loaded.DrawingLayer), "C,1100,1200,50,3\r\n");
   EXPECT_EQ(loaded.Player(1)[PlayerField::GravMin], FieldValue(0.5));
   EXPECT_EQ(FieldText(loaded.Player(1)[PlayerField::NotesText]), "a note");
 }
