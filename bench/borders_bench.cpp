@@ -26,12 +26,12 @@ struct Map {
     for (int player = 1; player <= Session.PlayerCount; ++player) {
       Session.Player(player)[PlayerField::ColourSlot] = player;
     }
-    ComputeInfluence(Session, nullptr);
+    ComputeInfluence(Session, {});
     View.ShowAll(Session.UniverseExtent);
     Switches.Set(OverlayKind::InfluenceBorders, true);
   }
 
-  void Redraw() { DrawOverlays({Session, View, Switches, Universe, Universe2, nullptr}); }
+  void Redraw() { DrawOverlays({Session, View, Switches, Universe, Universe2, {}}); }
 
   GameSession Session = MakeInfluenceGame(kHugeGame);
   MapView View;

@@ -43,7 +43,7 @@ void MergeFromDisk(GameSession& session) {
 
 template <typename Merge>
 void MeasureMerge(benchmark::State& state, const Merge& merge) {
-  const Result<GameSession> loaded = LoadGame(Game<kHugeShape>().Choice(100), "", nullptr);
+  const Result<GameSession> loaded = LoadGame(Game<kHugeShape>().Choice(100), "", {});
   if (!loaded) return state.SkipWithError(loaded.Message().c_str());
   const GameSession planets = reference::SessionBeforeReports(*loaded, "");
   GameSession session;
@@ -58,7 +58,7 @@ void MeasureMerge(benchmark::State& state, const Merge& merge) {
 
 void MeasureLoad(benchmark::State& state, const GameChoice& choice) {
   for (auto _ : state) {
-    const Result<GameSession> session = LoadGame(choice, "", nullptr);
+    const Result<GameSession> session = LoadGame(choice, "", {});
     if (!session) return state.SkipWithError(session.Message().c_str());
     benchmark::DoNotOptimize(session->InfluenceGrid.Size());
   }

@@ -38,8 +38,7 @@ class Map {
   }
 
   void Redraw() {
-    DrawOverlays(
-        {session_, view_, switches_, universe_, universe2_, nullptr, session_.DrawingLayer});
+    DrawOverlays({session_, view_, switches_, universe_, universe2_, {}, session_.DrawingLayer});
   }
   const QImage& Picture() const { return universe_.Picture(); }
 
@@ -149,7 +148,7 @@ int main(int argc, char** argv) {
   const QGuiApplication application(argc, argv);
   generator::GameShape shape = kHugeShape;
   shape.HasCompanions = true;  // among them a drawing
-  const Result<GameSession> session = LoadGame(GameOnDisk(shape).Choice(100), "", nullptr);
+  const Result<GameSession> session = LoadGame(GameOnDisk(shape).Choice(100), "", {});
   if (!session || !RegisterAll(*session)) {
     std::puts(session ? "The plain version gives another result." : session.Message().c_str());
     return 1;

@@ -99,7 +99,7 @@ int CompareMerges(int seed, int damage) {
   WriteFiles(game, folder, damage, random);
   const GameChoice choice = MakeChoice(game, folder, random);
   const std::string myRaceName = random.Chance(50) ? "" : "Somebody";
-  const Result<GameSession> loaded = LoadGame(choice, myRaceName, nullptr);
+  const Result<GameSession> loaded = LoadGame(choice, myRaceName, {});
   EXPECT_TRUE(loaded) << loaded.Message();
   if (!loaded) return 0;
   GameSession plain = reference::SessionBeforeReports(*loaded, myRaceName);

@@ -157,20 +157,19 @@ void InfluenceRun::StoreTerritories() {
 
 }  // namespace
 
-void ComputeInfluence(GameSession& session, const ShowProgress& showProgress) {
+bool ComputeInfluence(GameSession& session, const Progress& progress) {
   const int allColumns = session.GridSize + 1;
-  const auto show = [&](int value) {
-    if (showProgress) showProgress(value, allColumns);
-  };
   session.CreateInfluenceGrid(session.GridSize);
-  show(0);
+  progress.Show(0, allColumns);
   InfluenceRun run(session);
   for (int column = 0; column < allColumns; column += kStripColumns) {
     run.ComputeColumns({column, std::min(kStripColumns, allColumns - column)});
-    show(column);
+    progress.Show(column, allColumns);
+    if (progress.IsStopped()) return false;
   }
   run.StoreTerritories();
-  show(allColumns);
+  progress.Show(allColumns, allColumns);
+  return true;
 }
 
 }  // namespace quorvane

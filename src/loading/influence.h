@@ -13,6 +13,7 @@ namespace quorvane {
 /// Reads `GridSize`, `GridCellSize`, `SoiSetting`, `PlayerCount` and each planet's `X`, `Y`,
 /// `SoiRadius` and `OwnerIndex`; writes `InfluenceGrid` and `Territory`, the number of points held,
 /// of every player who holds any (record 0: points that were reached but held by nobody).
-void ComputeInfluence(GameSession& session, const ShowProgress& showProgress);
+/// @return false, and nothing of this is complete, when the user stopped it
+bool ComputeInfluence(GameSession& session, const Progress& progress);
 
 }  // namespace quorvane

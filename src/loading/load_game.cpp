@@ -53,7 +53,7 @@ Result<std::string> ReadReport(const ReportFileSlot& slot) {
   return text;
 }
 
-Result<void> MergeReports(GameSession& session) {
+Result<void> MergeReports(GameSession& session, const Progress& progress) {
   ReportMerge merge(session);
   if (session.MyRaceRow >= 1 && session.MyRaceRow <= kMaxPlayers) {
     const ReportFileSlot& own = session.ReportFiles.at(static_cast<std::size_t>(session.MyRaceRow));
@@ -64,6 +64,7 @@ Result<void> MergeReports(GameSession& session) {
   for (int row = 1; row <= kMaxPlayers; ++row) {
     const ReportFileSlot& other = session.ReportFiles.at(static_cast<std::size_t>(row));
     if (row == session.MyRaceRow || !FieldValue(other.Included).ReadsAs(1)) continue;
+    if (progress.IsStopped()) return Failure{kLoadingStopped};
     const Result<std::string> text = ReadReport(other);
     if (!text) return Failure{text.Message()};
     merge.AddOtherReport(*text, other.Year);
@@ -84,16 +85,18 @@ void ClearTraits(PlayerRecord& player) {
   player[PlayerField::NotesText] = "";
 }
 
-void AnalysePlayers(GameSession& session, const ShowProgress& showProgress) {
+// False when the user stopped it.
+bool AnalysePlayers(GameSession& session, const Progress& progress) {
   DiscoverPlayers(session);
   GatherStatistics(session);
-  ComputeInfluence(session, showProgress);
-  if (session.ReportStyle != kNewReportStyle) return;
+  if (!ComputeInfluence(session, progress)) return false;
+  if (session.ReportStyle != kNewReportStyle) return true;
   ConvertTerritories(session);
   for (int player = 1; player <= session.PlayerCount; ++player) {
     EstimateHabRanges(session, player);
     ClearTraits(session.Player(player));
   }
+  return true;
 }
 
 Result<void> ReadCompanions(GameSession& session) {
@@ -107,17 +110,17 @@ Result<void> ReadCompanions(GameSession& session) {
 }  // namespace
 
 Result<GameSession> LoadGame(const GameChoice& choice, std::string_view myRaceName,
-                             const ShowProgress& showProgress) {
+                             const Progress& progress) {
   GameSession session;
   static_cast<GameChoice&>(session) = choice;
   session.MyRaceName = myRaceName;
   session.Reset();
   session.CreatePlayerTable();
   if (const Result<void> map = ReadMap(session); !map) return Failure{map.Message()};
-  if (const Result<void> reports = MergeReports(session); !reports) {
+  if (const Result<void> reports = MergeReports(session, progress); !reports) {
     return Failure{reports.Message()};
   }
-  AnalysePlayers(session, showProgress);
+  if (!AnalysePlayers(session, progress)) return Failure{kLoadingStopped};
   for (int i = 1; i <= session.PlanetCount; ++i) {
     PlanetRecord& planet = session.Planet(i);
     planet[PlanetField::ScoreValue] = PlanetScore(planet);

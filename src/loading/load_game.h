@@ -9,14 +9,18 @@
 
 namespace quorvane {
 
+/// The sentence that a load gives back which the user stopped.
+inline constexpr const char* kLoadingStopped = "Loading stopped";
+
 /// Builds the whole game that the user chose: reads its map and reports, merges them, finds the
 /// players, computes spheres, influence and territories, estimates the races' ranges and applies
 /// the companion files that lie beside the map.
 /// @param myRaceName  the user's race as the previous load found it; it stays while the new reports
 ///                    do not tell
-/// @return the complete session, or one sentence with file, line and reason; nothing else changes
+/// @return the complete session, or one sentence with file, line and reason, or `kLoadingStopped`;
+///         nothing else changes
 Result<GameSession> LoadGame(const GameChoice& choice, std::string_view myRaceName,
-                             const ShowProgress& showProgress);
+                             const Progress& progress);
 
 /// The main window's caption: program and version, and for a chosen map its name and game year.
 std::string MainCaption(std::string_view version, const GameChoice* choice);

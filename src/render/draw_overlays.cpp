@@ -12,55 +12,57 @@
 #include "render/report_age_overlay.h"
 #include "render/scan_overlay.h"
 #include "render/stargate_overlay.h"
+#include "render/stoppable_surface.h"
 
 namespace quorvane {
 namespace {
 
 using Kind = OverlayKind;
-using DrawLayer = void (*)(const MapDrawing& map);
+using DrawLayer = void (*)(const MapDrawing& map, DrawingSurface& surface);
 
 void Blank(DrawingSurface& surface) {
   surface.SetBackground(nullptr);
   surface.Clear();
 }
 
-void DrawBorders(const MapDrawing& map) {
+// False when the user stopped it.
+bool DrawBorders(const MapDrawing& map) {
   if (!map.Switches.IsOn(Kind::InfluenceBorders)) {
     Blank(map.Universe);
-    return;
+    return true;
   }
   const bool isZoomIn = map.Switches.IsOn(Kind::ZoomIn);
   if (map.Session.BordersCached == 1 && !isZoomIn) {
     map.Universe.SetBackground(map.Universe2.Image());
-    return;
+    return true;
   }
-  DrawInfluenceBorders(map.Session, map.View, map.Universe, map.Progress);
-  if (isZoomIn) return;  // only the whole universe is worth keeping
+  if (!DrawInfluenceBorders(map.Session, map.View, map.Universe, map.Progress)) return false;
+  if (isZoomIn) return true;  // only the whole universe is worth keeping
   map.Universe2.SetBackground(map.Universe.Image());
   map.Session.BordersCached = 1;
+  return true;
 }
 
 // An overlay that depends on nothing but the game and the view.
 template <auto DrawOverlay>
-void Draw(const MapDrawing& map) {
-  DrawOverlay(map.Session, map.View, map.Universe);
+void Draw(const MapDrawing& map, DrawingSurface& surface) {
+  DrawOverlay(map.Session, map.View, surface);
 }
 
-void DrawNames(const MapDrawing& map) {
-  DrawPlanetNames(map.Session, map.View, map.Universe, map.Switches.IsOn(Kind::NamesColoured));
+void DrawNames(const MapDrawing& map, DrawingSurface& surface) {
+  DrawPlanetNames(map.Session, map.View, surface, map.Switches.IsOn(Kind::NamesColoured));
 }
 
-void DrawEstimatedHab(const MapDrawing& map) {
-  DrawEstimatedHabValues(map.Session, map.View, map.Universe, map.Switches.RaceName);
+void DrawEstimatedHab(const MapDrawing& map, DrawingSurface& surface) {
+  DrawEstimatedHabValues(map.Session, map.View, surface, map.Switches.RaceName);
 }
 
-void DrawStargateLinks(const MapDrawing& map) {
-  DrawStargates(map.Session, map.View, map.Universe,
-                map.Switches.IsOn(Kind::CompleteStargateNetwork));
+void DrawStargateLinks(const MapDrawing& map, DrawingSurface& surface) {
+  DrawStargates(map.Session, map.View, surface, map.Switches.IsOn(Kind::CompleteStargateNetwork));
 }
 
-void DrawUserDrawing(const MapDrawing& map) {
-  DrawDrawingLayer(map.Drawing, map.View, map.Universe);
+void DrawUserDrawing(const MapDrawing& map, DrawingSurface& surface) {
+  DrawDrawingLayer(map.Drawing, map.View, surface);
 }
 
 // One overlay above the borders: what switches it on and what draws it.
@@ -98,12 +100,14 @@ constexpr Layer kLayers[] = {
 
 }  // namespace
 
-void DrawOverlays(const MapDrawing& map) {
+bool DrawOverlays(const MapDrawing& map) {
   Blank(map.Universe);
-  DrawBorders(map);
+  if (!DrawBorders(map)) return false;
+  StoppableSurface surface(map.Universe, map.Progress);
   for (const Layer& layer : kLayers) {
-    if (layer.IsOn(map.Switches)) layer.Draw(map);
+    if (layer.IsOn(map.Switches)) layer.Draw(map, surface);
   }
+  return !surface.IsStopped();
 }
 
 }  // namespace quorvane

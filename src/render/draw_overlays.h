@@ -21,8 +21,8 @@ struct MapDrawing {
   DrawingSurface& Universe;
   /// Its twin of the same size, which is never shown and keeps the picture of the borders.
   DrawingSurface& Universe2;
-  /// Told how far the painting of the borders is.
-  const ShowProgress& Progress;
+  /// Told how far the painting of the borders is; the user may stop the redraw.
+  const quorvane::Progress& Progress;
   /// The user's drawings as their file has them.
   std::span<const DrawingRecord> Drawing = {};
 };
@@ -30,6 +30,7 @@ struct MapDrawing {
 /// Blanks the map and draws every overlay that is on, each over the previous ones, in one fixed
 /// order. The influence borders come first; their picture at full view is kept on the twin and used
 /// again while `BordersCached` is 1.
-void DrawOverlays(const MapDrawing& map);
+/// @return false when the user stopped it; what is drawn by then stays
+bool DrawOverlays(const MapDrawing& map);
 
 }  // namespace quorvane

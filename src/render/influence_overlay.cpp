@@ -121,13 +121,10 @@ void DrawEdgesBetweenColumns(const GameSession& session, const MapView& view,
 
 }  // namespace
 
-void DrawInfluenceBorders(const GameSession& session, const MapView& view, DrawingSurface& surface,
-                          const ShowProgress& showProgress) {
+bool DrawInfluenceBorders(const GameSession& session, const MapView& view, DrawingSurface& surface,
+                          const Progress& progress) {
   const InfluenceGrid& grid = session.InfluenceGrid;
-  if (grid.Size() < 0) return;  // no game is loaded
-  const auto show = [&](int value) {
-    if (showProgress) showProgress(value, grid.Size() + 1);
-  };
+  if (grid.Size() < 0) return true;  // no game is loaded
   ShadesOfPlayers shadesOfPlayers;
   for (int player = 0; player <= kMaxPlayers; ++player) {
     shadesOfPlayers[static_cast<std::size_t>(player)] = ShadesOf(session, player);
@@ -135,14 +132,17 @@ void DrawInfluenceBorders(const GameSession& session, const MapView& view, Drawi
   const GridLines columns = ColumnsInView(session, view);
   const GridLines rows = RowsInView(session, view);
 
-  show(0);
+  progress.Show(0, grid.Size() + 1);
   surface.SetPen(DotPen(view, surface, 2));
   for (int gx = 0; gx <= grid.Size(); ++gx) {
     const std::optional<double>& x = columns[static_cast<std::size_t>(gx)];
     if (x) DrawColumn(grid, shadesOfPlayers, gx, *x, rows, surface);
-    if (gx % kColumnsPerProgressStep == 0) show(gx);
+    if (gx % kColumnsPerProgressStep != 0) continue;
+    progress.Show(gx, grid.Size() + 1);
+    if (progress.IsStopped()) return false;
   }
-  show(grid.Size() + 1);
+  progress.Show(grid.Size() + 1, grid.Size() + 1);
+  return true;
 }
 
 void DrawTerritoryEdges(const GameSession& session, const MapView& view, DrawingSurface& surface) {

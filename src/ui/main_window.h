@@ -8,7 +8,7 @@
 #include <memory>
 
 #include "model/game_session.h"
-#include "model/progress.h"
+#include "model/result.h"
 #include "render/map_view.h"
 #include "render/overlay_kind.h"
 #include "ui/main_menu.h"
@@ -24,6 +24,7 @@ class DrawingBoard;
 class FindPlanet;
 class Grid;
 class Legend;
+class LongStep;
 class MapPanel;
 class OverlayBar;
 
@@ -90,10 +91,10 @@ class Main : public QMainWindow {
   void ConnectMenus();
   void EnableOverlays(bool isEnabled);
   void PlaceSelector();
+  Result<GameSession> RunLoad();
   void ShowLoadedGame();
   void ResetWindow();
   void DrawMap(OverlaySwitches switches);
-  ShowProgress ProgressDisplay();
 
   std::unique_ptr<Prompts> ownPrompts_;
   Prompts& prompts_;
@@ -105,6 +106,7 @@ class Main : public QMainWindow {
   QScrollArea* scroll_ = nullptr;
   QWidget* area_ = nullptr;
   bool isDrawing_ = false;
+  LongStep* redraw_ = nullptr;
 };
 
 }  // namespace quorvane

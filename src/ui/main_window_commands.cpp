@@ -22,6 +22,7 @@
 #include "ui/find_planet.h"
 #include "ui/grid.h"
 #include "ui/legend.h"
+#include "ui/long_step.h"
 #include "ui/main_window.h"
 #include "ui/map_panel.h"
 #include "ui/overlay_bar.h"
@@ -57,11 +58,15 @@ void Main::LoadChosenGame() {
   const bool wasEnabled = Menu.mnuOver->isEnabled();
   Menu.mnuOver->setEnabled(false);
   repaint();
-  Result<GameSession> loaded = LoadGame(open_.Choice, session_.MyRaceName, ProgressDisplay());
+  Result<GameSession> loaded = RunLoad();
   if (!loaded) {
     Menu.mnuOver->setEnabled(wasEnabled);
     ProgressBar1->setValue(0);
-    prompts_.Inform(loaded.Message());
+    if (loaded.Message() == kLoadingStopped) {
+      theplanet->setText(QString(" ") + kLoadingStopped);
+    } else {
+      prompts_.Inform(loaded.Message());
+    }
     return;
   }
   session_ = std::move(*loaded);
@@ -69,6 +74,11 @@ void Main::LoadChosenGame() {
   if (!session_.OwnersWithoutRecord.empty()) {
     prompts_.Inform(LeftOutMessage(session_.OwnersWithoutRecord));
   }
+}
+
+Result<GameSession> Main::RunLoad() {
+  LongStep step(*ProgressBar1);
+  return LoadGame(open_.Choice, session_.MyRaceName, step.Display());
 }
 
 void Main::ShowLoadedGame() {

@@ -8,6 +8,7 @@
 #include "ui/details_panel.h"
 #include "ui/drawing_board.h"
 #include "ui/legend.h"
+#include "ui/long_step.h"
 #include "ui/main_window.h"
 #include "ui/map_panel.h"
 #include "ui/overlay_bar.h"
@@ -20,6 +21,7 @@ namespace quorvane {
 // saved yet included.
 void Main::Map_Resized() {
   session_.BordersCached = 0;
+  if (redraw_ != nullptr) return redraw_->Stop();  // it begins again
   if (!session_.IsLoaded() || isDrawing_) return;
   DrawMap(Overlays->Switches());
   Board->DrawShapes();
@@ -109,15 +111,15 @@ void Main::DrawOverlays() {
 
 void Main::DrawMap(OverlaySwitches switches) {
   switches.RaceName = ToText(Combo1->currentText());
-  Map->Draw(session_, switches, Board->Layer(), ProgressDisplay());
-}
-
-ShowProgress Main::ProgressDisplay() {
-  return [this](int value, int maximum) {
-    ProgressBar1->setRange(0, maximum);
-    ProgressBar1->setValue(value);
-    ProgressBar1->repaint();
-  };
+  bool isComplete = false;
+  QSize drawn;
+  do {
+    LongStep step(*ProgressBar1);
+    const QScopedValueRollback running(redraw_, &step);
+    drawn = Map->Universe->Surface().Picture().size();
+    isComplete = Map->Draw(session_, switches, Board->Layer(), step.Display());
+  } while (Map->Universe->Surface().Picture().size() != drawn);
+  if (!isComplete) theplanet->setText(" Drawing stopped");
 }
 
 }  // namespace quorvane

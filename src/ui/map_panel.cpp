@@ -73,16 +73,17 @@ bool MapPanel::Scroll(int key, Qt::KeyboardModifiers modifiers) {
   return scrollKey && ScrollView(state_, *scrollKey, ShiftMaskOf(modifiers));
 }
 
-void MapPanel::Draw(GameSession& session, const OverlaySwitches& switches,
-                    std::span<const DrawingRecord> drawing, const ShowProgress& progress) {
-  DrawOverlays({.Session = session,
-                .View = state_.View,
-                .Switches = switches,
-                .Universe = Universe->Surface(),
-                .Universe2 = Universe2->Surface(),
-                .Progress = progress,
-                .Drawing = drawing});
+bool MapPanel::Draw(GameSession& session, const OverlaySwitches& switches,
+                    std::span<const DrawingRecord> drawing, const Progress& progress) {
+  const bool isComplete = DrawOverlays({.Session = session,
+                                        .View = state_.View,
+                                        .Switches = switches,
+                                        .Universe = Universe->Surface(),
+                                        .Universe2 = Universe2->Surface(),
+                                        .Progress = progress,
+                                        .Drawing = drawing});
   Universe->update();
+  return isComplete;
 }
 
 void MapPanel::TakeDrawingPen() {

@@ -33,8 +33,9 @@ class MapPanel : public QObject {
   /// Moves a zoomed map. @return whether it is to be drawn again
   bool Scroll(int key, Qt::KeyboardModifiers modifiers);
   /// @param drawing the user's drawing layer
-  void Draw(GameSession& session, const OverlaySwitches& switches,
-            std::span<const DrawingRecord> drawing, const ShowProgress& progress);
+  /// @return false when the user stopped it; what is drawn by then stays
+  bool Draw(GameSession& session, const OverlaySwitches& switches,
+            std::span<const DrawingRecord> drawing, const Progress& progress);
 
   /// Gives the map the pen of the drawing layer, as a drawing file that is loaded does. Overlays
   /// that keep the pen's mode draw in this one next.

@@ -33,8 +33,10 @@ TEST(ComputeInfluence, ShowsProgressEveryTenColumns) {
   GameSession session = GameBuilder().Build();
   session.GridSize = 19;
   std::vector<std::pair<int, int>> shown;
-  ComputeInfluence(session, [&](int value, int most) { shown.emplace_back(value, most); });
+  const auto show = [&](int value, int most) { shown.emplace_back(value, most); };
+  EXPECT_TRUE(ComputeInfluence(session, {.ShowValue = show, .AskStopped = {}}));
   EXPECT_EQ(shown, (decltype(shown){{0, 20}, {0, 20}, {10, 20}, {20, 20}}));
+  EXPECT_FALSE(ComputeInfluence(session, {.ShowValue = {}, .AskStopped = [] { return true; }}));
 }
 
 }  // namespace

@@ -56,6 +56,20 @@ TEST_F(LoadGameTest, MergesTheReportsIntoOneGame) {
   EXPECT_EQ(TextsOf(loaded.Planet(4), {Field::AgeText, Field::ScoreValue}), (Texts{"", "3"}));
 }
 
+TEST_F(LoadGameTest, StopsWhereverTheUserAsksForIt) {
+  Load();
+  int questions = 0;
+  const auto ask = [&] { return questions-- == 0; };
+  int stops = 0;
+  for (bool isStopped = true; isStopped; ++stops) {
+    questions = stops;
+    const Result<GameSession> loaded = LoadGame(choice, "", {.ShowValue = {}, .AskStopped = ask});
+    isStopped = !loaded;
+    EXPECT_EQ(loaded.Message(), isStopped ? kLoadingStopped : "") << stops;
+  }
+  EXPECT_GT(stops, 60);
+}
+
 TEST_F(LoadGameTest, CountsAndEstimatesEveryPlayer) {
   using Field = PlayerField;
   const GameSession loaded = Load();

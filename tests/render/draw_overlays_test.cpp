@@ -49,7 +49,9 @@ class DrawOverlaysTest : public testing::Test {
     OverlaySwitches switches = On(kinds);
     switches.RaceName = session.MyRaceName;
     map.Forget();
-    DrawOverlays({session, view, switches, map, twin, [this](int, int) { hasProgress = true; }});
+    const Progress progress = {.ShowValue = [this](int, int) { hasProgress = true; },
+                               .AskStopped = [this] { return --questionsLeft < 0; }};
+    isComplete = DrawOverlays({session, view, switches, map, twin, progress});
     return map.Lines();
   }
 
@@ -57,6 +59,8 @@ class DrawOverlaysTest : public testing::Test {
   MapView view = FullView();
   RecordingSurface map, twin;
   bool hasProgress = false;
+  bool isComplete = false;
+  int questionsLeft = 1000;
 };
 
 TEST_F(DrawOverlaysTest, DrawsFromTheBordersUpToTheTerritoryEdgesWhateverWasSwitchedOnFirst) {
@@ -64,7 +68,7 @@ TEST_F(DrawOverlaysTest, DrawsFromTheBordersUpToTheTerritoryEdgesWhateverWasSwit
   EXPECT_EQ(lines, (Texts{"background none", "clear", "point 2000,2000 #ff0000 copy w2",
                           "text 4750,5050 \"Alpha\" #ffffff 6pt",  //
                           "point 2000,2500 #ff0000 copy w1", "point 2500,2000 #ff0000 copy w1"}));
-  EXPECT_TRUE(hasProgress);
+  EXPECT_TRUE(hasProgress && isComplete);
 }
 
 TEST_F(DrawOverlaysTest, FullViewOfTheBordersIsKeptWithoutTheOverlaysAboveAndUsedAgain) {
@@ -126,6 +130,19 @@ TEST_F(DrawOverlaysTest, SingleMineralsTakeTheModeOfTheRedrawBefore) {
   Redraw({Kind::EstimateHabValues});
   EXPECT_EQ(Redraw({Kind::IroniumConcentration}).back(),
             "circle 5000,5000 r40 #0000ff fill #0000ff merge no-outline w1");
+}
+
+TEST_F(DrawOverlaysTest, StoppedRedrawKeepsWhatIsDrawnAndNoHalfPictureOfTheBorders) {
+  questionsLeft = 0;
+  EXPECT_EQ(Redraw({Kind::InfluenceBorders, Kind::Planets}), (Texts{"background none", "clear"}));
+  EXPECT_FALSE(isComplete);
+  EXPECT_EQ(session.BordersCached, 0);
+
+  session.PlanetTable.resize(101, session.Planet(1));
+  session.PlanetCount = 100;
+  questionsLeft = 2;
+  EXPECT_EQ(Redraw({Kind::Planets, Kind::OwnedPlanets}).size(), 4U + 47U);
+  EXPECT_FALSE(isComplete);
 }
 
 TEST_F(DrawOverlaysTest, EveryOverlayBearsAnEmptySession) {

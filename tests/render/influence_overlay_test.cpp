@@ -20,7 +20,7 @@ GameSession CoarseGame() {
 
 Texts Borders(const GameSession& session, const MapView& view, int widthInTwips = 6675) {
   RecordingSurface surface(widthInTwips);
-  DrawInfluenceBorders(session, view, surface, nullptr);
+  DrawInfluenceBorders(session, view, surface, {});
   return surface.Lines();
 }
 
@@ -61,7 +61,8 @@ TEST(DrawInfluenceBorders, ShowsProgressEveryTenColumnsWhetherInViewOrNot) {
   session.CreateInfluenceGrid(25);
   std::vector<std::pair<int, int>> shown;
   const auto show = [&](int value, int maximum) { shown.emplace_back(value, maximum); };
-  Drawn(DrawInfluenceBorders, session, Zoomed(900, 900, 50), show);
+  Drawn(DrawInfluenceBorders, session, Zoomed(900, 900, 50),
+        Progress{.ShowValue = show, .AskStopped = {}});
   EXPECT_EQ(shown, (decltype(shown){{0, 26}, {0, 26}, {10, 26}, {20, 26}, {26, 26}}));
 }
 
