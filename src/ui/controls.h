@@ -6,6 +6,15 @@
 
 namespace quorvane {
 
+/// The tooltip text that shows a text as it stands: names come from other players' files, and
+/// whatever looks like markup would be carried out, down to reading the files that it names. Lines
+/// are short enough for the screen; a text of very many lines is cut.
+QString PlainToolTip(const QString& text);
+
+/// Gives a widget such a tooltip. The widget's property keeps the lines as they are, for those who
+/// read it by other means.
+void SetPlainToolTip(QWidget& widget, const QString& text);
+
 /// A fixed text beside a value.
 inline QLabel* NewCaption(const QString& text, QWidget* parent) {
   auto* label = new QLabel(text, parent);

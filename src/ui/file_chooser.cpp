@@ -7,6 +7,7 @@
 #include <QStorageInfo>
 #include <QStyle>
 
+#include "ui/controls.h"
 #include "ui/texts.h"
 
 namespace quorvane {
@@ -88,7 +89,7 @@ void FolderList::AddFolder(const QString& name, const QString& path, int depth, 
   auto* item = new QListWidgetItem(style()->standardIcon(icon),
                                    QString(qsizetype{2} * depth, ' ') + name, this);
   item->setData(kPathRole, path);
-  item->setToolTip(QDir::toNativeSeparators(path));
+  item->setToolTip(PlainToolTip(QDir::toNativeSeparators(path)));
 }
 
 DriveList::DriveList(QWidget* parent) : QComboBox(parent) {
