@@ -78,6 +78,12 @@ bool FolderList::ShowFolder(const std::filesystem::path& folder) {
   return true;
 }
 
+// Enter is the list's own even where it opens nothing: the dialog would take it for its button.
+void FolderList::keyPressEvent(QKeyEvent* event) {
+  QListWidget::keyPressEvent(event);
+  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) event->accept();
+}
+
 void FolderList::Open(const QListWidgetItem& item) {
   const QString path = item.data(kPathRole).toString();
   if (!ShowFolder(ToPath(path))) emit FolderRefused(path);

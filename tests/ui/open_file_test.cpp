@@ -96,6 +96,14 @@ TEST_F(OpenFileTest, ForgetsTheMapWhenTheFolderChanges) {
   EXPECT_EQ(state.Choice.MapDirectory, " ");
 }
 
+TEST_F(OpenFileTest, EnterOnAVanishedFolderLoadsNothing) {
+  driver.ClickEntry("File1", "Demo.MAP").ClickEntry("Dir1", "      Deeper");
+  std::filesystem::remove(folder / "Deeper");
+  driver.Press("Dir1", Qt::Key_Return).Press("Dir1", Qt::Key_Enter);
+  EXPECT_EQ(prompts.Shown().size(), 2U);
+  EXPECT_TRUE(dialog.isVisible() && driver.IsEnabled("Command1"));
+}
+
 TEST_F(OpenFileTest, ReachingTheListByKeyboardIsNoChoiceYet) {
   QFocusEvent arrival(QEvent::FocusIn, Qt::TabFocusReason);
   QApplication::sendEvent(&driver.Find("File1"), &arrival);
