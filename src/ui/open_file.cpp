@@ -263,9 +263,11 @@ void OpenFile::Command1_Click() {
   switch (problem.Remedy) {
     case OpenRemedy::UseSmallestSoi:
       txtSOI->setText(QString::number(kSmallestSoiSetting));
+      Correct(*txtSOI);
       break;
     case OpenRemedy::UseLargestSoi:
       txtSOI->setText(QString::number(kLargestSoiSetting));
+      Correct(*txtSOI);
       break;
     case OpenRemedy::FindReportsAgain:
       File1_Click();
@@ -273,6 +275,14 @@ void OpenFile::Command1_Click() {
     case OpenRemedy::None:
       break;
   }
+  if (!problem.YearRow) return;
+  const int row = *problem.YearRow;
+  Correct(Rows->IsShown(row) ? *Rows->TxtPxYear[static_cast<std::size_t>(row)] : *txtGameYear);
+}
+
+void OpenFile::Correct(QLineEdit& box) {
+  box.setFocus();
+  box.selectAll();
 }
 
 void OpenFile::Command2_Click() { reject(); }
@@ -280,6 +290,11 @@ void OpenFile::Command2_Click() { reject(); }
 void OpenFile::reject() {
   state_.OpenDialogResult = 1;
   QDialog::reject();
+}
+
+void OpenFile::showEvent(QShowEvent* event) {
+  if (!event->spontaneous()) File1->setFocus();
+  QDialog::showEvent(event);
 }
 
 void OpenFile::closeEvent(QCloseEvent* event) {

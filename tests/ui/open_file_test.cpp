@@ -63,6 +63,29 @@ TEST_F(OpenFileTest, RefusesWhatCannotBeLoadedAndKeepsTheRest) {
   EXPECT_EQ(state.Choice.SoiSetting, 500);
 }
 
+TEST_F(OpenFileTest, AMessageAboutAYearLeadsToItsBox) {
+  driver.ClickEntry("File1", "Demo.MAP").Type("TxtPxYear(3)", "2449").Click("Command1");
+  EXPECT_EQ(dialog.focusWidget(), dialog.txtGameYear);
+  driver.Type("txtGameYear", "2448").Click("Command1");
+  EXPECT_EQ(dialog.focusWidget()->objectName(), "TxtPxYear(3)");
+  driver.Type("TxtPxYear(3)", "2448").Type("txtSOI", "1").Click("Command1");
+  EXPECT_EQ(dialog.txtSOI->selectedText(), "50");
+  EXPECT_EQ(prompts.Shown().size(), 3U);
+}
+
+TEST_F(OpenFileTest, TabGoesFromTheMapsToTheChosenRaceAndArrowsToTheOthers) {
+  EXPECT_EQ(dialog.focusWidget()->objectName(), "File1");
+  driver.ClickEntry("File1", "Demo.MAP").Click("Player(3)").Click("RemRace");
+  driver.ClickEntry("File1", "Demo.MAP").Press("File1", Qt::Key_Tab);
+  EXPECT_EQ(dialog.focusWidget()->objectName(), "Player(3)");
+  QApplication::processEvents();  // the rows get their places
+  driver.Press("Player(3)", Qt::Key_Space).Press("Player(3)", Qt::Key_Up);
+  EXPECT_EQ(dialog.focusWidget()->objectName(), "Player(1)");
+  EXPECT_EQ(state.Choice.MyRaceRow, 1);
+  driver.Press("Player(1)", Qt::Key_Tab);
+  EXPECT_EQ(dialog.focusWidget()->objectName(), "Check1(1)");
+}
+
 TEST_F(OpenFileTest, RebuildsTheRowsAfterTheRaceWasUntickedOrAReportWentAway) {
   driver.ClickEntry("File1", "Demo.MAP").Click("Check1(1)").Click("Command1");
   EXPECT_EQ(prompts.Shown().size(), 1U);
