@@ -3,6 +3,7 @@
 #include <QFile>
 #include <QIcon>
 #include <QTimer>
+#include <QWindow>
 
 #include "loading/settings_file.h"
 #include "ui/icons.h"
@@ -25,6 +26,27 @@ std::filesystem::path StartFolder() {
                                   home);
 }
 
+// Opens the first dialog when the window has its place on the screen: it stands in the middle of
+// it.
+class FirstDialog : public QObject {
+ public:
+  explicit FirstDialog(quorvane::Main& window) : window_(window) {
+    window.windowHandle()->installEventFilter(this);
+  }
+
+ protected:
+  bool eventFilter(QObject* handle, QEvent* event) override {
+    if (event->type() == QEvent::Expose && window_.windowHandle()->isExposed()) {
+      handle->removeEventFilter(this);
+      QTimer::singleShot(0, &window_, &quorvane::Main::mnuMap_Click);
+    }
+    return false;
+  }
+
+ private:
+  quorvane::Main& window_;
+};
+
 }  // namespace
 
 int main(int argc, char* argv[]) {
@@ -35,6 +57,6 @@ int main(int argc, char* argv[]) {
   QApplication::setWindowIcon(quorvane::ThemedIcon("quorvane"));
   quorvane::Main window(StartFolder());
   window.show();
-  QTimer::singleShot(0, &window, &quorvane::Main::mnuMap_Click);
+  const FirstDialog firstDialog(window);
   return QApplication::exec();
 }

@@ -1,7 +1,7 @@
 #include "ui/controls.h"
 
 #include <QHelpEvent>
-#include <QStringList>
+#include <QScreen>
 #include <QTextDocument>
 #include <QToolTip>
 
@@ -62,6 +62,11 @@ void SetPlainToolTip(QWidget& widget, const QString& text) {
   widget.setToolTip(AsItStands(text));
   widget.setProperty(kWholeTip, text);
   widget.installEventFilter(&filter);
+}
+
+QSize RoomOnScreen(const QWidget& window) {
+  constexpr QSize kFrame(0, 40);
+  return window.screen()->availableSize() - kFrame;
 }
 
 }  // namespace quorvane

@@ -15,6 +15,9 @@ QString PlainToolTip(const QString& text);
 /// read it by other means.
 void SetPlainToolTip(QWidget& widget, const QString& text);
 
+/// How large a window can be on its screen, beside what its frame takes.
+QSize RoomOnScreen(const QWidget& window);
+
 /// A fixed text beside a value.
 inline QLabel* NewCaption(const QString& text, QWidget* parent) {
   auto* label = new QLabel(text, parent);

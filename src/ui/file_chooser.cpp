@@ -15,6 +15,7 @@ namespace {
 
 // A list entry that keeps the folder it stands for.
 constexpr int kPathRole = Qt::UserRole;
+constexpr int kLeastDriveWidth = 80;  // whatever the length of its paths
 
 }  // namespace
 
@@ -99,6 +100,7 @@ void FolderList::AddFolder(const QString& name, const QString& path, int depth, 
 }
 
 DriveList::DriveList(QWidget* parent) : QComboBox(parent) {
+  setMinimumWidth(kLeastDriveWidth);
 #if defined(Q_OS_WIN)
   for (const QFileInfo& drive : QDir::drives()) addItem(drive.path(), drive.path());
 #else

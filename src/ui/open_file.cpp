@@ -1,9 +1,11 @@
 #include "ui/open_file.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QDir>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QScrollArea>
 #include <QVBoxLayout>
 
 #include "loading/dialog_files.h"
@@ -19,10 +21,28 @@
 namespace quorvane {
 namespace {
 
+constexpr QSize kFirstSize(820, 560);
+
 QLabel* NewLabel(const char* name, const QString& text, QWidget* parent) {
   QLabel* label = NewCaption(text, parent);
   label->setObjectName(name);
   return label;
+}
+
+// Where rows come and go. The room for them stays, so that nothing below them jumps, and on a small
+// screen they scroll, so that the buttons are never pushed off it.
+QScrollArea* NewScrollArea(QWidget* area) {
+  constexpr int kLeastHeight = 80;
+  auto* scroll = new QScrollArea(area->parentWidget());
+  scroll->setFrameShape(QFrame::NoFrame);
+  scroll->setFocusPolicy(Qt::NoFocus);
+  scroll->setMinimumHeight(kLeastHeight);
+  scroll->setWidgetResizable(true);
+  scroll->setWidget(area);
+  QObject::connect(qApp, &QApplication::focusChanged, scroll, [=](QWidget*, QWidget* now) {
+    if (now != nullptr && area->isAncestorOf(now)) scroll->ensureWidgetVisible(now);
+  });
+  return scroll;
 }
 
 template <typename Widget>
@@ -56,7 +76,7 @@ void OpenFile::Build() {
   AddReports(*right);
   AddSettings(*right);
   AddButtons(*right);
-  resize(820, 560);
+  resize(kFirstSize.boundedTo(RoomOnScreen(*this)));
 }
 
 void OpenFile::AddFileChooser(QBoxLayout& column) {
@@ -80,7 +100,6 @@ void OpenFile::AddReports(QBoxLayout& column) {
   PLALabelText = NewLabel("PLALabelText", "", this);
   PLALabelText->setWordWrap(true);
   Rows = new ReportRows(state_.Choice, this);
-  // The rows come and go; the room for them stays, so that nothing below them jumps.
   auto* area = new QWidget(this);
   auto* areaLayout = new QVBoxLayout(area);
   areaLayout->setContentsMargins(0, 0, 0, 0);
@@ -88,8 +107,7 @@ void OpenFile::AddReports(QBoxLayout& column) {
   areaLayout->addWidget(PLALabelText);
   areaLayout->addWidget(Rows);
   areaLayout->addStretch(1);
-  area->setMinimumHeight(290);
-  column.addWidget(area, 1);
+  column.addWidget(NewScrollArea(area), 1);
   Label1->hide();
   PLALabelText->hide();
 }

@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QFocusEvent>
 #include <QListWidget>
+#include <QScreen>
 
 #include "support/game_folder.h"
 #include "support/scripted_prompts.h"
@@ -84,6 +85,20 @@ TEST_F(OpenFileTest, TabGoesFromTheMapsToTheChosenRaceAndArrowsToTheOthers) {
   EXPECT_EQ(state.Choice.MyRaceRow, 1);
   driver.Press("Player(1)", Qt::Key_Tab);
   EXPECT_EQ(dialog.focusWidget()->objectName(), "Check1(1)");
+}
+
+TEST_F(OpenFileTest, FitsASmallScreenAndScrollsTheRows) {
+  EXPECT_LE(dialog.width(), dialog.screen()->availableSize().width());
+  for (int row = 2; row <= 16; ++row) folder.Write("Demo.P" + std::to_string(row), "x");
+  driver.ClickEntry("File1", "Demo.MAP");
+  dialog.resize(683, 344);
+  QApplication::processEvents();
+  EXPECT_EQ(dialog.size(), QSize(683, 344));
+  EXPECT_FALSE(driver.Find("Command1").visibleRegion().isEmpty());
+  const QWidget& lastYear = driver.Find("TxtPxYear(8)");
+  EXPECT_TRUE(lastYear.visibleRegion().isEmpty());
+  driver.Find("TxtPxYear(8)").setFocus();
+  EXPECT_FALSE(lastYear.visibleRegion().isEmpty());
 }
 
 TEST_F(OpenFileTest, RebuildsTheRowsAfterTheRaceWasUntickedOrAReportWentAway) {
