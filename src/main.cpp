@@ -2,9 +2,11 @@
 #include <QDir>
 #include <QFile>
 #include <QIcon>
+#include <QStandardPaths>
 #include <QTimer>
 #include <QWindow>
 
+#include "loading/example_games.h"
 #include "loading/settings_file.h"
 #include "ui/icons.h"
 #include "ui/main_window.h"
@@ -22,8 +24,11 @@ QString ProgramData() {
 
 std::filesystem::path StartFolder() {
   const std::filesystem::path home = quorvane::ToPath(QDir::homePath());
-  return quorvane::FindInstallDir(quorvane::SettingsPlaces(home, quorvane::ToPath(ProgramData())),
-                                  home);
+  const std::filesystem::path programData = quorvane::ToPath(ProgramData());
+  const QString userData = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+  return quorvane::ExampleFolder(
+      quorvane::FindInstallDir(quorvane::SettingsPlaces(home, programData), home), programData,
+      quorvane::ToPath(userData) / "quorvane");
 }
 
 // Opens the first dialog when the window has its place on the screen: it stands in the middle of
