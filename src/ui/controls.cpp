@@ -1,5 +1,6 @@
 #include "ui/controls.h"
 
+#include <QApplication>
 #include <QHelpEvent>
 #include <QScreen>
 #include <QTextDocument>
@@ -62,6 +63,18 @@ void SetPlainToolTip(QWidget& widget, const QString& text) {
   widget.setToolTip(AsItStands(text));
   widget.setProperty(kWholeTip, text);
   widget.installEventFilter(&filter);
+}
+
+QScrollArea* NewScrollArea(QWidget* part) {
+  auto* scroll = new QScrollArea(part->parentWidget());
+  scroll->setFrameShape(QFrame::NoFrame);
+  scroll->setFocusPolicy(Qt::NoFocus);
+  scroll->setWidgetResizable(true);
+  scroll->setWidget(part);
+  QObject::connect(qApp, &QApplication::focusChanged, scroll, [=](QWidget*, QWidget* now) {
+    if (now != nullptr && part->isAncestorOf(now)) scroll->ensureWidgetVisible(now);
+  });
+  return scroll;
 }
 
 QSize RoomOnScreen(const QWidget& window) {

@@ -2,6 +2,7 @@
 
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QString>
 
 namespace quorvane {
@@ -48,6 +49,10 @@ inline QLabel* NewParagraph(const QString& name, const QString& text, int width,
   label->setFixedWidth(width);
   return label;
 }
+
+/// Lets a part of a window scroll where a small screen has no room for all of it, so that the
+/// buttons of the window are never pushed off the screen. The part with the focus is in sight.
+QScrollArea* NewScrollArea(QWidget* part);
 
 /// A button under its control name.
 inline QPushButton* NewButton(const QString& name, const QString& caption, QWidget* parent) {

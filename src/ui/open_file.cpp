@@ -1,11 +1,9 @@
 #include "ui/open_file.h"
 
-#include <QApplication>
 #include <QCloseEvent>
 #include <QDir>
 #include <QGroupBox>
 #include <QHBoxLayout>
-#include <QScrollArea>
 #include <QVBoxLayout>
 
 #include "loading/dialog_files.h"
@@ -22,27 +20,12 @@ namespace quorvane {
 namespace {
 
 constexpr QSize kFirstSize(820, 560);
+constexpr int kLeastRoom = 80;  // of the reports, which scroll
 
 QLabel* NewLabel(const char* name, const QString& text, QWidget* parent) {
   QLabel* label = NewCaption(text, parent);
   label->setObjectName(name);
   return label;
-}
-
-// Where rows come and go. The room for them stays, so that nothing below them jumps, and on a small
-// screen they scroll, so that the buttons are never pushed off it.
-QScrollArea* NewScrollArea(QWidget* area) {
-  constexpr int kLeastHeight = 80;
-  auto* scroll = new QScrollArea(area->parentWidget());
-  scroll->setFrameShape(QFrame::NoFrame);
-  scroll->setFocusPolicy(Qt::NoFocus);
-  scroll->setMinimumHeight(kLeastHeight);
-  scroll->setWidgetResizable(true);
-  scroll->setWidget(area);
-  QObject::connect(qApp, &QApplication::focusChanged, scroll, [=](QWidget*, QWidget* now) {
-    if (now != nullptr && area->isAncestorOf(now)) scroll->ensureWidgetVisible(now);
-  });
-  return scroll;
 }
 
 template <typename Widget>
@@ -107,7 +90,10 @@ void OpenFile::AddReports(QBoxLayout& column) {
   areaLayout->addWidget(PLALabelText);
   areaLayout->addWidget(Rows);
   areaLayout->addStretch(1);
-  column.addWidget(NewScrollArea(area), 1);
+  // The rows come and go; the room for them stays, so that nothing below them jumps.
+  QScrollArea* room = NewScrollArea(area);
+  room->setMinimumHeight(kLeastRoom);
+  column.addWidget(room, 1);
   Label1->hide();
   PLALabelText->hide();
 }
