@@ -1,11 +1,9 @@
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QComboBox>
-#include <QGroupBox>
 #include <QHelpEvent>
 #include <QLabel>
 #include <QListWidget>
-#include <QTabWidget>
 #include <QTextDocument>
 #include <QToolTip>
 #include <set>
@@ -25,10 +23,10 @@ constexpr const char* kFile = "<b>x<img src=x>&[*]";  // no file's name holds a 
 
 bool HoldsName(const QString& text) { return text.contains(kName) || text.contains(kFile); }
 
-// Looks at every text of the program that the toolkit might interpret instead of showing it.
-class PlainTextsTest : public testing::Test {
+// Looks at every control of the program: no text may be interpreted instead of being shown.
+class AllWindowsTest : public testing::Test {
  protected:
-  PlainTextsTest() {
+  AllWindowsTest() {
     std::filesystem::create_directories(Games() / "<i>gone");
     const std::string name = kName;
     const auto write = [&](const char* ending, const std::string& text) {
@@ -69,40 +67,44 @@ class PlainTextsTest : public testing::Test {
     }
   }
 
-  void Check(const QWidget& widget) {
-    const std::string where = ToText(widget.window()->objectName() + "." + widget.objectName());
-    CheckTip(widget.toolTip(), where);
-    CheckTip(widget.whatsThis(), where);
-    for (const QAction* action : widget.actions()) {
-      CheckTip(action->toolTip(), where);
-      CheckTip(action->whatsThis(), where);
-      CheckCaption(action->text(), where);
+  // What a control, an action or a menu tells about itself.
+  void Check(const QObject& object, const std::string& where) {
+    for (const char* tip : {"toolTip", "whatsThis"}) {
+      CheckTip(object.property(tip).toString(), where);
     }
-    QString title = widget.windowTitle();
-    if (HoldsName(title.replace("[*][*]", "[!]").replace("[*]", "").replace("[!]", "[*]"))) {
-      seen.insert(where + " title");
-    }
-    if (const auto* label = qobject_cast<const QLabel*>(&widget)) {
+    const auto* label = qobject_cast<const QLabel*>(&object);
+    const bool hasKey = object.property("shortcut").isValid() || (label && label->buddy());
+    if (label != nullptr) {
       EXPECT_TRUE(label->textFormat() == Qt::PlainText || !Qt::mightBeRichText(label->text()))
           << where;
-      if (label->buddy() != nullptr) CheckCaption(label->text(), where);
       if (HoldsName(label->text())) seen.insert(where);
     }
-    if (const auto* button = qobject_cast<const QAbstractButton*>(&widget)) {
-      CheckCaption(button->text(), where);
-    }
-    if (const auto* group = qobject_cast<const QGroupBox*>(&widget)) {
-      CheckCaption(group->title(), where);
-    }
-    if (const auto* tabs = qobject_cast<const QTabWidget*>(&widget)) {
-      for (int tab = 0; tab < tabs->count(); ++tab) {
-        CheckCaption(tabs->tabText(tab), where);
-        CheckTip(tabs->tabToolTip(tab), where);
-      }
-    }
-    if (const auto* combo = qobject_cast<const QComboBox*>(&widget)) Check(*combo->model(), where);
+    if (hasKey) CheckCaption(object.property("text").toString(), where);
+    CheckCaption(object.property("title").toString(), where);
+  }
+
+  void Check(const QWidget& widget) {
+    const std::string where = ToText(widget.window()->objectName() + "." + widget.objectName());
+    Check(widget, where);
+    for (const QAction* action : widget.actions()) Check(*action, where);
+    QString title = widget.windowTitle();
+    title.replace("[*][*]", "[!]").replace("[*]", "").replace("[!]", "[*]");
+    if (HoldsName(title)) seen.insert(where + " title");
+    const auto* combo = qobject_cast<const QComboBox*>(&widget);
+    if (combo != nullptr) Check(*combo->model(), where);
     const auto* view = qobject_cast<const QAbstractItemView*>(&widget);
     if (view != nullptr && view->model() != nullptr) Check(*view->model(), where);
+    CheckName(widget, where);
+  }
+
+  // Who cannot see a control has to be told what it is.
+  static void CheckName(const QWidget& control, const std::string& where) {
+    const QString name = control.objectName();
+    const bool isOwn = !name.isEmpty() && !name.startsWith("qt_") && !control.isHidden();
+    if (!isOwn || control.isWindow() || control.focusPolicy() == Qt::NoFocus) return;
+    const auto* button = qobject_cast<const QAbstractButton*>(&control);
+    const bool showsText = button != nullptr && !button->text().isEmpty();
+    EXPECT_TRUE(showsText || !control.accessibleName().isEmpty()) << where;
   }
 
   void CheckAll() {
@@ -119,7 +121,7 @@ class PlainTextsTest : public testing::Test {
   std::set<std::string> seen;
 };
 
-TEST_F(PlainTextsTest, NoNameInAFileIsEverInterpreted) {
+TEST_F(AllWindowsTest, ShowNamesAsTheyStandAndNameTheirControls) {
   Main window(Games());
   window.show();
   ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
