@@ -38,7 +38,7 @@ bool CopyFiles(const fs::path& from, const fs::path& to) {
 fs::path ExampleFolder(const fs::path& folder, const fs::path& programData,
                        const fs::path& userData) {
   if (folder.parent_path() != programData) return folder;
-  const fs::path copy = userData / folder.filename();
+  fs::path copy = userData / folder.filename();
   std::error_code failure;
   if (fs::is_directory(copy, failure)) return copy;
   fs::create_directories(userData, failure);
