@@ -13,6 +13,7 @@ namespace quorvane {
 namespace {
 
 constexpr int kListWidth = 260;
+constexpr int kWidestList = 400;
 
 // Completing a name only helps with typing. A text that was typed must stay one, even where it
 // equals an entry, so the box may not choose that entry when the typing ends.
@@ -45,6 +46,7 @@ FindPlanet::FindPlanet(GameSession& session, Prompts& prompts, QWidget* parent)
   PlanetList->setEditable(true);
   PlanetList->setInsertPolicy(QComboBox::NoInsert);
   PlanetList->setMinimumWidth(kListWidth);
+  PlanetList->setMaximumWidth(kWidestList);
   OfferCompletions(*PlanetList);
   Check1 = new QCheckBox("Show Planet Details?", this);
   Check1->setObjectName("Check1");
