@@ -192,12 +192,20 @@ void Main::Form_Resize() {
 
 bool Main::eventFilter(QObject* target, QEvent* event) {
   const auto* widget = qobject_cast<QWidget*>(target);
-  if (event->type() == QEvent::KeyPress && widget != nullptr && widget->window() == this &&
-      !UsesArrowKeys(widget)) {
+  if (event->type() == QEvent::KeyPress && widget != nullptr && widget->window() == this) {
     const auto* key = static_cast<QKeyEvent*>(event);
-    if (Form_KeyDown(key->key(), key->modifiers())) return true;
+    const bool isUsed = key->key() == Qt::Key_Escape
+                            ? GiveUpZoomBox()
+                            : !UsesArrowKeys(widget) && Form_KeyDown(key->key(), key->modifiers());
+    if (isUsed) return true;
   }
   return QMainWindow::eventFilter(target, event);
+}
+
+bool Main::GiveUpZoomBox() {
+  if (!Map->GiveUpZoomBox()) return false;
+  EnableOverlays(true);
+  return true;
 }
 
 bool Main::Form_KeyDown(int key, Qt::KeyboardModifiers modifiers) {

@@ -68,6 +68,7 @@ class Main : public QMainWindow {
   void Form_Load();
   void Form_Resize();
   bool Form_KeyDown(int key, Qt::KeyboardModifiers modifiers);
+  bool GiveUpZoomBox();
   void Map_Resized();
   void Combo1_Click();
   void Board_Cleared();

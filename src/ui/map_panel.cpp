@@ -73,6 +73,12 @@ bool MapPanel::Scroll(int key, Qt::KeyboardModifiers modifiers) {
   return scrollKey && ScrollView(state_, *scrollKey, ShiftMaskOf(modifiers));
 }
 
+bool MapPanel::GiveUpZoomBox() {
+  if (!quorvane::GiveUpZoomBox(state_)) return false;
+  ZoomBox->hide();
+  return true;
+}
+
 void MapPanel::Draw(GameSession& session, const OverlaySwitches& switches,
                     std::span<const DrawingRecord> drawing, const ShowProgress& progress) {
   DrawOverlays({.Session = session,

@@ -116,6 +116,24 @@ TEST_F(LoadedGameTest, ZoomsByABoxAndScrollsWithTheArrowKeys) {
   EXPECT_EQ(window.Map->State().ZoomArmed, 0);
 }
 
+TEST_F(LoadedGameTest, OpenZoomBoxLeavesTheMapAsItIsAndIsGivenUpByEscape) {
+  driver.Click("OvButt(4)").Click("OvButt(1)").ClickAt("Universe", At({1200, 1300}));
+  window.resize(1100, 700);
+  driver.MoveTo("Universe", At({1300, 1200}));
+  EXPECT_EQ(driver.Text("XYCoord").left(8), " X:1300 ") << "as the map shows it";
+  const QRect box = driver.Find("ZoomBox").geometry();
+  EXPECT_NEAR(box.left(), At({1200, 1300}).x(), 2);
+  EXPECT_NEAR(box.right(), At({1300, 1200}).x(), 2);
+  const QImage shown = Map();
+  window.Detail->setCurrentWidget(window.Detail->Tools);
+  driver.Press("PlotBox", Qt::Key_Escape);
+  EXPECT_FALSE(driver.IsVisible("ZoomBox"));
+  EXPECT_TRUE(driver.IsEnabled("OvButt(2)") && driver.Action("mnuOver").isEnabled());
+  EXPECT_TRUE(driver.IsDown("OvButt(1)"));
+  EXPECT_EQ(window.Map->State().ClickMode, kStartZoomBox);
+  EXPECT_TRUE(Map() == shown);
+}
+
 TEST_F(LoadedGameTest, LaysOutItsPartsForItsOuterSizeAndRedrawsTheMap) {
   driver.Click("OvButt(4)");
   window.resize(1400, 900);
