@@ -106,6 +106,8 @@ class Main : public QMainWindow {
   QScrollArea* scroll_ = nullptr;
   QWidget* area_ = nullptr;
   bool isDrawing_ = false;
+  // Since the last redraw: the race chooser has changed, and what depends on it has been drawn.
+  bool isChoiceDrawn_ = false;
 };
 
 }  // namespace quorvane

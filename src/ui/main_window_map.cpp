@@ -108,6 +108,7 @@ void Main::DrawOverlays() {
 }
 
 void Main::DrawMap(OverlaySwitches switches) {
+  isChoiceDrawn_ = false;
   switches.RaceName = ToText(Combo1->currentText());
   Map->Draw(session_, switches, Board->Layer(), ProgressDisplay());
 }

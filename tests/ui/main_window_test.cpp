@@ -1,4 +1,7 @@
+#include <QAbstractItemView>
+#include <QSignalSpy>
 #include <tuple>
+#include <utility>
 
 #include "platform/toolkit/twips.h"
 #include "ui/about.h"
@@ -112,6 +115,18 @@ TEST_F(LoadedGameTest, ZoomsByABoxAndScrollsWithTheArrowKeys) {
   driver.Press("Universe", Qt::Key_Down, Qt::ControlModifier);
   EXPECT_EQ(window.Map->State().View.ViewXMin, zoomed.ViewXMin + 1);
   EXPECT_NEAR(window.Map->State().View.ViewYMin, zoomed.ViewYMin + 50, 1);
+  const int yMin = window.Map->State().View.ViewYMin;
+  driver.Press("Combo1", Qt::Key_Down);
+  EXPECT_EQ(window.Map->State().View.ViewYMin, yMin) << "the chooser's own key";
+  window.Detail->setCurrentWidget(window.Detail->Tools);
+  window.activateWindow();
+  QApplication::processEvents();  // the tools have their places
+  driver.Find("Draw(0)").setFocus();
+  driver.Press("Draw(0)", Qt::Key_Down);
+  EXPECT_EQ(window.focusWidget(), &driver.Find("Draw(1)")) << "among the tools";
+  driver.Click("DColour(1)");
+  QTest::keyClick(window.focusWidget(), Qt::Key_Down);
+  EXPECT_EQ(window.Map->State().View.ViewYMin, yMin + 1) << "the map has the focus again";
   driver.Click("OvButt(1)");
   EXPECT_EQ(window.Map->State().ZoomArmed, 0);
 }
@@ -132,6 +147,31 @@ TEST_F(LoadedGameTest, OpenZoomBoxLeavesTheMapAsItIsAndIsGivenUpByEscape) {
   EXPECT_TRUE(driver.IsDown("OvButt(1)"));
   EXPECT_EQ(window.Map->State().ClickMode, kStartZoomBox);
   EXPECT_TRUE(Map() == shown);
+}
+
+TEST_F(LoadedGameTest, EveryChoiceOfARaceRedrawsTheMapOnce) {
+  // While Zoom In is down the borders are painted with every redraw, up to the 651st column.
+  driver.Click("OvButt(4)").Click("OvButt(11)").Click("OvButt(1)");
+  const QImage shown = Map();
+  QSignalSpy progress(window.ProgressBar1, &QProgressBar::valueChanged);
+  const auto redraws = [&] {
+    return std::exchange(static_cast<QList<QList<QVariant>>&>(progress), {}).count({651});
+  };
+  driver.Press("Combo1", Qt::Key_Down);
+  EXPECT_EQ(driver.Text("Combo1"), "Drask");
+  EXPECT_EQ(redraws(), 1);
+  window.Combo1->setCurrentIndex(0);
+  EXPECT_EQ(redraws(), 1) << "set by the program";
+  window.Combo1->setEditText("Hum");
+  driver.Choose("mnuAge").Choose("mnuAge");
+  EXPECT_EQ(redraws(), 2);
+  EXPECT_FALSE(Map() == shown) << "nobody's values";
+  for (int choice = 0; choice < 2; ++choice) {
+    window.Combo1->showPopup();
+    QTest::keyClick(window.Combo1->view(), Qt::Key_Return);
+    EXPECT_EQ(redraws(), 1) << "the same race again";
+    EXPECT_TRUE(Map() == shown);
+  }
 }
 
 TEST_F(LoadedGameTest, LaysOutItsPartsForItsOuterSizeAndRedrawsTheMap) {
