@@ -210,6 +210,31 @@ TEST_F(LoadedGameTest, ClickOnAPlanetTellsAllAboutItAndMarksIt) {
   EXPECT_FALSE(driver.IsVisible("CurrentSelected"));
 }
 
+TEST_F(MainWindowTest, PlanetOnShowIsToldAnewWithItsGameAndGoneWithAnother) {
+  for (const std::string end : {".MAP", ".P1"})
+    folder.Write("Next" + end, folder.Read("Demo" + end));
+  Load();
+  driver.ClickAt("Universe", At({1300, 1100}));
+  EXPECT_EQ(driver.Text("Starbase"), "Death Star");
+  std::string report = folder.Read("Demo.P3");
+  folder.Write("Demo.P3", report.replace(report.find("Death Star"), 10, "Space Dock"));
+  Load();
+  EXPECT_EQ(driver.Text("PlanetName") + driver.Text("Starbase"), "GammaSpace Dock");
+  EXPECT_EQ(window.Detail->SSGList->count(), 1);
+  EXPECT_EQ(driver.Text("RHab(0)"), "");
+  EXPECT_FALSE(driver.IsEnabled("ChartType"));
+
+  LoadGame(driver, "Next.MAP");
+  for (const char* label : {"PlanetName", "Owner", "SOI", "IronS", "Grav1", "RHab(0)"}) {
+    EXPECT_EQ(driver.Text(label), "") << label;
+  }
+  EXPECT_EQ(driver.Text("SGType"), "None Detected");
+  EXPECT_EQ(window.Detail->SSGList->count(), 0);
+  EXPECT_TRUE(driver.Find<PieChart>("Pie2").Slices().empty());
+  EXPECT_EQ(driver.Find("MCI").height() + driver.Find("MSG").height(), 0);
+  EXPECT_EQ(driver.Text("RName(0)"), "Humanoid");
+}
+
 TEST_F(MainWindowTest, OldReportsLeaveTheirTabsAlone) {
   folder.AddOldReport();
   std::filesystem::remove(folder / "Demo.P1");
