@@ -211,8 +211,8 @@ TEST_F(LoadedGameTest, ClickOnAPlanetTellsAllAboutItAndMarksIt) {
 }
 
 TEST_F(MainWindowTest, PlanetOnShowIsToldAnewWithItsGameAndGoneWithAnother) {
-  for (const std::string end : {".MAP", ".P1"})
-    folder.Write("Next" + end, folder.Read("Demo" + end));
+  folder.Write("Next.MAP", folder.Read("Demo.MAP"));
+  folder.Write("Next.P1", folder.Read("Demo.P1"));
   Load();
   driver.ClickAt("Universe", At({1300, 1100}));
   EXPECT_EQ(driver.Text("Starbase"), "Death Star");
@@ -276,6 +276,23 @@ TEST_F(MainWindowTest, PointerIsFollowedInTheStatusLine) {
   EXPECT_EQ(driver.Text("theplanet"), " Deep Space");
   EXPECT_EQ(driver.Find("Universe").toolTip(), "");
   EXPECT_EQ(driver.Text("XYCoord").left(4), " X:1");
+}
+
+TEST_F(LoadedGameTest, FrameTellsThatTheKeyboardIsOnTheMapUntilItIsClicked) {
+  driver.Click("OvButt(4)");
+  window.activateWindow();
+  QApplication::processEvents();
+  QWidget& map = driver.Find("Universe");
+  const auto isFramed = [&] {
+    return map.grab().toImage().convertToFormat(QImage::Format_RGB32) != Map();
+  };
+  EXPECT_TRUE(map.hasFocus());
+  EXPECT_FALSE(isFramed()) << "the program gave it the focus";
+  driver.Find("Combo1").setFocus();
+  map.setFocus(Qt::TabFocusReason);
+  EXPECT_TRUE(isFramed());
+  driver.ClickAt("Universe", At({1200, 1200}));
+  EXPECT_FALSE(isFramed());
 }
 
 TEST_F(LoadedGameTest, MarkerFollowsTheSelectionThroughZoomAndScrolling) {
