@@ -53,7 +53,7 @@ std::shared_ptr<const SurfaceImage> PlainSurface::Image() const {
   return std::make_shared<PlainImage>(picture_);
 }
 
-void PlainSurface::Point(SurfacePoint at, Colour colour) { Dot(DevicePoint(at), colour); }
+void PlainSurface::Point(SurfacePoint at, Colour colour) { Dot(DevicePoint(at), false, colour); }
 
 void PlainSurface::Line(SurfacePoint from, SurfacePoint to, Colour colour) {
   if (pen_.Style == DrawStyle::NoOutline) return;
@@ -105,6 +105,15 @@ double PlainSurface::TextWidth(std::string_view text) const {
   return QFontMetricsF(Font()).horizontalAdvance(TextOf(text)) / pixelsPerUnit;
 }
 
+int PlainSurface::WidthToCover(double distance) const {
+  const double across = distance * picture_.width() / units_.width();
+  const double down = distance * picture_.height() / units_.height();
+  const double pixels = std::max(across, down) + 1e-6;
+  int width = 1;
+  while (qRound(width * ratio_) <= pixels) ++width;
+  return width;
+}
+
 QPointF PlainSurface::DevicePoint(SurfacePoint point) const {
   return {point.X * (picture_.width() / units_.width()),
           point.Y * (picture_.height() / units_.height())};
@@ -126,7 +135,7 @@ void PlainSurface::Put(int x, int y, Colour colour) {
   picture_.setPixel(x, y, before | RgbOf(colour));
 }
 
-void PlainSurface::Dot(QPointF at, Colour colour) {
+void PlainSurface::Dot(QPointF at, bool isRound, Colour colour) {
   const int diameter = DevicePenWidth();
   const double radius = diameter / 2.0;
   const int left = Floor(at.x() - (diameter - 1) / 2.0);
@@ -135,7 +144,8 @@ void PlainSurface::Dot(QPointF at, Colour colour) {
     for (int x = 0; x < diameter; ++x) {
       const double right = x + 0.5 - radius;
       const double down = y + 0.5 - radius;
-      if (right * right + down * down <= radius * radius) Put(left + x, top + y, colour);
+      const bool isIn = !isRound || right * right + down * down <= radius * radius;
+      if (isIn) Put(left + x, top + y, colour);
     }
   }
 }
@@ -168,7 +178,9 @@ void PlainSurface::ThinLine(QPointF from, QPointF to, Colour colour) {
 void PlainSurface::WideLine(QPointF from, QPointF to, Colour colour) {
   const QPointF way = to - from;
   const double steps = std::ceil(std::max(std::abs(way.x()), std::abs(way.y())));
-  for (double i = 0; i <= steps; ++i) Dot(steps > 0 ? from + way * (i / steps) : from, colour);
+  for (double i = 0; i <= steps; ++i) {
+    Dot(steps > 0 ? from + way * (i / steps) : from, true, colour);
+  }
 }
 
 }  // namespace quorvane::reference

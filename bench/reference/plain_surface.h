@@ -41,13 +41,14 @@ class PlainSurface : public DrawingSurface {
   double TextWidth(std::string_view text) const override;
 
   int WidthInTwips() const override { return size_.width() * 15; }
+  int WidthToCover(double distance) const override;
 
  private:
   QPointF DevicePoint(SurfacePoint point) const;
   int DevicePenWidth() const;
   QFont Font() const;
   void Put(int x, int y, Colour colour);
-  void Dot(QPointF at, Colour colour);
+  void Dot(QPointF at, bool isRound, Colour colour);
   void ThinLine(QPointF from, QPointF to, Colour colour);
   void WideLine(QPointF from, QPointF to, Colour colour);
 

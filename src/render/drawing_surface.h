@@ -25,7 +25,7 @@ struct Pen {
   DrawStyle Style = DrawStyle::Solid;
   /// Whether circles are filled with the fill colour.
   bool Filled = false;
-  /// In pixels of an ordinary screen, at least 1; the diameter of a point.
+  /// In pixels of an ordinary screen, at least 1; the side of a point.
   int Width = 1;
 };
 
@@ -57,7 +57,7 @@ class DrawingSurface {
   /// In points, above 0.
   virtual void SetFontSize(double points) = 0;
 
-  /// A filled dot of the pen's width.
+  /// A filled square of the pen's width, so that neighbouring points can close an area.
   virtual void Point(SurfacePoint at, Colour colour) = 0;
   virtual void Line(SurfacePoint from, SurfacePoint to, Colour colour) = 0;
   /// An outline in the colour, filled as the pen and the fill colour say.
@@ -70,6 +70,9 @@ class DrawingSurface {
   /// The surface's own width in twips (1/1440 inch, 15 to a pixel of an ordinary screen); pen
   /// widths follow from it.
   virtual int WidthInTwips() const = 0;
+  /// The least pen width whose points leave nothing open between them when they lie this far apart,
+  /// in logical units, in rows and columns.
+  virtual int WidthToCover(double distance) const = 0;
 };
 
 }  // namespace quorvane

@@ -80,6 +80,16 @@ Pen DotPen(const MapView& view, const DrawingSurface& surface, int widthAtFullVi
           .Width = std::max(width, 1)};
 }
 
+// The farthest that two neighbouring lines in view lie apart. They stand at whole light years, so
+// their distances differ.
+double WidestGap(const GridLines& lines) {
+  double gap = 0;
+  for (std::size_t line = 1; line < lines.size(); ++line) {
+    if (lines[line - 1] && lines[line]) gap = std::max(gap, *lines[line] - *lines[line - 1]);
+  }
+  return gap;
+}
+
 // Draws both sides of the line between two neighbouring grid points, where there is one.
 void DrawEdge(const GameSession& session, int holder, int nextHolder, SurfacePoint before,
               SurfacePoint behind, DrawingSurface& surface) {
@@ -133,7 +143,11 @@ bool DrawInfluenceBorders(const GameSession& session, const MapView& view, Drawi
   const GridLines rows = RowsInView(session, view);
 
   progress.Show(0, grid.Size() + 1);
-  surface.SetPen(DotPen(view, surface, 2));
+  Pen pen = DotPen(view, surface, 2);
+  // The rule leaves gaps at some sizes and zooms; territories are closed areas at all of them.
+  const double gap = std::max(WidestGap(columns), WidestGap(rows));
+  pen.Width = std::max(pen.Width, surface.WidthToCover(gap));
+  surface.SetPen(pen);
   for (int gx = 0; gx <= grid.Size(); ++gx) {
     const std::optional<double>& x = columns[static_cast<std::size_t>(gx)];
     if (x) DrawColumn(grid, shadesOfPlayers, gx, *x, rows, surface);

@@ -15,6 +15,10 @@ struct MapState {
   /// 1 from the moment the Zoom In button was honoured until it is released.
   int ZoomArmed = 0;
   int ClickMode = kOrdinaryClick;
+  /// Where the window of an open zoom box will begin, in stored coordinates. The view is changed
+  /// only once the box is complete.
+  int BoxXMin = 0;
+  int BoxYMin = 0;
 };
 
 /// Honours a Zoom In button that has just been pressed: the next click on the map starts the zoom

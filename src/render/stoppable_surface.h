@@ -34,6 +34,7 @@ class StoppableSurface : public DrawingSurface {
   double TextWidth(std::string_view text) const override;
 
   int WidthInTwips() const override { return surface_.WidthInTwips(); }
+  int WidthToCover(double distance) const override { return surface_.WidthToCover(distance); }
 
  private:
   bool GoesOn();

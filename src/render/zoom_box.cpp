@@ -7,9 +7,8 @@
 namespace quorvane {
 
 void StartZoomBox(MapState& state, SurfacePoint corner) {
-  MapView& view = state.View;
-  view.ViewXMin = ToWhole16(corner.X / view.MapScale);
-  view.ViewYMin = ToWhole16(corner.Y / view.MapScale);
+  state.BoxXMin = ToWhole16(corner.X / state.View.MapScale);
+  state.BoxYMin = ToWhole16(corner.Y / state.View.MapScale);
   state.ClickMode = kEndZoomBox;
 }
 
@@ -17,13 +16,21 @@ double ZoomBoxSide(double left, double x) { return std::fabs(x - left); }
 
 bool EndZoomBox(MapState& state, double side) {
   MapView& view = state.View;
-  const int xMax = ToWhole16(side / view.MapScale + view.ViewXMin);
-  const int yMax = ToWhole16(side / view.MapScale + view.ViewYMin);
-  if (xMax <= view.ViewXMin) return false;
+  const int xMax = ToWhole16(side / view.MapScale + state.BoxXMin);
+  const int yMax = ToWhole16(side / view.MapScale + state.BoxYMin);
+  if (xMax <= state.BoxXMin) return false;
+  view.ViewXMin = state.BoxXMin;
   view.ViewXMax = xMax;
+  view.ViewYMin = state.BoxYMin;
   view.ViewYMax = yMax;
   view.MapScale = kMapUnits / (view.ViewXMax - view.ViewXMin);
   state.ClickMode = kOrdinaryClick;
+  return true;
+}
+
+bool GiveUpZoomBox(MapState& state) {
+  if (state.ClickMode != kEndZoomBox) return false;
+  state.ClickMode = kStartZoomBox;
   return true;
 }
 

@@ -11,6 +11,8 @@
 namespace quorvane {
 namespace {
 
+constexpr const char* kNoStargate = "None Detected";
+
 // The fixed text in front of a value, and the value's control name.
 struct Row {
   const char* Caption;
@@ -133,7 +135,7 @@ void DetailsPanel::AddStargateTab() {
   auto* page = new QWidget(this);
   QGridLayout* grid = NewGrid(page);
   SGType = NewValue("SGType", page);
-  SGType->setText("None Detected");
+  SGType->setText(kNoStargate);
   SSGList = new QListWidget(page);
   SSGList->setObjectName("SSGList");
   DSGList = new QListWidget(page);
@@ -149,7 +151,13 @@ void DetailsPanel::AddStargateTab() {
   addTab(page, "Stargate");
 }
 
-void DetailsPanel::ShowRaces(const GameSession& session) {
+void DetailsPanel::ShowLoadedGame(const GameSession& session) {
+  if (StillExists(session)) {
+    ShowPlanet(session, planet_);
+  } else {
+    Clear();
+  }
+  Minerals->DisableCharts();
   for (int race = 0; race < kMaxPlayers; ++race) {
     const auto index = static_cast<std::size_t>(race);
     const bool isPlayer = race < session.PlayerCount;
@@ -158,7 +166,27 @@ void DetailsPanel::ShowRaces(const GameSession& session) {
   }
 }
 
+// The map's file may have been replaced by another game's.
+bool DetailsPanel::StillExists(const GameSession& session) const {
+  return planet_ > 0 && map_ == session.MapFilePath && planet_ <= session.PlanetCount &&
+         planetName_ == session.Planet(planet_).Name();
+}
+
+void DetailsPanel::Clear() {
+  planet_ = 0;
+  for (QLabel* label : findChildren<QLabel*>()) {
+    if (label->property("value").toBool()) label->clear();
+  }
+  SGType->setText(kNoStargate);
+  SSGList->clear();
+  DSGList->clear();
+  Minerals->ClearCharts();
+}
+
 void DetailsPanel::ShowPlanet(const GameSession& session, int planet) {
+  map_ = session.MapFilePath;
+  planet_ = planet;
+  planetName_ = session.Planet(planet).Name();
   for (const DetailText& detail : DescribePlanet(session, planet)) {
     findChild<QLabel*>(ToQString(detail.Label))->setText(ToQString(detail.Text));
   }

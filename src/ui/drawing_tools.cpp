@@ -1,5 +1,6 @@
 #include "ui/drawing_tools.h"
 
+#include <QEvent>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QStyle>
@@ -46,6 +47,13 @@ DrawingTools::DrawingTools(QWidget* parent) : QWidget(parent) {
   grid->addWidget(ClearQVL, 2, 1);
   grid->setRowStretch(1, 1);
   connect(PlotBox, &QPlainTextEdit::textChanged, this, &DrawingTools::PlotBox_Change);
+  for (QRadioButton* tool : Draw) tool->installEventFilter(this);
+  for (QRadioButton* colour : DColour) colour->installEventFilter(this);
+}
+
+bool DrawingTools::eventFilter(QObject* target, QEvent* event) {
+  if (event->type() == QEvent::MouseButtonRelease) emit ChosenByMouse();
+  return QWidget::eventFilter(target, event);
 }
 
 void DrawingTools::ShowSavedLayer(const QString& layer) {

@@ -48,6 +48,11 @@ class DrawingTools : public QWidget {
  signals:
   /// The user chose another drawing colour.
   void ColourChanged();
+  /// A tool or colour was chosen with the mouse, which goes on to the map.
+  void ChosenByMouse();
+
+ protected:
+  bool eventFilter(QObject* target, QEvent* event) override;
 
  private:
   QWidget* NewToolList();

@@ -44,6 +44,7 @@ bool UsesArrowKeys(const QWidget* widget) {
          qobject_cast<const QPlainTextEdit*>(widget) != nullptr ||
          qobject_cast<const QRadioButton*>(widget) != nullptr ||
          qobject_cast<const QTabBar*>(widget) != nullptr ||
+         qobject_cast<const QComboBox*>(widget) != nullptr ||
          qobject_cast<const QAbstractItemView*>(widget) != nullptr;
 }
 
@@ -123,7 +124,15 @@ void Main::ConnectParts() {
     if (isButton) Map->Universe->setFocus();
     DrawOverlays();
   });
-  connect(Combo1, &QComboBox::currentIndexChanged, this, &Main::Combo1_Click);
+  // Another race that is chosen is told of twice, first as a change; the same race, chosen again
+  // over a half typed name, only as a choice.
+  connect(Combo1, &QComboBox::currentIndexChanged, this, [this] {
+    Combo1_Click();
+    isChoiceDrawn_ = true;
+  });
+  connect(Combo1, &QComboBox::activated, this, [this] {
+    if (!std::exchange(isChoiceDrawn_, false)) Combo1_Click();
+  });
   connect(Map, &MapPanel::Resized, this, &Main::Map_Resized);
   connect(Map, &MapPanel::ZoomBoxStarted, this, [this] { EnableOverlays(false); });
   connect(Map, &MapPanel::ZoomBoxEnded, this, [this] {
@@ -136,8 +145,9 @@ void Main::ConnectParts() {
   connect(Map, &MapPanel::Hovered, this, &Main::Universe_Hovered);
   connect(Board, &DrawingBoard::Cleared, this, &Main::Board_Cleared);
   connect(RaceLegend, &Legend::Chosen, this, &Main::RaceC_Click);
-  connect(Detail->Minerals, &MineralsTab::ChartsSwitched, this,
-          [this] { Map->Universe->setFocus(); });
+  const auto focusMap = [this] { Map->Universe->setFocus(); };
+  connect(Detail->Minerals, &MineralsTab::ChartsSwitched, this, focusMap);
+  connect(Detail->Tools, &DrawingTools::ChosenByMouse, this, focusMap);
 }
 
 // No overlay may change in the middle of a zoom.
@@ -190,12 +200,20 @@ void Main::Form_Resize() {
 
 bool Main::eventFilter(QObject* target, QEvent* event) {
   const auto* widget = qobject_cast<QWidget*>(target);
-  if (event->type() == QEvent::KeyPress && widget != nullptr && widget->window() == this &&
-      !UsesArrowKeys(widget)) {
+  if (event->type() == QEvent::KeyPress && widget != nullptr && widget->window() == this) {
     const auto* key = static_cast<QKeyEvent*>(event);
-    if (Form_KeyDown(key->key(), key->modifiers())) return true;
+    const bool isUsed = key->key() == Qt::Key_Escape
+                            ? GiveUpZoomBox()
+                            : !UsesArrowKeys(widget) && Form_KeyDown(key->key(), key->modifiers());
+    if (isUsed) return true;
   }
   return QMainWindow::eventFilter(target, event);
+}
+
+bool Main::GiveUpZoomBox() {
+  if (!Map->GiveUpZoomBox()) return false;
+  EnableOverlays(true);
+  return true;
 }
 
 bool Main::Form_KeyDown(int key, Qt::KeyboardModifiers modifiers) {

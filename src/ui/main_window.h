@@ -69,6 +69,7 @@ class Main : public QMainWindow {
   void Form_Load();
   void Form_Resize();
   bool Form_KeyDown(int key, Qt::KeyboardModifiers modifiers);
+  bool GiveUpZoomBox();
   void Map_Resized();
   void Combo1_Click();
   void Board_Cleared();
@@ -107,6 +108,8 @@ class Main : public QMainWindow {
   QWidget* area_ = nullptr;
   bool isDrawing_ = false;
   LongStep* redraw_ = nullptr;
+  // Since the last redraw: the race chooser has changed, and what depends on it has been drawn.
+  bool isChoiceDrawn_ = false;
 };
 
 }  // namespace quorvane

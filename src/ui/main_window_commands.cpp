@@ -88,7 +88,7 @@ void Main::ShowLoadedGame() {
     Combo1->addItem(ToQString(session_.Player(player).Name()));
   }
   RaceLegend->ShowPlayers(session_);
-  Detail->ShowRaces(session_);
+  Detail->ShowLoadedGame(session_);
   Board->ShowLoadedGame();
 
   Combo1->setCurrentIndex(session_.PlayerCount > 0 ? 0 : -1);
@@ -108,7 +108,6 @@ void Main::ResetWindow() {
   Combo1->clear();
   Combo1->clearEditText();
   Map->ShowUniverse(session_.UniverseExtent);
-  Detail->Minerals->DisableCharts();
   PlaceSelector();
 }
 

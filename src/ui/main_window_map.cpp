@@ -111,6 +111,7 @@ void Main::DrawOverlays() {
 }
 
 void Main::DrawMap(OverlaySwitches switches) {
+  isChoiceDrawn_ = false;
   switches.RaceName = ToText(Combo1->currentText());
   bool isComplete = false;
   QSize drawn;

@@ -1,8 +1,12 @@
 #include "ui/map_panel.h"
 
+#include <QFocusEvent>
+#include <QPainter>
 #include <QRandomGenerator>
+#include <array>
 #include <chrono>
 #include <optional>
+#include <utility>
 
 #include "render/draw_overlays.h"
 #include "render/selection_marker.h"
@@ -29,8 +33,47 @@ std::optional<ScrollKey> ScrollKeyOf(int key) {
   }
 }
 
+// The map, with a frame above its picture from when the keyboard brings the focus here until the
+// mouse is used.
+class MapPicture : public PictureBox {
+ public:
+  using PictureBox::PictureBox;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override {
+    PictureBox::paintEvent(event);
+    if (!hasFocus() || !isReachedByKeyboard_) return;
+    // White between black lines can be seen on every territory.
+    QPainter painter(this);
+    constexpr std::array kLines = {Qt::black, Qt::white, Qt::white, Qt::black};
+    QRect frame = rect();
+    for (const Qt::GlobalColor line : kLines) {
+      const QRect inside = frame.adjusted(1, 1, -1, -1);
+      for (const QRect& side : QRegion(frame) - inside) painter.fillRect(side, line);
+      frame = inside;
+    }
+  }
+
+  void focusInEvent(QFocusEvent* event) override {
+    PictureBox::focusInEvent(event);
+    const Qt::FocusReason reason = event->reason();
+    const bool comesBack = reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason;
+    if (comesBack) return;
+    isReachedByKeyboard_ = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
+                           reason == Qt::ShortcutFocusReason;
+  }
+
+  void mousePressEvent(QMouseEvent* event) override {
+    if (std::exchange(isReachedByKeyboard_, false)) update();
+    PictureBox::mousePressEvent(event);
+  }
+
+ private:
+  bool isReachedByKeyboard_ = false;
+};
+
 PictureBox* NewMap(const char* name, QWidget& area) {
-  auto* map = new PictureBox(&area);
+  auto* map = new MapPicture(&area);
   map->setObjectName(name);
   return map;
 }
@@ -42,6 +85,7 @@ MapPanel::MapPanel(QWidget& area)
   Universe->setAccessibleName(tr("Map of the universe"));
   Universe2->hide();
   CurrentSelected = new SquareShape(*Universe, "CurrentSelected");
+  CurrentSelected->AddDarkSides();
   ZoomBox = new SquareShape(*Universe, "ZoomBox");
   ZoomBox->SetLineColour(kZoomBoxColour);
   Timer1 = new QTimer(this);
@@ -71,6 +115,12 @@ void MapPanel::ShowUniverse(int universeExtent) {
 bool MapPanel::Scroll(int key, Qt::KeyboardModifiers modifiers) {
   const std::optional<ScrollKey> scrollKey = ScrollKeyOf(key);
   return scrollKey && ScrollView(state_, *scrollKey, ShiftMaskOf(modifiers));
+}
+
+bool MapPanel::GiveUpZoomBox() {
+  if (!quorvane::GiveUpZoomBox(state_)) return false;
+  ZoomBox->hide();
+  return true;
 }
 
 bool MapPanel::Draw(GameSession& session, const OverlaySwitches& switches,

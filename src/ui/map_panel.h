@@ -30,6 +30,8 @@ class MapPanel : public QObject {
   bool ArmZoom(bool isZoomIn) { return quorvane::ArmZoom(state_, isZoomIn); }
   /// Goes back to the full view when the Zoom In button is up. @return whether it did
   bool LeaveZoom(bool isZoomIn) { return quorvane::LeaveZoom(state_, isZoomIn); }
+  /// Gives an open zoom box up. @return false when none is open
+  bool GiveUpZoomBox();
   /// Moves a zoomed map. @return whether it is to be drawn again
   bool Scroll(int key, Qt::KeyboardModifiers modifiers);
   /// @param drawing the user's drawing layer

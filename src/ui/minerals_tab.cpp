@@ -144,6 +144,12 @@ void MineralsTab::ShowCharts(const PlanetRecord& planet) {
   ChartType->setEnabled(true);
 }
 
+void MineralsTab::ClearCharts() {
+  for (PieChart* pie : {Pie1, Pie2}) pie->SetSlices({});
+  SetBarHeights(ConcentrationBars, kConcentrationBars, {});
+  SetBarHeights(StoredBars, kStoredBars, {});
+}
+
 void MineralsTab::ChartType_Click() {
   const bool showsBars = ChartType->text() == kViewAsBars;
   ChartType->setText(showsBars ? kViewAsPies : kViewAsBars);

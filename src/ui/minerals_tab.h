@@ -20,6 +20,8 @@ class MineralsTab : public QWidget {
 
   /// Draws a planet's charts. The table's labels are filled by the panel, with all other texts.
   void ShowCharts(const PlanetRecord& planet);
+  /// Shows no planet's charts, as before the first one.
+  void ClearCharts();
   /// Until a planet of the loaded game has been shown, there are no charts to switch.
   void DisableCharts() { ChartType->setEnabled(false); }
 

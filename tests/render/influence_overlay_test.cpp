@@ -43,7 +43,7 @@ TEST(DrawInfluenceBorders, GoesColumnByColumnAtWholeLightYearsDimmingByTheStreng
                    "point 3020,3020 #000000 copy w2", "point 4020,2010 #ff8000 copy w2"}));
 }
 
-TEST(DrawInfluenceBorders, DotsAreWideEnoughToTouchAtEverySizeAndZoom) {
+TEST(DrawInfluenceBorders, DotWidthFollowsTheMapsSizeAndItsZoom) {
   GameSession session = CoarseGame();
   session.InfluenceGrid.At(2, 2) = {1, 100};
   const std::tuple<MapView, int, std::string> cases[] = {

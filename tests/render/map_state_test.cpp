@@ -66,8 +66,11 @@ TEST(ZoomBox, ShowsTheSquareBetweenTheTwoClicks) {
   EXPECT_EQ(state.ClickMode, kEndZoomBox);
   EXPECT_FALSE(EndZoomBox(state, 1)) << "less than a light year";
   EXPECT_EQ(state.ClickMode, kEndZoomBox);
-  EXPECT_EQ(state.View.MapScale, 10);
+  EXPECT_EQ(EdgesOf(state.View), EdgesOf(FullView())) << "until the box is complete";
+  EXPECT_TRUE(GiveUpZoomBox(state));
+  EXPECT_FALSE(GiveUpZoomBox(state)) << "none is open";
 
+  StartZoomBox(state, {1005, 2015});
   ASSERT_TRUE(EndZoomBox(state, ZoomBoxSide(1005, 3500)));
   // The corner lies at 100.5 and 201.5, the side is 249.5: halves go to even.
   EXPECT_EQ(EdgesOf(state.View), (std::array{100, 350, 202, 452}));

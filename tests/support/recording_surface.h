@@ -43,6 +43,8 @@ class RecordingSurface : public DrawingSurface {
   void Print(SurfacePoint topLeft, std::string_view text) override;
   double TextWidth(std::string_view text) const override;
   int WidthInTwips() const override { return widthInTwips_; }
+  /// Text has no pixels to leave open: the overlays' own widths are seen.
+  int WidthToCover(double) const override { return 1; }
 
  private:
   void Draw(const Texts& words);

@@ -40,6 +40,13 @@ TEST_F(DrawingTest, TwoClicksMakeALineInTheColourChosenLast) {
   EXPECT_TRUE(IsSaveWanted());
 }
 
+TEST_F(DrawingTest, ShapeDrawnWhileAZoomBoxIsOpenIsRecordedWhereItIsDrawn) {
+  driver.Click("OvButt(1)").ClickAt("Universe", At({1200, 1300})).Click("Draw(2)");
+  driver.ClickAt("Universe", At({1100, 1250})).ClickAt("Universe", At({1300, 1250}));
+  EXPECT_TRUE(Passes({1200, 1250}, Qt::white));
+  EXPECT_EQ(Layer(), "L,1099,1251,1300,1251,1\n") << "to the pixel that was clicked";
+}
+
 TEST_F(DrawingTest, ShapeInProgressIsFinishedByTheToolThatIsSelectedThen) {
   driver.Click("Draw(2)").ClickAt("Universe", At({1200, 1200})).Click("Draw(0)");
   driver.ClickAt("Universe", At({1050, 1300}));

@@ -1,4 +1,7 @@
+#include <QAbstractItemView>
+#include <QSignalSpy>
 #include <tuple>
+#include <utility>
 
 #include "platform/toolkit/twips.h"
 #include "ui/about.h"
@@ -112,8 +115,63 @@ TEST_F(LoadedGameTest, ZoomsByABoxAndScrollsWithTheArrowKeys) {
   driver.Press("Universe", Qt::Key_Down, Qt::ControlModifier);
   EXPECT_EQ(window.Map->State().View.ViewXMin, zoomed.ViewXMin + 1);
   EXPECT_NEAR(window.Map->State().View.ViewYMin, zoomed.ViewYMin + 50, 1);
+  const int yMin = window.Map->State().View.ViewYMin;
+  driver.Press("Combo1", Qt::Key_Down);
+  EXPECT_EQ(window.Map->State().View.ViewYMin, yMin) << "the chooser's own key";
+  window.Detail->setCurrentWidget(window.Detail->Tools);
+  window.activateWindow();
+  QApplication::processEvents();  // the tools have their places
+  driver.Find("Draw(0)").setFocus();
+  driver.Press("Draw(0)", Qt::Key_Down);
+  EXPECT_EQ(window.focusWidget(), &driver.Find("Draw(1)")) << "among the tools";
+  driver.Click("DColour(1)");
+  QTest::keyClick(window.focusWidget(), Qt::Key_Down);
+  EXPECT_EQ(window.Map->State().View.ViewYMin, yMin + 1) << "the map has the focus again";
   driver.Click("OvButt(1)");
   EXPECT_EQ(window.Map->State().ZoomArmed, 0);
+}
+
+TEST_F(LoadedGameTest, OpenZoomBoxLeavesTheMapAsItIsAndIsGivenUpByEscape) {
+  driver.Click("OvButt(4)").Click("OvButt(1)").ClickAt("Universe", At({1200, 1300}));
+  window.resize(1100, 700);
+  driver.MoveTo("Universe", At({1300, 1200}));
+  EXPECT_EQ(driver.Text("XYCoord").left(8), " X:1300 ") << "as the map shows it";
+  const QRect box = driver.Find("ZoomBox").geometry();
+  EXPECT_NEAR(box.left(), At({1200, 1300}).x(), 2);
+  EXPECT_NEAR(box.right(), At({1300, 1200}).x(), 2);
+  const QImage shown = Map();
+  window.Detail->setCurrentWidget(window.Detail->Tools);
+  driver.Press("PlotBox", Qt::Key_Escape);
+  EXPECT_FALSE(driver.IsVisible("ZoomBox"));
+  EXPECT_TRUE(driver.IsEnabled("OvButt(2)") && driver.Action("mnuOver").isEnabled());
+  EXPECT_TRUE(driver.IsDown("OvButt(1)"));
+  EXPECT_EQ(window.Map->State().ClickMode, kStartZoomBox);
+  EXPECT_TRUE(Map() == shown);
+}
+
+TEST_F(LoadedGameTest, EveryChoiceOfARaceRedrawsTheMapOnce) {
+  // While Zoom In is down the borders are painted with every redraw, up to the 651st column.
+  driver.Click("OvButt(4)").Click("OvButt(11)").Click("OvButt(1)");
+  const QImage shown = Map();
+  QSignalSpy progress(window.ProgressBar1, &QProgressBar::valueChanged);
+  const auto redraws = [&] {
+    return std::exchange(static_cast<QList<QList<QVariant>>&>(progress), {}).count({651});
+  };
+  driver.Press("Combo1", Qt::Key_Down);
+  EXPECT_EQ(driver.Text("Combo1"), "Drask");
+  EXPECT_EQ(redraws(), 1);
+  window.Combo1->setCurrentIndex(0);
+  EXPECT_EQ(redraws(), 1) << "set by the program";
+  window.Combo1->setEditText("Hum");
+  driver.Choose("mnuAge").Choose("mnuAge");
+  EXPECT_EQ(redraws(), 2);
+  EXPECT_FALSE(Map() == shown) << "nobody's values";
+  for (int choice = 0; choice < 2; ++choice) {
+    window.Combo1->showPopup();
+    QTest::keyClick(window.Combo1->view(), Qt::Key_Return);
+    EXPECT_EQ(redraws(), 1) << "the same race again";
+    EXPECT_TRUE(Map() == shown);
+  }
 }
 
 TEST_F(LoadedGameTest, LaysOutItsPartsForItsOuterSizeAndRedrawsTheMap) {
@@ -150,6 +208,31 @@ TEST_F(LoadedGameTest, ClickOnAPlanetTellsAllAboutItAndMarksIt) {
   EXPECT_EQ(driver.Text("SGType"), "500 Kt / 300 l.y.");
   driver.Choose("mnuHideSelect");
   EXPECT_FALSE(driver.IsVisible("CurrentSelected"));
+}
+
+TEST_F(MainWindowTest, PlanetOnShowIsToldAnewWithItsGameAndGoneWithAnother) {
+  folder.Write("Next.MAP", folder.Read("Demo.MAP"));
+  folder.Write("Next.P1", folder.Read("Demo.P1"));
+  Load();
+  driver.ClickAt("Universe", At({1300, 1100}));
+  EXPECT_EQ(driver.Text("Starbase"), "Death Star");
+  std::string report = folder.Read("Demo.P3");
+  folder.Write("Demo.P3", report.replace(report.find("Death Star"), 10, "Space Dock"));
+  Load();
+  EXPECT_EQ(driver.Text("PlanetName") + driver.Text("Starbase"), "GammaSpace Dock");
+  EXPECT_EQ(window.Detail->SSGList->count(), 1);
+  EXPECT_EQ(driver.Text("RHab(0)"), "");
+  EXPECT_FALSE(driver.IsEnabled("ChartType"));
+
+  LoadGame(driver, "Next.MAP");
+  for (const char* label : {"PlanetName", "Owner", "SOI", "IronS", "Grav1", "RHab(0)"}) {
+    EXPECT_EQ(driver.Text(label), "") << label;
+  }
+  EXPECT_EQ(driver.Text("SGType"), "None Detected");
+  EXPECT_EQ(window.Detail->SSGList->count(), 0);
+  EXPECT_TRUE(driver.Find<PieChart>("Pie2").Slices().empty());
+  EXPECT_EQ(driver.Find("MCI").height() + driver.Find("MSG").height(), 0);
+  EXPECT_EQ(driver.Text("RName(0)"), "Humanoid");
 }
 
 TEST_F(MainWindowTest, OldReportsLeaveTheirTabsAlone) {
@@ -193,6 +276,23 @@ TEST_F(MainWindowTest, PointerIsFollowedInTheStatusLine) {
   EXPECT_EQ(driver.Text("theplanet"), " Deep Space");
   EXPECT_EQ(driver.Find("Universe").toolTip(), "");
   EXPECT_EQ(driver.Text("XYCoord").left(4), " X:1");
+}
+
+TEST_F(LoadedGameTest, FrameTellsThatTheKeyboardIsOnTheMapUntilItIsClicked) {
+  driver.Click("OvButt(4)");
+  window.activateWindow();
+  QApplication::processEvents();
+  QWidget& map = driver.Find("Universe");
+  const auto isFramed = [&] {
+    return map.grab().toImage().convertToFormat(QImage::Format_RGB32) != Map();
+  };
+  EXPECT_TRUE(map.hasFocus());
+  EXPECT_FALSE(isFramed()) << "the program gave it the focus";
+  driver.Find("Combo1").setFocus();
+  map.setFocus(Qt::TabFocusReason);
+  EXPECT_TRUE(isFramed());
+  driver.ClickAt("Universe", At({1200, 1200}));
+  EXPECT_FALSE(isFramed());
 }
 
 TEST_F(LoadedGameTest, MarkerFollowsTheSelectionThroughZoomAndScrolling) {

@@ -54,6 +54,9 @@ class Twins {
   }
 
   bool AreAlike() const { return fast_.Picture() == plain_.Picture(); }
+  bool CoverAlike(double distance) const {
+    return fast_.WidthToCover(distance) == plain_.WidthToCover(distance);
+  }
 
  private:
   template <typename Call>
@@ -88,6 +91,15 @@ TEST(PictureSurface, DrawsThePixelsOfItsPlainTwin) {
         (twins.*draw)();
         ASSERT_TRUE(twins.AreAlike()) << what << ", drawing " << i << " at ratio " << ratio;
       }
+    }
+  }
+}
+
+TEST(PictureSurface, PointsOfTheLeastWidthThatClosesAnAreaAreFound) {
+  for (const double ratio : {1.0, 1.25, 1.5, 2.0}) {
+    const Twins twins(ratio);
+    for (double distance = 0; distance < 90; distance += 0.37) {
+      EXPECT_TRUE(twins.CoverAlike(distance)) << distance << " units at ratio " << ratio;
     }
   }
 }

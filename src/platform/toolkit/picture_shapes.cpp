@@ -20,6 +20,11 @@ void PictureShape::SetLineColour(Colour colour) {
   update();
 }
 
+void PictureShape::AddDarkSides() {
+  hasDarkSides_ = true;
+  Fit();
+}
+
 bool PictureShape::eventFilter(QObject* target, QEvent* event) {
   if (event->type() == QEvent::Resize) Fit();
   return QWidget::eventFilter(target, event);
@@ -27,14 +32,22 @@ bool PictureShape::eventFilter(QObject* target, QEvent* event) {
 
 void PictureShape::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  painter.setPen(QColor(RgbOf(colour_)));
   painter.translate(-pos());
-  Paint(painter, picture_.WidgetPoint(First()), picture_.WidgetPoint(Last()));
+  const QPointF first = picture_.WidgetPoint(First());
+  const QPointF last = picture_.WidgetPoint(Last());
+  if (hasDarkSides_) {
+    constexpr double kLineAndSides = 3;
+    painter.setPen({Qt::black, kLineAndSides, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin});
+    Paint(painter, first, last);
+  }
+  painter.setPen(QColor(RgbOf(colour_)));
+  Paint(painter, first, last);
 }
 
 void PictureShape::Fit() {
   const QRectF between(picture_.WidgetPoint(First()), picture_.WidgetPoint(Last()));
-  setGeometry(between.normalized().toAlignedRect().adjusted(-1, -1, 1, 1));
+  const int rightSide = hasDarkSides_ ? 2 : 1;
+  setGeometry(between.normalized().toAlignedRect().adjusted(-1, -1, rightSide, rightSide));
   update();
 }
 

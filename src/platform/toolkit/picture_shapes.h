@@ -19,6 +19,8 @@ class PictureShape : public QWidget {
 
   Colour LineColour() const { return colour_; }
   void SetLineColour(Colour colour);
+  /// Gives the line a dark one on either side, which makes it stand out from bright pictures.
+  void AddDarkSides();
 
  protected:
   bool eventFilter(QObject* target, QEvent* event) override;
@@ -34,6 +36,7 @@ class PictureShape : public QWidget {
  private:
   PictureBox& picture_;
   Colour colour_ = {255, 255, 255};
+  bool hasDarkSides_ = false;
 };
 
 /// The outline of a square.

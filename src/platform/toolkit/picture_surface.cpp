@@ -66,8 +66,7 @@ std::shared_ptr<const SurfaceImage> PictureSurface::Image() const {
 
 void PictureSurface::SetPen(const Pen& pen) {
   pen_ = pen;
-  const int diameter = DevicePenWidth();
-  if (diameter != dot_.Diameter()) dot_ = DotMask(diameter, deviceSize_.width());
+  if (DevicePenWidth() != point_.Diameter()) MakeDots();
 }
 
 void PictureSurface::SetFontSize(double points) {
@@ -75,7 +74,7 @@ void PictureSurface::SetFontSize(double points) {
 }
 
 void PictureSurface::Point(SurfacePoint at, Colour colour) {
-  Canvas().Dot(at.X * pixelsPerUnitX_, at.Y * pixelsPerUnitY_, dot_, RgbOf(colour));
+  Canvas().Dot(at.X * pixelsPerUnitX_, at.Y * pixelsPerUnitY_, point_, RgbOf(colour));
 }
 
 void PictureSurface::Line(SurfacePoint from, SurfacePoint to, Colour colour) {
@@ -120,6 +119,12 @@ QRgb* PictureSurface::Pixels() { return reinterpret_cast<QRgb*>(picture_.bits())
 
 PixelCanvas PictureSurface::Canvas() { return {Pixels(), deviceSize_, pen_.Mode}; }
 
+int PictureSurface::WidthToCover(double distance) const {
+  constexpr double kHair = 1e-6;  // places are computed that exactly, at best
+  const double pixels = std::ceil(distance * std::max(pixelsPerUnitX_, pixelsPerUnitY_) + kHair);
+  return static_cast<int>(std::ceil((pixels - 0.5) / ratio_));  // as the pen's width is rounded
+}
+
 int PictureSurface::DevicePenWidth() const { return std::max(qRound(pen_.Width * ratio_), 1); }
 
 void PictureSurface::MakePicture() {
@@ -129,8 +134,13 @@ void PictureSurface::MakePicture() {
   picture_ = blank_;
   pixelsPerUnitX_ = deviceSize_.width() / units_.width();
   pixelsPerUnitY_ = deviceSize_.height() / units_.height();
-  dot_ = DotMask(DevicePenWidth(), deviceSize_.width());
+  MakeDots();
   texts_.clear();
+}
+
+void PictureSurface::MakeDots() {
+  point_ = DotMask(DotShape::Square, DevicePenWidth(), deviceSize_.width());
+  dot_ = DotMask(DotShape::Round, DevicePenWidth(), deviceSize_.width());
 }
 
 TextLayouts& PictureSurface::Texts() const {

@@ -54,6 +54,7 @@ class PictureSurface : public DrawingSurface {
   double TextWidth(std::string_view text) const override;
 
   int WidthInTwips() const override { return TwipsFromPixels(size_.width()); }
+  int WidthToCover(double distance) const override;
 
  private:
   QRgb* Pixels();
@@ -63,6 +64,7 @@ class PictureSurface : public DrawingSurface {
   }
   int DevicePenWidth() const;
   void MakePicture();
+  void MakeDots();
   // The texts of the font size.
   TextLayouts& Texts() const;
 
@@ -78,7 +80,9 @@ class PictureSurface : public DrawingSurface {
   QImage background_;
 
   Pen pen_;
-  DotMask dot_{1, 1};
+  // As wide as the pen: points close an area, the round dots of lines meet at every angle.
+  DotMask point_{DotShape::Square, 1, 1};
+  DotMask dot_{DotShape::Round, 1, 1};
   QRgb fillColour_ = RgbOf({0, 0, 0});
   QRgb foreColour_ = RgbOf({255, 255, 255});
   double fontPoints_ = 8.25;

@@ -70,10 +70,10 @@ bool PullIn(QPointF& from, QPointF& to) {
 
 }  // namespace
 
-DotMask::DotMask(int diameter, int pictureWidth) {
+DotMask::DotMask(DotShape shape, int diameter, int pictureWidth) {
   const double radius = diameter / 2.0;
   for (int y = 0; y < diameter; ++y) {
-    const double down = y + 0.5 - radius;
+    const double down = shape == DotShape::Round ? y + 0.5 - radius : 0;
     const double halfWidth = std::sqrt(radius * radius - down * down);
     const int first = static_cast<int>(std::ceil(radius - halfWidth - 0.5));
     rows_.push_back({first, diameter - 1 - first});
@@ -195,7 +195,8 @@ void PixelCanvas::Circle(QPointF centre, double radius, double outlineWidth,
   const double outer = radius + halfOutline;
   if (outer < kHalfPixelDiagonal) {
     const std::optional<QRgb> colour = outline ? outline : fill;
-    if (outer > 0 && colour) Dot(centre.x(), centre.y(), DotMask(1, width_), *colour);
+    const DotMask pixel(DotShape::Square, 1, width_);
+    if (outer > 0 && colour) Dot(centre.x(), centre.y(), pixel, *colour);
     return;
   }
   const int top = static_cast<int>(std::clamp(centre.y() - outer, 0.0, 1.0 * height_));

@@ -26,11 +26,14 @@ struct PixelRun {
   std::int16_t Last = -1;
 };
 
-/// The pixels of a round dot: those whose centres lie within half the diameter of the dot's centre.
+enum class DotShape { Square, Round };
+
+/// The pixels of a dot: a square of them, or those whose centres lie within half the diameter of a
+/// round dot's centre.
 class DotMask {
  public:
   /// @param pictureWidth of the pictures that the dot is to be stamped into
-  DotMask(int diameter, int pictureWidth);
+  DotMask(DotShape shape, int diameter, int pictureWidth);
 
   int Diameter() const { return static_cast<int>(rows_.size()); }
   /// From the top row down, counted from the mask's left edge.

@@ -51,5 +51,24 @@ TEST_F(PictureBoxTest, ShapesLieAboveThePictureAreNoPartOfItAndKeepTheirPlace) {
   EXPECT_EQ(box.childAt(100, 100), nullptr) << "the mouse goes through";
 }
 
+TEST_F(PictureBoxTest, DarkSidesMakeALineStandOutFromABrightPicture) {
+  box.Surface().SetPen({.Style = DrawStyle::NoOutline, .Filled = true});
+  box.Surface().SetFillColour({255, 255, 0});
+  box.Surface().Circle({500, 500}, 900, {});
+  SquareShape square(box, "square");
+  square.AddDarkSides();
+  square.SetLineColour(kRed);
+  square.Place({200, 300}, 400);
+  square.show();
+  const QImage shown = box.grab().toImage();
+  for (const int line : {20, 60}) {
+    EXPECT_EQ(shown.pixel(line, 50), RgbOf(kRed));
+    for (const int side : {-1, 1}) {
+      EXPECT_EQ(shown.pixel(line + side, 50), RgbOf({0, 0, 0}));
+      EXPECT_EQ(shown.pixel(line + 2 * side, 50), RgbOf({255, 255, 0}));
+    }
+  }
+}
+
 }  // namespace
 }  // namespace quorvane

@@ -5,6 +5,9 @@
 #include <limits>
 #include <tuple>
 
+#include "render/influence_overlay.h"
+#include "support/game_builder.h"
+
 namespace quorvane {
 namespace {
 
@@ -98,7 +101,55 @@ TEST(PictureSurface, ResizedPictureIsBlankKeepsThePenAndRefusesBackgroundsOfTheO
   EXPECT_EQ(surface.WidthInTwips(), 45);
   surface.SetBackground(image);
   surface.Point({1, 1}, kBlue);
-  EXPECT_EQ(Shown(surface), "....../..BB../.BBBB./.BBBB./..BB../......");
+  EXPECT_EQ(Shown(surface), "....../.BBBB./.BBBB./.BBBB./.BBBB./......");
+}
+
+// A universe that one player holds.
+GameSession HeldUniverse(int extent) {
+  GameSession session = GameBuilder().Player("A").Build();
+  session.UniverseExtent = extent;
+  session.GridCellSize = (extent - kUniverseOrigin) / 650.0;
+  session.CreateInfluenceGrid(650);
+  for (int gx = 0; gx <= 650; ++gx) {
+    for (int gy = 0; gy <= 650; ++gy) session.InfluenceGrid.At(gx, gy) = {1, 100};
+  }
+  return session;
+}
+
+// The black pixels of a picture in the rectangle that its coloured ones span.
+int HolesIn(const QImage& picture) {
+  const QRgb black = RgbOf({0, 0, 0});
+  QRect spanned;
+  for (int i = 0; i < picture.width(); ++i) {
+    for (const QPoint pixel : {QPoint(i, picture.height() / 2), QPoint(picture.width() / 2, i)}) {
+      if (picture.pixel(pixel) != black) spanned |= QRect(pixel, QSize(1, 1));
+    }
+  }
+  int holes = spanned.width() > 1 && spanned.height() > 1 ? 0 : -1;
+  for (int y = spanned.top(); y <= spanned.bottom(); ++y) {
+    const auto* row = reinterpret_cast<const QRgb*>(picture.constScanLine(y));
+    for (int x = spanned.left(); x <= spanned.right(); ++x) holes += row[x] == black ? 1 : 0;
+  }
+  return holes;
+}
+
+TEST(InfluenceBorders, CloseTheAreaAtEveryScaleSizeAndZoom) {
+  // Universe, map and window; points of the small universe lie up to a light year apart, which is
+  // more than a step of its grid.
+  const std::tuple<int, int, int> cases[] = {
+      {1400, 1203, 1400}, {1400, 501, 5}, {3000, 667, 3000}, {3000, 501, 1530}, {3000, 334, 437}};
+  for (const auto& [extent, side, window] : cases) {
+    const GameSession session = HeldUniverse(extent);
+    MapView view;
+    view.ShowAll(extent);
+    if (window < extent) view.ShowWindow(37, 91, window);
+    for (const double ratio : {1.0, 1.25, 1.5, 2.0}) {
+      PictureSurface surface({side, side}, ratio);
+      DrawInfluenceBorders(session, view, surface, {});
+      EXPECT_EQ(HolesIn(surface.Picture()), 0)
+          << window << " of " << extent << " light years on " << side << " x " << ratio;
+    }
+  }
 }
 
 TEST(PictureText, IsMeasuredInThePicturesUnits) {
