@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <chrono>
 #include <cstdio>
 #include <system_error>
 #include <utility>
@@ -20,22 +21,58 @@ Failure FileFailure(const fs::path& path, const std::string& what, const std::er
 
 std::error_code LastError() { return {errno, std::generic_category()}; }
 
-// Where a replacement is written before it takes the file's place.
-fs::path PathBeside(const fs::path& path) {
-  fs::path beside = path;
-  beside += ".quorvane-new";
-  return beside;
+struct HelperFile {
+  fs::path Path;
+  OpenFileHandle Handle;
+};
+
+// Creates the file in which a replacement is written before it takes the target's place. Others may
+// save into the same folder at the same time, so each helper has a name of its own, that of the
+// moment; what somebody has put under that name stays. The name is short, as the target's own may
+// be as long as the system allows. Without a handle, and with `errno`, on failure.
+HelperFile CreateHelper(const fs::path& target) {
+  constexpr int kAttempts = 100;
+  HelperFile helper;
+  for (int attempt = 0; attempt < kAttempts; ++attempt) {
+    const auto moment = std::chrono::system_clock::now().time_since_epoch().count();
+    helper.Path = target.parent_path() / (".quorvane-" + std::to_string(moment));
+    helper.Handle = OpenForBytes(helper.Path, OpenTo::Create);
+    if (helper.Handle || errno != EEXIST) break;
+  }
+  return helper;
 }
 
-std::error_code WriteWholeFile(const fs::path& path, std::string_view content) {
-  OpenFileHandle file = OpenForBytes(path, OpenTo::Write);
-  if (!file) return LastError();
+std::error_code WriteWhole(OpenFileHandle file, std::string_view content) {
   std::error_code error;
   if (std::fwrite(content.data(), 1, content.size(), file.get()) != content.size() ||
       !FlushToDisk(file.get())) {
     error = LastError();
   }
   if (std::fclose(file.release()) != 0 && !error) error = LastError();
+  return error;
+}
+
+void CopyRights(const fs::path& from, const fs::path& to) {
+  std::error_code isNew;
+  const fs::perms rights = fs::status(from, isNew).permissions();
+  if (!isNew) fs::permissions(to, rights, isNew);
+}
+
+// Writes the content beside the target and renames it over it, down to the disk itself.
+std::error_code PutInPlace(const fs::path& target, std::string_view content) {
+  HelperFile helper = CreateHelper(target);
+  if (!helper.Handle) return LastError();
+  std::error_code error = WriteWhole(std::move(helper.Handle), content);
+  if (!error) {
+    CopyRights(target, helper.Path);
+    fs::rename(helper.Path, target, error);
+  }
+  if (error) {
+    std::error_code ignored;
+    fs::remove(helper.Path, ignored);
+  } else if (!SyncFolder(target.parent_path())) {
+    error = LastError();
+  }
   return error;
 }
 
@@ -153,18 +190,9 @@ Result<void> ReplaceFile(const fs::path& path, std::string_view content) {
   if (old && !OpenForBytes(target, OpenTo::Change)) {
     return FileFailure(target, "the file cannot be written", LastError());
   }
-  const fs::path beside = PathBeside(target);
-  error = WriteWholeFile(beside, content);
-  if (!error) {
-    std::error_code isNew;
-    const fs::perms rights = fs::status(target, isNew).permissions();
-    if (!isNew) fs::permissions(beside, rights, isNew);
-    fs::rename(beside, target, error);
-  }
-  if (!error) return {};
-  std::error_code ignored;
-  fs::remove(beside, ignored);
-  return FileFailure(target, "the file cannot be written", error);
+  error = PutInPlace(target, content);
+  if (error) return FileFailure(target, "the file cannot be written", error);
+  return {};
 }
 
 }  // namespace quorvane

@@ -49,8 +49,9 @@ Result<std::string> ReadTextFile(const std::filesystem::path& path);
 Result<std::string> ReadOptionalTextFile(const std::filesystem::path& path);
 
 /// Replaces a file whole: the new content is written beside it, flushed and renamed over it, so
-/// that the old file is unharmed until the new one is complete. A file that exists in another case
-/// keeps its name, one that is protected against writing its content. Fails with name and reason.
+/// that the old file is unharmed until the new one is complete, and of several programs that save
+/// at once the last one wins. A file that exists in another case keeps its name, one that is
+/// protected against writing its content. Fails with name and reason.
 Result<void> ReplaceFile(const std::filesystem::path& path, std::string_view content);
 /// Replaces a file by a text that may have failed to come about; it then stays untouched, as it
 /// does where the text would be too large to be read.
