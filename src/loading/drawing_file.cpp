@@ -10,6 +10,14 @@
 namespace quorvane {
 namespace {
 
+constexpr std::string_view kBlanks = " \t";
+constexpr std::string_view kEnds = ",\r\n";
+
+std::string_view WithoutBlanks(std::string_view text) {
+  text.remove_prefix(std::min(text.find_first_not_of(kBlanks), text.size()));
+  return text.substr(0, text.find_last_not_of(kBlanks) + 1);
+}
+
 // Takes the fields of a drawing off its text. Unlike the game's other files, blanks on both sides
 // of a field do not count.
 class DrawingFields {
@@ -19,7 +27,7 @@ class DrawingFields {
   bool AtEnd() const { return rest_.empty(); }
 
   std::string_view Next() {
-    rest_.remove_prefix(std::min(rest_.find_first_not_of(" \t"), rest_.size()));
+    rest_.remove_prefix(std::min(rest_.find_first_not_of(kBlanks), rest_.size()));
     std::string_view field;
     if (rest_.starts_with('"')) {
       rest_.remove_prefix(1);
@@ -29,7 +37,7 @@ class DrawingFields {
     } else {
       const std::string_view whole = rest_.substr(0, rest_.find_first_of(kEnds));
       rest_.remove_prefix(whole.size());
-      field = whole.substr(0, whole.find_last_not_of(" \t") + 1);
+      field = WithoutBlanks(whole);
     }
     ConsumeEnd();
     return field;
@@ -39,8 +47,6 @@ class DrawingFields {
   std::int32_t NextWhole() { return ToWhole32(NextNumber()); }
 
  private:
-  static constexpr std::string_view kEnds = ",\r\n";
-
   void ConsumeEnd() {
     if (rest_.starts_with(',')) {
       rest_.remove_prefix(1);
@@ -76,8 +82,10 @@ void ReadShape(DrawingFields& fields, DrawingRecord& record) {
   }
 }
 
-// Whether a text would be cut when it is read without quotes.
-bool NeedsQuotes(std::string_view text) { return text.find_first_of(",\r\n") != text.npos; }
+// Whether a text would lose something when it is read without quotes.
+bool NeedsQuotes(std::string_view text) {
+  return text.find_first_of(kEnds) != text.npos || WithoutBlanks(text) != text;
+}
 
 std::string JoinFields(std::initializer_list<std::string> fields) {
   std::string joined;

@@ -16,6 +16,8 @@ TEST(DrawingLayer, IsNormalisedByReadingAndComesBackTheSame) {
       {"halves", "T,1000.5,1001.5,x,10.5,1\n", "T,1000,1002,x,10,1\r\n"},
       {"quoted text", "T,1,2,\"a, b\",8,1\n", "T,1,2,\"a, b\",8,1\r\n"},
       {"needless quotes", "T,1,2,\"a\" ,8,1\n", "T,1,2,a,8,1\r\n"},
+      {"blanks in quotes", "T,1,2,\" a\",8,1\nT,1,2,\"a\t\" ,8,1\nT,1,2,\"\",8,1\n",
+       "T,1,2,\" a\",8,1\r\nT,1,2,\"a\t\",8,1\r\nT,1,2,,8,1\r\n"},
       {"a line break in quotes", "T,1,2,\"a\r\nb\",8,1\n", "T,1,2,\"a\r\nb\",8,1\r\n"},
       {"unknown kinds", "X,1,2\nl,1\n", ""},
       {"a colour nobody has", "C,1,2,3,99\n", "C,1,2,3,99\r\n"},
