@@ -53,8 +53,9 @@ void CheckRaceColours(const std::string& text) {
 }
 
 void CheckDrawing(const std::string& text) {
-  const std::vector<DrawingRecord> records = ParseDrawing(text);
-  Require(ParseDrawing(DrawingLayerText(records)) == records, "the drawing comes back");
+  const std::vector<DrawingRecord> records = *ParseDrawing(text, "fuzz.qvl");
+  Require(*ParseDrawing(DrawingLayerText(records), "fuzz.qvl") == records,
+          "the drawing comes back");
 }
 
 void CheckEmpireData(const std::string& text) {

@@ -10,6 +10,9 @@
 namespace quorvane {
 namespace {
 
+// In bytes, without the line end. A line of megabytes would keep the user waiting at every key.
+constexpr std::size_t kLongestRecord = 65536;
+
 constexpr std::string_view kBlanks = " \t";
 constexpr std::string_view kEnds = ",\r\n";
 
@@ -22,9 +25,16 @@ std::string_view WithoutBlanks(std::string_view text) {
 // of a field do not count.
 class DrawingFields {
  public:
-  explicit DrawingFields(std::string_view text) : rest_(text) {}
+  explicit DrawingFields(std::string_view text) : text_(text), rest_(text), line_(text) {}
 
   bool AtEnd() const { return rest_.empty(); }
+
+  // Whether a line was longer than any record, a line end within quotes ending none.
+  bool IsTooLong() const { return isTooLong_; }
+  // The number of that line, or else of the one that is read.
+  int LineNumber() const {
+    return static_cast<int>(std::count(text_.begin(), line_.begin(), '\n')) + 1;
+  }
 
   std::string_view Next() {
     rest_.remove_prefix(std::min(rest_.find_first_not_of(kBlanks), rest_.size()));
@@ -48,14 +58,21 @@ class DrawingFields {
 
  private:
   void ConsumeEnd() {
-    if (rest_.starts_with(',')) {
-      rest_.remove_prefix(1);
+    const bool isLineEnd = !rest_.starts_with(',');
+    std::size_t length = line_.size() - rest_.size();
+    if (isLineEnd) {
+      length += TakeLine(rest_).size();
     } else {
-      TakeLine(rest_);
+      rest_.remove_prefix(1);
     }
+    isTooLong_ = isTooLong_ || length > kLongestRecord;
+    if (isLineEnd && !isTooLong_) line_ = rest_;
   }
 
+  std::string_view text_;
   std::string_view rest_;
+  std::string_view line_;  // from the beginning of the current line on
+  bool isTooLong_ = false;
 };
 
 std::optional<DrawingKind> KindOf(std::string_view field) {
@@ -95,10 +112,10 @@ std::string JoinFields(std::initializer_list<std::string> fields) {
 
 }  // namespace
 
-std::vector<DrawingRecord> ParseDrawing(std::string_view text) {
+Result<std::vector<DrawingRecord>> ParseDrawing(std::string_view text, std::string_view fileName) {
   std::vector<DrawingRecord> records;
   DrawingFields fields(text);
-  while (!fields.AtEnd()) {
+  while (!fields.AtEnd() && !fields.IsTooLong()) {
     const std::optional<DrawingKind> kind = KindOf(fields.Next());
     if (!kind) continue;
     DrawingRecord record{.Kind = *kind};
@@ -108,6 +125,10 @@ std::vector<DrawingRecord> ParseDrawing(std::string_view text) {
     if (fields.AtEnd()) break;  // the colour is missing, the record was cut short
     record.ColourNumber = ToWhole16(fields.NextNumber());
     records.push_back(std::move(record));
+  }
+  if (fields.IsTooLong()) {
+    return Failure{PlaceInFile(fileName, fields.LineNumber()) +
+                   ": a drawing record ends within 64 KB, this one does not"};
   }
   return records;
 }
@@ -144,12 +165,14 @@ std::optional<std::string> DrawnTextFault(std::string_view text) {
 Result<std::vector<DrawingRecord>> ReadDrawingFile(const GameSession& session) {
   const Result<std::string> text = ReadOptionalTextFile(session.DrawingFilePath);
   if (!text) return Failure{text.Message()};
-  return ParseDrawing(*text);
+  return ParseDrawing(*text, TextFromPath(session.DrawingFilePath));
 }
 
 Result<void> WriteDrawingFile(const GameSession& session, std::string_view layer) {
   std::string text;
   while (!layer.empty()) text.append(TakeLine(layer)).append("\r\n");
+  const auto records = ParseDrawing(text, TextFromPath(session.DrawingFilePath));
+  if (!records) return Failure{records.Message() + "; nothing was saved"};
   return SaveText(session.DrawingFilePath, text);
 }
 
