@@ -53,7 +53,7 @@ void EmpireStat::BuildTabs() {
   SSTab1->setAccessibleName(tr("What is known of the empire"));
   Totals = new EmpireTotals(SSTab1);
   Race = new RaceInformation(SSTab1);
-  RaceNotes = new QPlainTextEdit(SSTab1);
+  RaceNotes = new TextBox(SSTab1);
   RaceNotes->setObjectName("RaceNotes");
   RaceNotes->setAccessibleName(tr("Notes on the race"));
   RaceNotes->setTabChangesFocus(true);
@@ -99,7 +99,7 @@ void EmpireStat::ConnectControls() {
   }
   connect(Race->RacePRT, &QComboBox::currentIndexChanged, this, &EmpireStat::RacePRT_Click);
   connect(Race->ReCalcHab, &QPushButton::clicked, this, &EmpireStat::ReCalcHab_Click);
-  connect(RaceNotes, &QPlainTextEdit::textChanged, this, &EmpireStat::RaceNotes_Change);
+  connect(RaceNotes, &TextBox::textChanged, this, &EmpireStat::RaceNotes_Change);
   connect(SaveInfo, &QPushButton::clicked, this, &EmpireStat::SaveInfo_Click);
   connect(OK, &QPushButton::clicked, this, &EmpireStat::OK_Click);
 }
@@ -132,7 +132,7 @@ void EmpireStat::ShowPlayer(int player) {
   CurrentPlayer = player;
   Totals->ShowTotals(Current());
   Race->ShowPlayer(Current());
-  RaceNotes->setPlainText(ToQString(FieldText(Current()[PlayerField::NotesText])));
+  RaceNotes->ShowText(ToQString(FieldText(Current()[PlayerField::NotesText])));
   EnableEditing(true);
 }
 
@@ -186,7 +186,7 @@ void EmpireStat::LRT_Click(std::size_t index) {
 
 void EmpireStat::RaceNotes_Change() {
   if (FillingControls) return;
-  Current()[PlayerField::NotesText] = ToText(RaceNotes->toPlainText());
+  Current()[PlayerField::NotesText] = ToText(RaceNotes->Text());
 }
 
 void EmpireStat::ReCalcHab_Click() {
