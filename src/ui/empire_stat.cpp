@@ -203,7 +203,7 @@ void EmpireStat::ReCalcHab_Click() {
 
 void EmpireStat::SaveInfo_Click() {
   const Result<void> saved = WriteEmpireDataFile(session_);
-  prompts_.Inform(saved ? "Information Saved" : saved.Message());
+  prompts_.Inform(saved ? SavedRacesMessage("Information Saved", session_) : saved.Message());
 }
 
 void EmpireStat::OK_Click() { accept(); }
