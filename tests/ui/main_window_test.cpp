@@ -1,5 +1,6 @@
 #include <tuple>
 
+#include "platform/files/files.h"
 #include "platform/toolkit/twips.h"
 #include "ui/about.h"
 #include "ui/details_panel.h"
@@ -272,6 +273,17 @@ TEST_F(LoadedGameTest, OpensTheSmallWindowsFromItsMenusAndKeysCloseThem) {
     driver.Choose(item);
   }
   EXPECT_FALSE(About(&window).Picture1->pixmap(Qt::ReturnByValue).isNull());
+}
+
+TEST_F(MainWindowTest, TakesAGameWhoseNameIsInTheGamesOwnEncoding) {
+  folder.Write("K\xF6n.map", folder.Read("Demo.MAP"));
+  folder.Write("K\xF6n.p1", folder.Read("Demo.P1"));
+  LoadGame(driver, "Kön.map");
+  EXPECT_TRUE(window.windowTitle().contains("{ Kön.map  Year: 2450 }"));
+  driver.Choose("mnuSaveRaceC").Choose("mnuSave");
+  EXPECT_TRUE(prompts.Shown().back().ends_with("/Kön Universe Map 2450.bmp"));
+  EXPECT_TRUE(FindFile(folder / "K\xF6n.QVC"));
+  EXPECT_TRUE(FindFile(folder / "K\xF6n Universe Map 2450.bmp"));
 }
 
 }  // namespace

@@ -19,6 +19,16 @@ Failure FileFailure(const fs::path& path, const std::string& what, const std::er
   return {TextFromPath(path) + ": " + what + " (" + error.message() + ")"};
 }
 
+// Names are compared as the system keeps them, because not all of them are text.
+using Name = std::basic_string_view<fs::path::value_type>;
+
+bool EqualNames(Name left, Name right) {
+  const auto lower = [](fs::path::value_type c) {
+    return c >= 'A' && c <= 'Z' ? static_cast<fs::path::value_type>(c + ('a' - 'A')) : c;
+  };
+  return std::ranges::equal(left, right, {}, lower, lower);
+}
+
 std::error_code LastError() { return {errno, std::generic_category()}; }
 
 struct HelperFile {
@@ -100,18 +110,17 @@ std::optional<fs::path> FindFile(const fs::path& path) {
   std::error_code error;
   const bool isFound = fs::is_regular_file(path, error);
   if (isFound && SystemTellsCaseApart()) return path;
-  const std::string wanted = TextFromPath(path.filename());
+  const fs::path wanted = path.filename();
   const auto found = NameAmong(FilesNamedLike(path.parent_path(), wanted, ""), wanted);
-  if (found) return path.parent_path() / PathFromText(*found);
+  if (found) return path.parent_path() / *found;
   return isFound ? std::optional(path) : std::nullopt;
 }
 
-std::optional<std::string> NameAmong(const std::vector<std::string>& names,
-                                     std::string_view wanted) {
-  if (std::ranges::find(names, wanted) != names.end()) return std::string(wanted);
+std::optional<fs::path> NameAmong(const std::vector<fs::path>& names, const fs::path& wanted) {
+  if (std::ranges::find(names, wanted) != names.end()) return wanted;
   // The first in alphabetical order, so that the choice does not depend on the folder's own order.
   const auto found = std::ranges::find_if(
-      names, [&](const std::string& name) { return EqualIgnoringCase(name, wanted); });
+      names, [&](const fs::path& name) { return EqualNames(name.native(), wanted.native()); });
   return found != names.end() ? std::optional(*found) : std::nullopt;
 }
 
@@ -131,19 +140,22 @@ fs::path FolderIgnoringCase(const fs::path& parent, std::string_view name) {
   return found.value_or(exact);
 }
 
-std::vector<std::string> FilesNamedLike(const fs::path& folder, std::string_view begin,
-                                        std::string_view end) {
-  std::vector<std::string> names;
+std::vector<fs::path> FilesNamedLike(const fs::path& folder, const fs::path& begin,
+                                     const fs::path& end) {
+  const Name front = begin.native();
+  const Name back = end.native();
+  std::vector<fs::path> names;
   std::error_code error;
   for (fs::directory_iterator entry(folder, error), last; !error && entry != last;
        entry.increment(error)) {
     std::error_code kindError;
-    const std::string name = TextFromPath(entry->path().filename());
-    if (name.size() >= begin.size() + end.size() &&
-        EqualIgnoringCase(std::string_view(name).substr(0, begin.size()), begin) &&
-        EqualIgnoringCase(std::string_view(name).substr(name.size() - end.size()), end) &&
+    const fs::path path = entry->path().filename();
+    const Name name = path.native();
+    if (name.size() >= front.size() + back.size() &&
+        EqualNames(name.substr(0, front.size()), front) &&
+        EqualNames(name.substr(name.size() - back.size()), back) &&
         entry->is_regular_file(kindError)) {
-      names.push_back(name);
+      names.push_back(path);
     }
   }
   std::ranges::sort(names);

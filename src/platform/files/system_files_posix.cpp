@@ -3,6 +3,7 @@
 
 #include <cerrno>
 
+#include "model/text.h"
 #include "platform/files/files.h"
 #include "platform/files/system_files.h"
 
@@ -18,10 +19,8 @@ std::filesystem::path PathFromText(std::string_view text) {
   return {std::u8string(text.begin(), text.end())};
 }
 
-std::string TextFromPath(const std::filesystem::path& path) {
-  const std::u8string text = path.u8string();
-  return {text.begin(), text.end()};
-}
+// A name is any bytes; those that are no text come from the game's own system.
+std::string TextFromPath(const std::filesystem::path& path) { return DecodeText(path.native()); }
 
 OpenFileHandle OpenForBytes(const std::filesystem::path& path, OpenTo purpose) {
   constexpr const char* kModes[] = {"rb", "wbx", "r+b"};
