@@ -19,8 +19,19 @@ std::filesystem::path PathFromText(std::string_view text) {
   return {std::u8string(text.begin(), text.end())};
 }
 
-// A name is any bytes; those that are no text come from the game's own system.
-std::string TextFromPath(const std::filesystem::path& path) { return DecodeText(path.native()); }
+// A name is any bytes; those that are no text come from the game's own system. Each step of the way
+// is read by itself, because such a file may lie in a folder that is named in today's encoding.
+std::string TextFromPath(const std::filesystem::path& path) {
+  std::string text;
+  std::string_view rest = path.native();
+  for (;;) {
+    const std::size_t slash = rest.find('/');
+    text += DecodeText(std::string(rest.substr(0, slash)));
+    if (slash == rest.npos) return text;
+    text += '/';
+    rest.remove_prefix(slash + 1);
+  }
+}
 
 OpenFileHandle OpenForBytes(const std::filesystem::path& path, OpenTo purpose) {
   constexpr const char* kModes[] = {"rb", "wbx", "r+b"};

@@ -20,6 +20,11 @@ TEST(FindFile, TakesTheFirstOfTheNamesInAnotherCase) {
   EXPECT_EQ(FindFile(folder / "Demo.P1"), folder / "DEMO.P1");
 }
 
+TEST(TextFromPath, ReadsEachStepInItsOwnEncoding) {
+  EXPECT_EQ(TextFromPath("/home/Jürgen//K\xF6n.map"), "/home/Jürgen//Kön.map");
+  EXPECT_EQ(TextFromPath("K\xF6n/"), "Kön/");
+}
+
 TEST(ReadTextFile, DoesNotWaitForAPipe) {
   const TempFolder folder;
   ASSERT_EQ(mkfifo((folder / "pipe").c_str(), 0600), 0);
