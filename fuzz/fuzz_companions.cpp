@@ -3,6 +3,7 @@
 // is.
 #include <iterator>
 #include <optional>
+#include <vector>
 
 #include "analysis/empire_data.h"
 #include "analysis/estimated_hab.h"
@@ -52,8 +53,9 @@ void CheckRaceColours(const std::string& text) {
 }
 
 void CheckDrawing(const std::string& text) {
-  const std::string layer = DrawingLayerText(ParseDrawing(text));
-  Require(DrawingLayerText(ParseDrawing(layer)) == layer, "the drawing comes back");
+  const std::vector<DrawingRecord> records = *ParseDrawing(text, "fuzz.qvl");
+  Require(*ParseDrawing(DrawingLayerText(records), "fuzz.qvl") == records,
+          "the drawing comes back");
 }
 
 void CheckEmpireData(const std::string& text) {

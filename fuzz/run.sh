@@ -1,6 +1,8 @@
 #!/usr/bin/env bash
 # Builds the fuzz targets and runs each for some seconds (60 unless told otherwise), beginning with
-# the example games and a few tiny ones.
+# the example games, a few tiny ones, the inputs in fuzz/corpus and what earlier runs have kept.
+# "fuzz/run.sh same" is short and tries the same inputs each time, so that its result depends on the
+# sources alone.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 seconds=${1:-60}
@@ -8,16 +10,28 @@ targets="fuzz_map fuzz_report fuzz_items fuzz_companions fuzz_load"
 seeds=build/fuzz/seeds
 game=build/fuzz/seeds/game
 
-mkdir -p build
+mkdir -p build/fuzz
 cmake --preset fuzz >build/fuzz-configure.log 2>&1 || { cat build/fuzz-configure.log; exit 1; }
 # shellcheck disable=SC2086 # one word for each target
 cmake --build --preset fuzz --target quorvane-make-game $targets >build/fuzz-build.log 2>&1 ||
   { cat build/fuzz-build.log; exit 1; }
 
-# The files that the targets write stay in memory where that is possible.
-TMPDIR=$(mktemp -d -p /dev/shm 2>/dev/null || mktemp -d)
-export TMPDIR
-trap 'rm -rf "$TMPDIR"' EXIT
+# The files that the targets write stay in memory where that is possible, under a name that is
+# always the same.
+memory=$(mktemp -d -p /dev/shm 2>/dev/null || mktemp -d)
+trap 'rm -rf "$memory"' EXIT
+export TMPDIR=build/fuzz/files
+ln -sfn "$memory" "$TMPDIR"
+
+# How many inputs "same" tries: some six seconds of each target.
+number_of_runs() {
+  case $1 in
+    fuzz_map) echo 60000 ;;
+    fuzz_companions) echo 20000 ;;
+    fuzz_load) echo 2000 ;;
+    *) echo 6000 ;;
+  esac
+}
 
 # One part of a folder's files for the load target; a file that is not there leaves its part empty.
 part() {
@@ -51,10 +65,24 @@ add_seeds 1 3 new
 add_seeds 2 2 old
 add_seeds 3 12 new
 
+# The fuzzer learns from what is compared, addresses included; they differ from run to run unless the
+# system is asked for the same ones, which not every container allows.
+fixed_addresses=
+if [ "$seconds" = same ] && setarch -R true 2>/dev/null; then fixed_addresses="setarch -R"; fi
+
 for target in $targets; do
-  "build/fuzz/fuzz/$target" -seed=1 -max_total_time="$seconds" -max_len=8192 -rss_limit_mb=2048 \
-    -timeout=20 -artifact_prefix="build/fuzz/$target-" "build/fuzz/corpus/$target" \
-    "$seeds/$target" examples >"build/fuzz/$target.log" 2>&1 ||
+  folders=("$seeds/$target" examples)
+  [ -d "fuzz/corpus/$target" ] && folders+=("fuzz/corpus/$target")
+  if [ "$seconds" = same ]; then
+    # One by one, because folders list their files in an order of their own.
+    inputs=$(find "${folders[@]}" -type f | LC_ALL=C sort | paste -s -d ,)
+    how=("-runs=$(number_of_runs "$target")" "-seed_inputs=$inputs")
+  else
+    how=("-max_total_time=$seconds" "build/fuzz/corpus/$target" "${folders[@]}")
+  fi
+  # shellcheck disable=SC2086 # no word or several
+  $fixed_addresses "build/fuzz/fuzz/$target" -seed=1 -max_len=8192 -rss_limit_mb=2048 -timeout=20 \
+    -artifact_prefix="build/fuzz/$target-" "${how[@]}" >"build/fuzz/$target.log" 2>&1 ||
     { tail -n 40 "build/fuzz/$target.log"; exit 1; }
   printf '%s: ' "$target"
   tail -n 1 "build/fuzz/$target.log"

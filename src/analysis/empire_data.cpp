@@ -4,6 +4,7 @@
 #include <cstddef>
 
 #include "model/data_items.h"
+#include "model/text.h"
 #include "platform/files/files.h"
 
 namespace quorvane {
@@ -51,11 +52,22 @@ Result<std::string> EmpireDataText(const GameSession& session) {
   std::string text;
   for (int number = 1; number <= session.PlayerCount; ++number) {
     const PlayerRecord& player = session.Player(number);
+    if (!IsItemText(player.Name())) continue;
     const Result<std::string> record = RecordText(player);
     if (!record) return Failure{"Nothing was saved. " + player.Name() + ": " + record.Message()};
     text += *record;
   }
   return text;
+}
+
+std::string SavedRacesMessage(std::string saved, const GameSession& session) {
+  std::string names;
+  for (int number = 1; number <= session.PlayerCount; ++number) {
+    const std::string& name = session.Player(number).Name();
+    if (!IsItemText(name)) names += (names.empty() ? "" : ", ") + Excerpt(name);
+  }
+  if (names.empty()) return saved;
+  return saved + "\n\nLeft out, because a double quote in a name cannot be saved: " + names;
 }
 
 Result<void> ReadEmpireDataFile(GameSession& session) {

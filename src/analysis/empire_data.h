@@ -14,8 +14,14 @@ namespace quorvane {
 void ApplyEmpireData(std::string_view text, GameSession& session);
 
 /// The text of the empire data file for players 1 … `PlayerCount`, one item per line. Fails with
-/// the player's name when its name, trait or notes hold a double quote, which the file cannot keep.
+/// the player's name when its trait or notes hold a double quote, which the file cannot keep; a
+/// race whose name does is left out, because nobody can rename it.
 Result<std::string> EmpireDataText(const GameSession& session);
+
+/// What the user is told once the file of the races' data or of their colours has been saved.
+/// @param saved  the sentence that is enough where every race could be saved
+/// @return that sentence, and below it one that names the races left out and says why
+std::string SavedRacesMessage(std::string saved, const GameSession& session);
 
 /// Reads the empire data file of the session's map into its players; a missing file changes
 /// nothing. Fails with file and reason when the file is there but cannot be read.

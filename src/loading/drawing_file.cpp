@@ -10,16 +10,34 @@
 namespace quorvane {
 namespace {
 
+// In bytes, without the line end. A line of megabytes would keep the user waiting at every key.
+constexpr std::size_t kLongestRecord = 65536;
+
+constexpr std::string_view kBlanks = " \t";
+constexpr std::string_view kEnds = ",\r\n";
+
+std::string_view WithoutBlanks(std::string_view text) {
+  text.remove_prefix(std::min(text.find_first_not_of(kBlanks), text.size()));
+  return text.substr(0, text.find_last_not_of(kBlanks) + 1);
+}
+
 // Takes the fields of a drawing off its text. Unlike the game's other files, blanks on both sides
 // of a field do not count.
 class DrawingFields {
  public:
-  explicit DrawingFields(std::string_view text) : rest_(text) {}
+  explicit DrawingFields(std::string_view text) : text_(text), rest_(text), line_(text) {}
 
   bool AtEnd() const { return rest_.empty(); }
 
+  // Whether a line was longer than any record, a line end within quotes ending none.
+  bool IsTooLong() const { return isTooLong_; }
+  // The number of that line, or else of the one that is read.
+  int LineNumber() const {
+    return static_cast<int>(std::count(text_.begin(), line_.begin(), '\n')) + 1;
+  }
+
   std::string_view Next() {
-    rest_.remove_prefix(std::min(rest_.find_first_not_of(" \t"), rest_.size()));
+    rest_.remove_prefix(std::min(rest_.find_first_not_of(kBlanks), rest_.size()));
     std::string_view field;
     if (rest_.starts_with('"')) {
       rest_.remove_prefix(1);
@@ -29,7 +47,7 @@ class DrawingFields {
     } else {
       const std::string_view whole = rest_.substr(0, rest_.find_first_of(kEnds));
       rest_.remove_prefix(whole.size());
-      field = whole.substr(0, whole.find_last_not_of(" \t") + 1);
+      field = WithoutBlanks(whole);
     }
     ConsumeEnd();
     return field;
@@ -39,17 +57,22 @@ class DrawingFields {
   std::int32_t NextWhole() { return ToWhole32(NextNumber()); }
 
  private:
-  static constexpr std::string_view kEnds = ",\r\n";
-
   void ConsumeEnd() {
-    if (rest_.starts_with(',')) {
-      rest_.remove_prefix(1);
+    const bool isLineEnd = !rest_.starts_with(',');
+    std::size_t length = line_.size() - rest_.size();
+    if (isLineEnd) {
+      length += TakeLine(rest_).size();
     } else {
-      TakeLine(rest_);
+      rest_.remove_prefix(1);
     }
+    isTooLong_ = isTooLong_ || length > kLongestRecord;
+    if (isLineEnd && !isTooLong_) line_ = rest_;
   }
 
+  std::string_view text_;
   std::string_view rest_;
+  std::string_view line_;  // from the beginning of the current line on
+  bool isTooLong_ = false;
 };
 
 std::optional<DrawingKind> KindOf(std::string_view field) {
@@ -76,8 +99,10 @@ void ReadShape(DrawingFields& fields, DrawingRecord& record) {
   }
 }
 
-// Whether a text would be cut when it is read without quotes.
-bool NeedsQuotes(std::string_view text) { return text.find_first_of(",\r\n") != text.npos; }
+// Whether a text would lose something when it is read without quotes.
+bool NeedsQuotes(std::string_view text) {
+  return text.find_first_of(kEnds) != text.npos || WithoutBlanks(text) != text;
+}
 
 std::string JoinFields(std::initializer_list<std::string> fields) {
   std::string joined;
@@ -87,10 +112,10 @@ std::string JoinFields(std::initializer_list<std::string> fields) {
 
 }  // namespace
 
-std::vector<DrawingRecord> ParseDrawing(std::string_view text) {
+Result<std::vector<DrawingRecord>> ParseDrawing(std::string_view text, std::string_view fileName) {
   std::vector<DrawingRecord> records;
   DrawingFields fields(text);
-  while (!fields.AtEnd()) {
+  while (!fields.AtEnd() && !fields.IsTooLong()) {
     const std::optional<DrawingKind> kind = KindOf(fields.Next());
     if (!kind) continue;
     DrawingRecord record{.Kind = *kind};
@@ -100,6 +125,10 @@ std::vector<DrawingRecord> ParseDrawing(std::string_view text) {
     if (fields.AtEnd()) break;  // the colour is missing, the record was cut short
     record.ColourNumber = ToWhole16(fields.NextNumber());
     records.push_back(std::move(record));
+  }
+  if (fields.IsTooLong()) {
+    return Failure{PlaceInFile(fileName, fields.LineNumber()) +
+                   ": a drawing record ends within 64 KB, this one does not"};
   }
   return records;
 }
@@ -136,12 +165,14 @@ std::optional<std::string> DrawnTextFault(std::string_view text) {
 Result<std::vector<DrawingRecord>> ReadDrawingFile(const GameSession& session) {
   const Result<std::string> text = ReadOptionalTextFile(session.DrawingFilePath);
   if (!text) return Failure{text.Message()};
-  return ParseDrawing(*text);
+  return ParseDrawing(*text, TextFromPath(session.DrawingFilePath));
 }
 
 Result<void> WriteDrawingFile(const GameSession& session, std::string_view layer) {
   std::string text;
   while (!layer.empty()) text.append(TakeLine(layer)).append("\r\n");
+  const auto records = ParseDrawing(text, TextFromPath(session.DrawingFilePath));
+  if (!records) return Failure{records.Message() + "; nothing was saved"};
   return SaveText(session.DrawingFilePath, text);
 }
 

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <limits>
 #include <optional>
+#include <tuple>
 #include <utility>
 
 #include "model/data_items.h"
@@ -17,28 +18,35 @@ namespace {
 // In bytes; the game's own names have twenty at most. Lists of names could not show longer ones.
 constexpr std::size_t kLongestName = 1000;
 
-using Limits16 = std::numeric_limits<std::int16_t>;
+template <typename Whole>
+bool FitsInto(double value) {
+  return value >= std::numeric_limits<Whole>::min() && value <= std::numeric_limits<Whole>::max();
+}
 
-bool FitsInto16Bits(double value) { return value >= Limits16::min() && value <= Limits16::max(); }
+// Stored coordinates lie 1000 below the game's own, and must fit as well.
+bool IsCoordinate(double value) {
+  return FitsInto<std::int16_t>(value) && FitsInto<std::int16_t>(value - kUniverseOrigin);
+}
 
 // The three numbers and the name of one line, or what was expected where it went wrong.
 Result<MapPlanet> ParsePlanet(std::string_view line) {
   DataItemReader items(line);
   MapPlanet planet;
-  const std::pair<const char*, int*> numbers[] = {
-      {"the planet number", &planet.Number}, {"X", &planet.X}, {"Y", &planet.Y}};
-  for (const auto& [what, target] : numbers) {
+  const std::tuple<const char*, bool (*)(double), int*> numbers[] = {
+      {"the planet number", FitsInto<std::int32_t>, &planet.Number},
+      {"X", IsCoordinate, &planet.X},
+      {"Y", IsCoordinate, &planet.Y}};
+  for (const auto& [what, isInRange, target] : numbers) {
     const std::string_view text = items.ReadNumberText();
     const std::optional<double> value = WholeTextNumber(text);
     if (!value) {
       return Failure{std::string(what) + " is no number" +
                      (text.empty() ? ", it is missing" : ": " + Excerpt(text))};
     }
-    // Stored coordinates lie 1000 below the game's own, and must fit as well.
-    if (!FitsInto16Bits(*value) || !FitsInto16Bits(*value - kUniverseOrigin)) {
+    if (!isInRange(*value)) {
       return Failure{std::string(what) + " is out of range: " + Excerpt(text)};
     }
-    *target = ToWhole16(*value);
+    *target = ToWhole32(*value);
   }
   planet.Name = items.ReadText();
   if (planet.Name.size() > kLongestName) {
@@ -57,7 +65,7 @@ int ExtentOf(const std::vector<MapPlanet>& planets) {
 
 Result<UniverseMap> ParseUniverseMap(std::string_view text, std::string_view fileName) {
   UniverseMap map;
-  std::string_view rest = text;
+  std::string_view rest = BeforeEndOfFile(text);
   TakeLine(rest);  // the heading
   for (int line = 2; !rest.empty(); ++line) {
     const std::string_view record = TakeLine(rest);
@@ -74,7 +82,7 @@ Result<UniverseMap> ParseUniverseMap(std::string_view text, std::string_view fil
     return Failure{PlaceInFile(fileName, 2) + ": a planet was expected here, the map has none"};
   }
   map.Extent = ExtentOf(map.Planets);
-  if (map.Extent <= kUniverseOrigin || !FitsInto16Bits(map.Extent)) {
+  if (map.Extent <= kUniverseOrigin || !FitsInto<std::int16_t>(map.Extent)) {
     return Failure{std::string(fileName) + ": the universe would end at " +
                    std::to_string(map.Extent) + ", it must end above " +
                    std::to_string(kUniverseOrigin) + " and below 32768"};

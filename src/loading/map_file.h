@@ -8,7 +8,7 @@
 
 namespace quorvane {
 
-/// The most planets that a map may have: planet numbers are 16-bit.
+/// The most planets that a map may have: the program counts them in 16 bits.
 inline constexpr int kMaxPlanets = 32767;
 
 /// One line of a universe map: a planet's number, its game coordinates and its name.
@@ -28,10 +28,10 @@ struct UniverseMap {
   int Extent = 0;
 };
 
-/// Reads the text of a map file: a heading line, then one planet a line. `fileName` is named in
-/// messages. Fails with file and line for a record without a number, X or Y, for coordinates beyond
-/// 16 bits, for a name of more than 1000 bytes, for a map without planets and for one whose extent
-/// is not above 1000.
+/// Reads the text of a map file: a heading line, then one planet a line, up to an end-of-file sign.
+/// `fileName` is named in messages. Fails with file and line for a record without a number, X or Y,
+/// for coordinates beyond 16 bits, for a number beyond 32, for a name of more than 1000 bytes, for
+/// a map without planets and for one whose extent is not above 1000.
 Result<UniverseMap> ParseUniverseMap(std::string_view text, std::string_view fileName);
 
 }  // namespace quorvane

@@ -88,7 +88,7 @@ Result<std::string> RaceColoursText(const GameSession& session) {
   for (int number = 1; number <= session.PlayerCount; ++number) {
     const PlayerRecord& player = session.Player(number);
     const Colour* colour = session.ColourOf(number);
-    if (colour == nullptr) continue;
+    if (colour == nullptr || !IsItemText(player.Name())) continue;
     writer.Text(player.Name()).Number(player.ColourSlot());
     writer.Number(colour->Red).Number(colour->Green).Number(colour->Blue).EndRecord();
   }

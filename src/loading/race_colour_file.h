@@ -14,8 +14,8 @@ namespace quorvane {
 /// slot or colour out of range, or cut short, are passed over.
 void ApplyRaceColours(std::string_view text, GameSession& session);
 
-/// The text of the race colour file, one record for each player 1 … `PlayerCount`. Fails when a
-/// name holds a double quote, which the file cannot keep.
+/// The text of the race colour file, one record for each player 1 … `PlayerCount`. A race whose
+/// name holds a double quote, which the file cannot keep, is left out.
 Result<std::string> RaceColoursText(const GameSession& session);
 
 /// Reads the race colour file of the session's map; without one every player has the slot of the

@@ -20,10 +20,12 @@ std::string_view BehindHeading(std::string_view text) {
 }  // namespace
 
 void ForEachOwnReportLine(std::string_view text, const VisitReportLine& visit) {
-  for (std::string_view rest = BehindHeading(text); !rest.empty();) visit(TakeLine(rest));
+  std::string_view rest = BehindHeading(BeforeEndOfFile(text));
+  while (!rest.empty()) visit(TakeLine(rest));
 }
 
 void ForEachOtherReportLine(std::string_view text, const VisitReportLine& visit) {
+  text = BeforeEndOfFile(text);
   DataItemReader reader(text);
   reader.ReadWholeLine();
   std::string unquoted;

@@ -10,19 +10,11 @@ namespace quorvane {
 namespace {
 
 namespace fs = std::filesystem;
-using FileNames = std::vector<std::string>;
+using FileNames = std::vector<fs::path>;
 
 constexpr std::size_t kExtensionLength = 4;  // the dot included
 
 std::size_t Index(int row) { return static_cast<std::size_t>(row); }
-
-fs::path Beside(const GameChoice& choice, const std::string& fileName) {
-  return choice.MapFilePath.parent_path() / PathFromText(fileName);
-}
-
-fs::path CompanionPath(const GameChoice& choice, const char* extension) {
-  return Beside(choice, BaseNameOf(choice.MapFilePath) + extension);
-}
 
 void UseOldReport(GameChoice& choice, const fs::path& report, const std::string& gameYear) {
   choice.ReportStyle = kOldReportStyle;
@@ -32,10 +24,10 @@ void UseOldReport(GameChoice& choice, const fs::path& report, const std::string&
 
 // The report of that name in the map's folder, whose reports are listed.
 std::optional<fs::path> FindReport(const GameChoice& choice, const FileNames& listed,
-                                   const std::string& report) {
-  const std::optional<std::string> name = NameAmong(listed, report);
+                                   const fs::path& report) {
+  const std::optional<fs::path> name = NameAmong(listed, report);
   if (!name) return std::nullopt;
-  return Beside(choice, *name);
+  return choice.MapFilePath.parent_path() / *name;
 }
 
 void UseNewReports(GameChoice& choice, const FileNames& listed) {
@@ -57,32 +49,34 @@ bool AnyNewReport(const GameChoice& choice, const FileNames& listed) {
 
 }  // namespace
 
-std::string BaseNameOf(const fs::path& mapFile) {
-  std::string name = TextFromPath(mapFile.filename());
+fs::path GameFile(const fs::path& mapFile, const std::string& ending) {
+  fs::path::string_type name = mapFile.filename().native();
   name.resize(name.size() - std::min(name.size(), kExtensionLength));
-  return name;
+  fs::path file = mapFile.parent_path() / name;
+  file += ending;
+  return file;
 }
 
-std::string ReportFileName(const GameChoice& choice, int row) {
-  return BaseNameOf(choice.MapFilePath) + ".P" + std::to_string(row);
+fs::path ReportFileName(const GameChoice& choice, int row) {
+  return GameFile(choice.MapFilePath, ".P" + std::to_string(row)).filename();
 }
 
-std::string OldReportFileName(const GameChoice& choice) {
-  return BaseNameOf(choice.MapFilePath) + ".PLA";
+fs::path OldReportFileName(const GameChoice& choice) {
+  return GameFile(choice.MapFilePath, ".PLA").filename();
 }
 
 void ChooseMap(GameChoice& choice, const fs::path& mapFile) {
   choice.MapFilePath = mapFile;
   choice.MapDirectory = mapFile.parent_path();
-  choice.DrawingFilePath = CompanionPath(choice, ".QVL");
-  choice.RaceColourFilePath = CompanionPath(choice, ".QVC");
-  choice.EmpireDataFilePath = CompanionPath(choice, ".QVD");
-  choice.YearsFilePath = CompanionPath(choice, ".YRS");
-  choice.RememberedRaceFilePath = CompanionPath(choice, ".QVR");
+  choice.DrawingFilePath = GameFile(mapFile, ".QVL");
+  choice.RaceColourFilePath = GameFile(mapFile, ".QVC");
+  choice.EmpireDataFilePath = GameFile(mapFile, ".QVD");
+  choice.YearsFilePath = GameFile(mapFile, ".YRS");
+  choice.RememberedRaceFilePath = GameFile(mapFile, ".QVR");
 }
 
 bool FindReportFiles(GameChoice& choice, const std::string& gameYear, const AskForNewStyle& ask) {
-  const std::string pattern = BaseNameOf(choice.MapFilePath) + ".P";
+  const fs::path pattern = GameFile(choice.MapFilePath, ".P").filename();
   const FileNames listed = FilesNamedLike(choice.MapFilePath.parent_path(), pattern, "");
   if (listed.empty()) return false;
   choice.ReportFiles.fill(ReportFileSlot());

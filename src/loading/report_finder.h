@@ -8,12 +8,12 @@
 
 namespace quorvane {
 
-/// The map file's name without its extension, which every other file of the game shares.
-std::string BaseNameOf(const std::filesystem::path& mapFile);
+/// A file of the map's game: the map's path, with another ending in place of its extension.
+std::filesystem::path GameFile(const std::filesystem::path& mapFile, const std::string& ending);
 /// "Demo.P3": the name of the new-style report of a player slot 1 … 16.
-std::string ReportFileName(const GameChoice& choice, int row);
+std::filesystem::path ReportFileName(const GameChoice& choice, int row);
 /// "Demo.PLA": the name of the old-style report.
-std::string OldReportFileName(const GameChoice& choice);
+std::filesystem::path OldReportFileName(const GameChoice& choice);
 
 /// Asks whether new-style reports are to be used where both styles were found.
 using AskForNewStyle = std::function<bool()>;

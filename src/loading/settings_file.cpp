@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cctype>
 #include <cstdlib>
+#include <optional>
 
 #include "model/data_items.h"
 #include "platform/files/files.h"
@@ -25,10 +26,19 @@ bool IsWindowsPath(std::string_view path) {
          std::isalpha(static_cast<unsigned char>(path[0])) != 0;
 }
 
-fs::path FolderNamedIn(const SettingsPlace& place) {
+// No system opens longer paths, and looking for the steps of one takes longer with each.
+#if defined(_WIN32)
+constexpr std::size_t kLongestPath = 32767;
+#else
+constexpr std::size_t kLongestPath = 4096;
+#endif
+
+// Nothing for a folder that cannot be.
+std::optional<fs::path> FolderNamedIn(const SettingsPlace& place) {
   const Result<std::string> text = ReadTextFile(place.File);
   std::string folder = text ? InstallDirIn(*text) : std::string();
   if (folder.empty()) folder = kDriveRoot;
+  if (PathFromText(folder).native().size() > kLongestPath) return std::nullopt;
   fs::path path =
       place.WinePrefix.empty() ? PathFromText(folder) : TranslateFromWine(folder, place.WinePrefix);
   const bool isWhole = IsWindowsPath(folder) || folder.starts_with(kServerPrefix);
@@ -85,7 +95,7 @@ std::vector<SettingsPlace> SettingsPlaces(const fs::path& home, const fs::path& 
 fs::path FindInstallDir(const std::vector<SettingsPlace>& places, const fs::path& fallback) {
   const auto found = std::ranges::find_if(
       places, [](const SettingsPlace& place) { return FindFile(place.File).has_value(); });
-  return found != places.end() ? FolderNamedIn(*found) : fallback;
+  return found != places.end() ? FolderNamedIn(*found).value_or(fallback) : fallback;
 }
 
 }  // namespace quorvane

@@ -29,8 +29,8 @@ std::vector<SettingsPlace> SettingsPlaces(const std::filesystem::path& home,
                                           const std::filesystem::path& programData);
 
 /// The folder in which the open dialog starts: from the first settings file that is there, or
-/// `fallback` when there is none, or none that names a folder. A relative folder counts from the
-/// settings file's own folder.
+/// `fallback` when there is none, or it names a folder with a longer path than the system knows. A
+/// file that names no folder means C:\. A relative folder counts from the settings file's own.
 std::filesystem::path FindInstallDir(const std::vector<SettingsPlace>& places,
                                      const std::filesystem::path& fallback);
 

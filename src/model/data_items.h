@@ -50,6 +50,9 @@ class DataItemReader {
   std::size_t blankTail_;  // how many blanks and line ends the text ends with
 };
 
+/// Whether a text can be written as an item and read back: a double quote would cut it short.
+inline bool IsItemText(std::string_view text) { return text.find('"') == text.npos; }
+
 /// Writes records of data items: texts between double quotes, numbers plainly without a digit
 /// before the point between -1 and 1, empty fields as nothing; commas between the items of a
 /// record, CR LF behind it.

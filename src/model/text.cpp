@@ -130,6 +130,12 @@ std::string InLowerCase(std::string_view text) {
   return lower;
 }
 
+std::string_view BeforeEndOfFile(std::string_view text) {
+  const size_t lineEnd = text.find("\n\x1A");
+  if (lineEnd != text.npos) return text.substr(0, lineEnd + 1);
+  return text.substr(0, text.find_last_not_of('\x1A') + 1);
+}
+
 std::string_view TakeLine(std::string_view& rest) {
   const size_t end = std::min(rest.find('\n'), rest.size());
   std::string_view line = rest.substr(0, end);

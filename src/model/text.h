@@ -22,6 +22,10 @@ bool EqualIgnoringCase(std::string_view left, std::string_view right);
 /// Europe (À … Þ) become small as well as the ASCII ones.
 std::string InLowerCase(std::string_view text);
 
+/// The text up to the sign with which old programs end a file, byte 0x1A where a line begins or
+/// where nothing follows. Elsewhere it is a character like others.
+std::string_view BeforeEndOfFile(std::string_view text);
+
 /// Takes the next line off the front of `rest`, without its line end (CR LF or LF).
 std::string_view TakeLine(std::string_view& rest);
 

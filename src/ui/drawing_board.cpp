@@ -123,7 +123,7 @@ void DrawingBoard::DrawShapes() {
 
 void DrawingBoard::SaveQVL_Click() {
   if (!session_.IsLoaded()) return prompts_.Inform(kNothingToSave);
-  const Result<void> saved = WriteDrawingFile(session_, ToText(tools_.PlotBox->toPlainText()));
+  const Result<void> saved = WriteDrawingFile(session_, ToText(tools_.PlotBox->Text()));
   if (saved) tools_.LayerSaved();
   prompts_.Inform(saved ? "Saved to " + TextFromPath(session_.DrawingFilePath) : saved.Message());
 }

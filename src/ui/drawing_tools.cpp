@@ -4,7 +4,7 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QStyle>
-#include <QTextCursor>
+#include <QTextBlock>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -36,17 +36,17 @@ DrawingTools::DrawingTools(QWidget* parent) : QWidget(parent) {
   grid->setSpacing(4);
   grid->addWidget(NewToolList(), 0, 0);
   grid->addWidget(NewColourFrame(), 0, 1);
-  PlotBox = new QPlainTextEdit(this);
+  PlotBox = new TextBox(this);
   PlotBox->setObjectName("PlotBox");
   PlotBox->setAccessibleName(tr("Drawing records"));
-  PlotBox->setLineWrapMode(QPlainTextEdit::NoWrap);
+  PlotBox->setLineWrapMode(TextBox::NoWrap);
   PlotBox->setTabChangesFocus(true);
   AddButtons();
   grid->addWidget(PlotBox, 1, 0, 1, 2);
   grid->addWidget(SaveQVL, 2, 0);
   grid->addWidget(ClearQVL, 2, 1);
   grid->setRowStretch(1, 1);
-  connect(PlotBox, &QPlainTextEdit::textChanged, this, &DrawingTools::PlotBox_Change);
+  connect(PlotBox, &TextBox::textChanged, this, &DrawingTools::PlotBox_Change);
   for (QRadioButton* tool : Draw) tool->installEventFilter(this);
   for (QRadioButton* colour : DColour) colour->installEventFilter(this);
 }
@@ -57,24 +57,27 @@ bool DrawingTools::eventFilter(QObject* target, QEvent* event) {
 }
 
 void DrawingTools::ShowSavedLayer(const QString& layer) {
-  PlotBox->setPlainText(layer);
+  PlotBox->ShowText(layer);
   LayerSaved();
 }
 
 void DrawingTools::LayerSaved() {
-  savedLayer_ = PlotBox->toPlainText();
+  savedLayer_ = PlotBox->document()->toRawText();
   PlotBox_Change();
 }
 
-bool DrawingTools::IsUnsaved() const { return PlotBox->toPlainText() != savedLayer_; }
+// Asked at every key: a layer of megabytes is not copied unless it is as long as the saved one.
+bool DrawingTools::IsUnsaved() const {
+  const QTextDocument& layer = *PlotBox->document();
+  const int endOfText = 1;  // which the document counts as a character
+  return layer.characterCount() - endOfText != savedLayer_.size() ||
+         layer.toRawText() != savedLayer_;
+}
 
 void DrawingTools::AppendRecord(const QString& record) {
-  QTextCursor end(PlotBox->document());
-  end.movePosition(QTextCursor::End);
   // A line that was typed may not have been ended yet.
-  if (!end.atBlockStart()) end.insertText("\n");
-  end.insertText(record + "\n");
-  PlotBox->setTextCursor(end);
+  const bool isLineOpen = PlotBox->document()->lastBlock().length() > 1;
+  PlotBox->AppendText((isLineOpen ? "\n" : "") + record + "\n");
 }
 
 void DrawingTools::ClearLayer() { PlotBox->clear(); }

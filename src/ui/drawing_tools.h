@@ -1,10 +1,11 @@
 #pragma once
 
-#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QWidget>
 #include <array>
+
+#include "ui/text_box.h"
 
 namespace quorvane {
 
@@ -41,7 +42,7 @@ class DrawingTools : public QWidget {
 
   std::array<QRadioButton*, 4> Draw = {};
   std::array<QRadioButton*, 7> DColour = {};
-  QPlainTextEdit* PlotBox = nullptr;
+  TextBox* PlotBox = nullptr;
   QPushButton* SaveQVL = nullptr;
   QPushButton* ClearQVL = nullptr;
 
@@ -61,7 +62,7 @@ class DrawingTools : public QWidget {
   void DColour_Click(int index);
   void PlotBox_Change();
 
-  QString savedLayer_;
+  QString savedLayer_;  // as the box keeps it
 };
 
 }  // namespace quorvane

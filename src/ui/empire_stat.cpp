@@ -55,7 +55,7 @@ void EmpireStat::BuildTabs() {
   SSTab1->setAccessibleName(tr("What is known of the empire"));
   Totals = new EmpireTotals(SSTab1);
   Race = new RaceInformation(SSTab1);
-  RaceNotes = new QPlainTextEdit(SSTab1);
+  RaceNotes = new TextBox(SSTab1);
   RaceNotes->setObjectName("RaceNotes");
   RaceNotes->setAccessibleName(tr("Notes on the race"));
   RaceNotes->setTabChangesFocus(true);
@@ -101,7 +101,7 @@ void EmpireStat::ConnectControls() {
   }
   connect(Race->RacePRT, &QComboBox::currentIndexChanged, this, &EmpireStat::RacePRT_Click);
   connect(Race->ReCalcHab, &QPushButton::clicked, this, &EmpireStat::ReCalcHab_Click);
-  connect(RaceNotes, &QPlainTextEdit::textChanged, this, &EmpireStat::RaceNotes_Change);
+  connect(RaceNotes, &TextBox::textChanged, this, &EmpireStat::RaceNotes_Change);
   connect(SaveInfo, &QPushButton::clicked, this, &EmpireStat::SaveInfo_Click);
   connect(OK, &QPushButton::clicked, this, &EmpireStat::OK_Click);
 }
@@ -135,7 +135,7 @@ void EmpireStat::ShowPlayer(int player) {
   CurrentPlayer = player;
   Totals->ShowTotals(Current());
   Race->ShowPlayer(Current());
-  RaceNotes->setPlainText(ToQString(FieldText(Current()[PlayerField::NotesText])));
+  RaceNotes->ShowText(ToQString(FieldText(Current()[PlayerField::NotesText])));
   EnableEditing(true);
 }
 
@@ -189,7 +189,7 @@ void EmpireStat::LRT_Click(std::size_t index) {
 
 void EmpireStat::RaceNotes_Change() {
   if (FillingControls) return;
-  Current()[PlayerField::NotesText] = ToText(RaceNotes->toPlainText());
+  Current()[PlayerField::NotesText] = ToText(RaceNotes->Text());
 }
 
 void EmpireStat::ReCalcHab_Click() {
@@ -206,7 +206,7 @@ void EmpireStat::ReCalcHab_Click() {
 
 void EmpireStat::SaveInfo_Click() {
   const Result<void> saved = WriteEmpireDataFile(session_);
-  prompts_.Inform(saved ? "Information Saved" : saved.Message());
+  prompts_.Inform(saved ? SavedRacesMessage("Information Saved", session_) : saved.Message());
 }
 
 void EmpireStat::OK_Click() { accept(); }

@@ -2,7 +2,6 @@
 
 #include <QComboBox>
 #include <QDialog>
-#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTabWidget>
 
@@ -10,6 +9,7 @@
 #include "ui/empire_totals.h"
 #include "ui/prompts.h"
 #include "ui/race_information.h"
+#include "ui/text_box.h"
 
 namespace quorvane {
 
@@ -27,7 +27,7 @@ class EmpireStat : public QDialog {
   QTabWidget* SSTab1 = nullptr;
   EmpireTotals* Totals = nullptr;
   RaceInformation* Race = nullptr;
-  QPlainTextEdit* RaceNotes = nullptr;
+  TextBox* RaceNotes = nullptr;
   QPushButton* SaveInfo = nullptr;
   QPushButton* OK = nullptr;
 

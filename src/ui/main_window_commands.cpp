@@ -9,6 +9,7 @@
 #include <utility>
 #include <vector>
 
+#include "analysis/empire_data.h"
 #include "analysis/find_planet.h"
 #include "loading/load_game.h"
 #include "loading/map_picture_file.h"
@@ -150,7 +151,8 @@ void Main::mnuSave_Click() {
 void Main::mnuSaveRaceC_Click() {
   if (!session_.IsLoaded()) return prompts_.Inform(kNothingToSave);
   const Result<void> saved = WriteRaceColourFile(session_);
-  prompts_.Inform(saved ? "Current Colour settings saved" : saved.Message());
+  prompts_.Inform(saved ? SavedRacesMessage("Current Colour settings saved", session_)
+                        : saved.Message());
 }
 
 void Main::mnuExit_Click() {

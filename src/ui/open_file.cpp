@@ -21,6 +21,8 @@ namespace {
 
 constexpr QSize kFirstSize(820, 560);
 constexpr int kLeastRoom = 80;  // of the reports, which scroll
+// A map of the list: the name that its file has on the disk.
+constexpr int kPathRole = Qt::UserRole;
 
 QLabel* NewLabel(const char* name, const QString& text, QWidget* parent) {
   QLabel* label = NewCaption(text, parent);
@@ -178,8 +180,9 @@ void OpenFile::Drive1_Change() {
 
 void OpenFile::Dir1_Change() {
   File1->clear();
-  for (const std::string& name : FilesNamedLike(Dir1->Folder(), "", ".map")) {
-    File1->addItem(ToQString(name));
+  for (const std::filesystem::path& name : FilesNamedLike(Dir1->Folder(), "", ".map")) {
+    auto* item = new QListWidgetItem(PathText(name), File1);
+    item->setData(kPathRole, QVariant::fromValue(name));  // which its text may not tell
   }
   state_.Choice.MapDirectory = " ";
   Command1->setEnabled(false);
@@ -194,7 +197,7 @@ void OpenFile::File1_Click() {
   if (map == nullptr) return;
   Command1->setEnabled(true);
   RemRace->show();
-  ChooseMap(state_.Choice, Dir1->Folder() / ToPath(map->text()));
+  ChooseMap(state_.Choice, Dir1->Folder() / map->data(kPathRole).value<std::filesystem::path>());
   state_.StarsInstallDir = state_.Choice.MapDirectory;
   const auto askForNewStyle = [this] {
     return prompts_.AskYesNo("Map Error",
@@ -221,7 +224,7 @@ void OpenFile::ClearReports() {
 
 void OpenFile::ShowOldReport() {
   RemRace->hide();
-  const QString caption = "Old Report game using " + ToQString(OldReportFileName(state_.Choice));
+  const QString caption = "Old Report game using " + PathText(OldReportFileName(state_.Choice));
   Rows->SetOldReport(caption);
   PLALabelText->setText(caption);
   PLALabelText->show();

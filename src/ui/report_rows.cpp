@@ -83,7 +83,7 @@ void ReportRows::ShowReports() {
   isFillingRows_ = true;
   for (int row = 1; row <= kMaxPlayers; ++row) {
     if (choice_.ReportFiles[Index(row)].Path.empty()) continue;
-    Check1[Index(row)]->setText(WithoutAccessKeys(ToQString(ReportFileName(choice_, row))));
+    Check1[Index(row)]->setText(WithoutAccessKeys(PathText(ReportFileName(choice_, row))));
     Check1[Index(row)]->setChecked(true);
     SetRowVisible(row, true);
   }

@@ -36,6 +36,21 @@ TEST(EmpireData, SaysWhoseTextTheFileCannotKeep) {
             "from: \"the herd\", still");
 }
 
+TEST(EmpireData, LeavesOutRacesWhoseNamesTheFileCannotKeepAndNamesThem) {
+  GameSession saved = TwoRaces();
+  Fill(saved.Player(1), 100);
+  Fill(saved.Player(2), 200);
+  GameSession loaded = TwoRaces();
+  EXPECT_EQ(SavedRacesMessage("Saved", saved), "Saved");
+  saved.Player(1)[PlayerField::Name] = "The \"Herd\"";
+  saved.Player(1)[PlayerField::NotesText] = "\"";
+  ApplyEmpireData(*EmpireDataText(saved), loaded);
+  EXPECT_TRUE(loaded.Player(1)[PlayerField::GravMin].IsEmpty());
+  EXPECT_EQ(loaded.Player(2), saved.Player(2));
+  EXPECT_EQ(SavedRacesMessage("Saved", saved),
+            "Saved\n\nLeft out, because a double quote in a name cannot be saved: The \"Herd\"");
+}
+
 TEST(EmpireData, GoesToTheLastPlayerOfItsNameUnlessCutShort) {
   GameSession saved = TwoRaces();
   Fill(saved.Player(1), 100);

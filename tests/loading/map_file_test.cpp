@@ -10,14 +10,15 @@ namespace {
 TEST(ParseUniverseMap, ReadsTabsBlanksAndQuotedNames) {
   const Result<UniverseMap> map = ParseUniverseMap(
       "#\tX\tY\tName\r\n1\t1014\t1098\tKestrel \r\n\r\n"
-      "7 1200 2399 \"O'Hara, B\"\n3\t1100\t1200\t409, dropped\r\n",
+      "40000 1200 2399 \"O'Hara, B\"\n-32000\t1100\t1200\t409, dropped\r\n\x1A left over",
       "Demo.MAP");
   ASSERT_TRUE(map) << map.Message();
   ASSERT_EQ(map->Planets.size(), 3U);
   EXPECT_EQ(map->Planets[0].Name, "Kestrel ");
-  EXPECT_EQ(map->Planets[1].Number, 7);
+  EXPECT_EQ(map->Planets[1].Number, 40000);
   EXPECT_EQ(map->Planets[1].Name, "O'Hara, B");
   EXPECT_EQ(map->Planets[2].Name, "409");
+  EXPECT_EQ(map->Planets[2].Number, -32000);
 }
 
 TEST(ParseUniverseMap, TakesItsExtentFromTheLargestYAndTheLastX) {
@@ -41,6 +42,7 @@ TEST(ParseUniverseMap, NamesFileLineAndReasonForDamagedMaps) {
       {"h\n1 1010 1010 a\nx 1 2 b\n", "Demo.MAP, line 3: the planet number is no number: x"},
       {"h\n1 12a 1010 a\n", "Demo.MAP, line 2: X is no number: 12a"},
       {"h\n1 1010\n2 1 2 b\n", "Demo.MAP, line 2: Y is no number, it is missing"},
+      {"h\n3e9 1010 1010 a\n", "Demo.MAP, line 2: the planet number is out of range: 3e9"},
       {"h\n1 40000 1010 a\n", "Demo.MAP, line 2: X is out of range: 40000"},
       {"h\n1 1010 -32000 a\n", "Demo.MAP, line 2: Y is out of range: -32000"},
       {"h\n1 1e999 1010 a\n", "Demo.MAP, line 2: X is out of range: 1e999"},

@@ -14,7 +14,7 @@ GameSession GameOf(std::initializer_list<const char*> races) {
 }
 
 TEST(RaceColours, GiveKnownRacesTheirSlotAndOthersTheLowestFreeOne) {
-  GameSession saved = GameOf({"A", "B"});
+  GameSession saved = GameOf({"A", "B", "a \"quoted\" name"});
   saved.RaceColours[0] = {1, 2, 3};
   const std::string text = *RaceColoursText(saved);
   EXPECT_EQ(text, "\"A\",1,1,2,3\r\n\"B\",2,0,255,0\r\n");

@@ -27,6 +27,10 @@ TEST(FindInstallDir, EndsAtTheExampleGames) {
   std::filesystem::create_directories(home / "data");
   home.Write("data/Stars.ini", "StarsInstallDir=examples\n");
   EXPECT_EQ(FindInstallDir(places, "nowhere"), home / "data/examples");
+  std::string endless = "StarsInstallDir=C:";
+  for (int step = 0; step < 30'000; ++step) endless += "\\a";
+  home.Write("data/Stars.ini", endless);
+  EXPECT_EQ(FindInstallDir(places, "nowhere"), "nowhere");
 }
 
 }  // namespace

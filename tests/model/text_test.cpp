@@ -18,6 +18,12 @@ TEST(DecodeText, ReadsBytesThatAreNoUtf8AsWindows1252) {
   for (const auto& [bytes, text] : cases) EXPECT_EQ(DecodeText(bytes), text);
 }
 
+TEST(BeforeEndOfFile, TakesTheSignOnlyWhereAFileCanEnd) {
+  const std::pair<const char*, const char*> cases[] = {
+      {"a\x1A b\r\n", "a\x1A b\r\n"}, {"a\r\n\x1A\r\nb", "a\r\n"}, {"a\n97%\x1A\x1A", "a\n97%"}};
+  for (const auto& [text, before] : cases) EXPECT_EQ(BeforeEndOfFile(text), before);
+}
+
 TEST(TakeLine, KnowsBothLineEnds) {
   std::string_view rest = "a\r\nb\nc\rd\r\n\r\ne";
   EXPECT_EQ(CountLines(rest), 5U);

@@ -115,11 +115,18 @@ TEST_F(DrawingTest, ResizedMapKeepsWhatWasDrawnSinceItsRedrawAndALoadGoesOnInIts
   EXPECT_TRUE(Passes({1200, 1300}, Qt::red));
   driver.Click("OvButt(2)").Click("OvButt(2)");
   EXPECT_FALSE(Passes({1200, 1300}, Qt::red));
-  folder.Write("Demo.QVL", "C,1200,1200,40,6\r\n");
+  const std::string layer = "T,1200,1200,no\u00A0break\u2028,8,2\r\nC,1200,1200,40,6\r\n";
+  folder.Write("Demo.QVL", layer);
   Load();
-  EXPECT_EQ(Layer(), "C,1200,1200,40,6\n");
+  EXPECT_TRUE(Layer().ends_with("C,1200,1200,40,6\n"));
   EXPECT_TRUE(driver.IsDown("DColour(5)") && driver.IsDown("Draw(0)"));
   EXPECT_FALSE(IsSaveWanted());
+  driver.Press("PlotBox", Qt::Key_X);
+  EXPECT_TRUE(IsSaveWanted());
+  driver.Press("PlotBox", Qt::Key_Backspace);
+  EXPECT_FALSE(IsSaveWanted());
+  driver.Click("SaveQVL");
+  EXPECT_EQ(folder.Read("Demo.QVL"), layer);
 }
 
 }  // namespace

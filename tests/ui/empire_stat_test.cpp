@@ -157,12 +157,13 @@ TEST_F(EmpireStatTest, EveryControlSetsItsField) {
   for (int trait = 0; trait < 14; trait += 3) driver->Click(IndexedName("LRT", trait));
   OnTab(2);
   QTest::keyClicks(window->RaceNotes, "They came,\rsaw; 'won'");
+  window->RaceNotes->insertPlainText("\u00A0!");
   EXPECT_EQ(Field(20), FieldValue(1));
   EXPECT_EQ(Field(22), FieldValue("HE"));
   for (std::size_t trait = 0; trait < 14; ++trait) {
     EXPECT_EQ(Field(23 + trait).ReadsAs(1), trait % 3 == 0) << trait;
   }
-  EXPECT_EQ(Field(37), FieldValue("They came,\nsaw; 'won'"));
+  EXPECT_EQ(Field(37), FieldValue("They came,\nsaw; 'won'\u00A0!"));
 }
 
 TEST_F(EmpireStatTest, TabKeyReachesEveryControlInReadingOrder) {

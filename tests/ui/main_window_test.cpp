@@ -3,6 +3,7 @@
 #include <tuple>
 #include <utility>
 
+#include "platform/files/files.h"
 #include "platform/toolkit/twips.h"
 #include "ui/about.h"
 #include "ui/details_panel.h"
@@ -372,6 +373,31 @@ TEST_F(LoadedGameTest, OpensTheSmallWindowsFromItsMenusAndKeysCloseThem) {
     driver.Choose(item);
   }
   EXPECT_FALSE(About(&window).Picture1->pixmap(Qt::ReturnByValue).isNull());
+}
+
+TEST_F(MainWindowTest, NamesTheRacesThatItsFilesLeaveOut) {
+  std::string report = folder.Read("Demo.P1");
+  report.replace(report.find("Drask"), 5, "the \"Herd\"");
+  folder.Write("Demo.P1", report);
+  std::filesystem::remove(folder / "Demo.P3");
+  Load();
+  InNextDialog([](QWidget& dialog) { WindowDriver(dialog).Click("SaveInfo").Click("OK"); });
+  driver.Choose("mnuGrid2").Choose("mnuSaveRaceC");
+  const std::string leftOut =
+      "\n\nLeft out, because a double quote in a name cannot be saved: the \"Herd\"";
+  EXPECT_EQ(prompts.Shown(),
+            (Texts{"Information Saved" + leftOut, "Current Colour settings saved" + leftOut}));
+}
+
+TEST_F(MainWindowTest, TakesAGameWhoseNameIsInTheGamesOwnEncoding) {
+  folder.Write("K\xF6n.map", folder.Read("Demo.MAP"));
+  folder.Write("K\xF6n.p1", folder.Read("Demo.P1"));
+  LoadGame(driver, "Kön.map");
+  EXPECT_TRUE(window.windowTitle().contains("{ Kön.map  Year: 2450 }"));
+  driver.Choose("mnuSaveRaceC").Choose("mnuSave");
+  EXPECT_TRUE(prompts.Shown().back().ends_with("/Kön Universe Map 2450.bmp"));
+  EXPECT_TRUE(FindFile(folder / "K\xF6n.QVC"));
+  EXPECT_TRUE(FindFile(folder / "K\xF6n Universe Map 2450.bmp"));
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <chrono>
 #include <cstdio>
 #include <system_error>
 #include <utility>
@@ -18,24 +19,70 @@ Failure FileFailure(const fs::path& path, const std::string& what, const std::er
   return {TextFromPath(path) + ": " + what + " (" + error.message() + ")"};
 }
 
-std::error_code LastError() { return {errno, std::generic_category()}; }
+// Names are compared as the system keeps them, because not all of them are text.
+using Name = std::basic_string_view<fs::path::value_type>;
 
-// Where a replacement is written before it takes the file's place.
-fs::path PathBeside(const fs::path& path) {
-  fs::path beside = path;
-  beside += ".quorvane-new";
-  return beside;
+bool EqualNames(Name left, Name right) {
+  const auto lower = [](fs::path::value_type c) {
+    return c >= 'A' && c <= 'Z' ? static_cast<fs::path::value_type>(c + ('a' - 'A')) : c;
+  };
+  return std::ranges::equal(left, right, {}, lower, lower);
 }
 
-std::error_code WriteWholeFile(const fs::path& path, std::string_view content) {
-  OpenFileHandle file = OpenForBytes(path, OpenTo::Write);
-  if (!file) return LastError();
+std::error_code LastError() { return {errno, std::generic_category()}; }
+
+struct HelperFile {
+  fs::path Path;
+  OpenFileHandle Handle;
+};
+
+// Creates the file in which a replacement is written before it takes the target's place. Others may
+// save into the same folder at the same time, so each helper has a name of its own, that of the
+// moment; what somebody has put under that name stays. The name is short, as the target's own may
+// be as long as the system allows. Without a handle, and with `errno`, on failure.
+HelperFile CreateHelper(const fs::path& target) {
+  constexpr int kAttempts = 100;
+  HelperFile helper;
+  for (int attempt = 0; attempt < kAttempts; ++attempt) {
+    const auto moment = std::chrono::system_clock::now().time_since_epoch().count();
+    helper.Path = target.parent_path() / (".quorvane-" + std::to_string(moment));
+    helper.Handle = OpenForBytes(helper.Path, OpenTo::Create);
+    if (helper.Handle || errno != EEXIST) break;
+  }
+  return helper;
+}
+
+std::error_code WriteWhole(OpenFileHandle file, std::string_view content) {
   std::error_code error;
   if (std::fwrite(content.data(), 1, content.size(), file.get()) != content.size() ||
       !FlushToDisk(file.get())) {
     error = LastError();
   }
   if (std::fclose(file.release()) != 0 && !error) error = LastError();
+  return error;
+}
+
+void CopyRights(const fs::path& from, const fs::path& to) {
+  std::error_code isNew;
+  const fs::perms rights = fs::status(from, isNew).permissions();
+  if (!isNew) fs::permissions(to, rights, isNew);
+}
+
+// Writes the content beside the target and renames it over it, down to the disk itself.
+std::error_code PutInPlace(const fs::path& target, std::string_view content) {
+  HelperFile helper = CreateHelper(target);
+  if (!helper.Handle) return LastError();
+  std::error_code error = WriteWhole(std::move(helper.Handle), content);
+  if (!error) {
+    CopyRights(target, helper.Path);
+    fs::rename(helper.Path, target, error);
+  }
+  if (error) {
+    std::error_code ignored;
+    fs::remove(helper.Path, ignored);
+  } else if (!SyncFolder(target.parent_path())) {
+    error = LastError();
+  }
   return error;
 }
 
@@ -63,18 +110,17 @@ std::optional<fs::path> FindFile(const fs::path& path) {
   std::error_code error;
   const bool isFound = fs::is_regular_file(path, error);
   if (isFound && SystemTellsCaseApart()) return path;
-  const std::string wanted = TextFromPath(path.filename());
+  const fs::path wanted = path.filename();
   const auto found = NameAmong(FilesNamedLike(path.parent_path(), wanted, ""), wanted);
-  if (found) return path.parent_path() / PathFromText(*found);
+  if (found) return path.parent_path() / *found;
   return isFound ? std::optional(path) : std::nullopt;
 }
 
-std::optional<std::string> NameAmong(const std::vector<std::string>& names,
-                                     std::string_view wanted) {
-  if (std::ranges::find(names, wanted) != names.end()) return std::string(wanted);
+std::optional<fs::path> NameAmong(const std::vector<fs::path>& names, const fs::path& wanted) {
+  if (std::ranges::find(names, wanted) != names.end()) return wanted;
   // The first in alphabetical order, so that the choice does not depend on the folder's own order.
   const auto found = std::ranges::find_if(
-      names, [&](const std::string& name) { return EqualIgnoringCase(name, wanted); });
+      names, [&](const fs::path& name) { return EqualNames(name.native(), wanted.native()); });
   return found != names.end() ? std::optional(*found) : std::nullopt;
 }
 
@@ -94,19 +140,22 @@ fs::path FolderIgnoringCase(const fs::path& parent, std::string_view name) {
   return found.value_or(exact);
 }
 
-std::vector<std::string> FilesNamedLike(const fs::path& folder, std::string_view begin,
-                                        std::string_view end) {
-  std::vector<std::string> names;
+std::vector<fs::path> FilesNamedLike(const fs::path& folder, const fs::path& begin,
+                                     const fs::path& end) {
+  const Name front = begin.native();
+  const Name back = end.native();
+  std::vector<fs::path> names;
   std::error_code error;
   for (fs::directory_iterator entry(folder, error), last; !error && entry != last;
        entry.increment(error)) {
     std::error_code kindError;
-    const std::string name = TextFromPath(entry->path().filename());
-    if (name.size() >= begin.size() + end.size() &&
-        EqualIgnoringCase(std::string_view(name).substr(0, begin.size()), begin) &&
-        EqualIgnoringCase(std::string_view(name).substr(name.size() - end.size()), end) &&
+    const fs::path path = entry->path().filename();
+    const Name name = path.native();
+    if (name.size() >= front.size() + back.size() &&
+        EqualNames(name.substr(0, front.size()), front) &&
+        EqualNames(name.substr(name.size() - back.size()), back) &&
         entry->is_regular_file(kindError)) {
-      names.push_back(name);
+      names.push_back(path);
     }
   }
   std::ranges::sort(names);
@@ -153,18 +202,9 @@ Result<void> ReplaceFile(const fs::path& path, std::string_view content) {
   if (old && !OpenForBytes(target, OpenTo::Change)) {
     return FileFailure(target, "the file cannot be written", LastError());
   }
-  const fs::path beside = PathBeside(target);
-  error = WriteWholeFile(beside, content);
-  if (!error) {
-    std::error_code isNew;
-    const fs::perms rights = fs::status(target, isNew).permissions();
-    if (!isNew) fs::permissions(beside, rights, isNew);
-    fs::rename(beside, target, error);
-  }
-  if (!error) return {};
-  std::error_code ignored;
-  fs::remove(beside, ignored);
-  return FileFailure(target, "the file cannot be written", error);
+  error = PutInPlace(target, content);
+  if (error) return FileFailure(target, "the file cannot be written", error);
+  return {};
 }
 
 }  // namespace quorvane

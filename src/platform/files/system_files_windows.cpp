@@ -1,4 +1,6 @@
+#include <fcntl.h>
 #include <io.h>
+#include <sys/stat.h>
 #include <windows.h>
 #undef ReplaceFile  // the system's header renames every function of that name
 
@@ -29,11 +31,17 @@ std::string TextFromPath(const std::filesystem::path& path) {
 }
 
 OpenFileHandle OpenForBytes(const std::filesystem::path& path, OpenTo purpose) {
-  constexpr const wchar_t* kModes[] = {L"rb", L"wb", L"r+b"};
-  return OpenFileHandle(_wfopen(path.c_str(), kModes[static_cast<std::size_t>(purpose)]));
+  if (purpose != OpenTo::Create) {
+    return OpenFileHandle(_wfopen(path.c_str(), purpose == OpenTo::Read ? L"rb" : L"r+b"));
+  }
+  const int descriptor =
+      _wopen(path.c_str(), _O_CREAT | _O_EXCL | _O_WRONLY | _O_BINARY, _S_IREAD | _S_IWRITE);
+  return OpenFileHandle(descriptor < 0 ? nullptr : _fdopen(descriptor, "wb"));
 }
 
 bool FlushToDisk(std::FILE* file) { return std::fflush(file) == 0 && _commit(_fileno(file)) == 0; }
+
+bool SyncFolder(const std::filesystem::path& /*folder*/) { return true; }
 
 bool SystemTellsCaseApart() { return false; }
 

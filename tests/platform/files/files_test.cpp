@@ -25,7 +25,8 @@ TEST(Files, MayHaveNamesInAnyScriptAndKeepEveryByte) {
     ASSERT_TRUE(ReplaceFile(folder / name, content)) << name;
     EXPECT_EQ(*ReadTextFile(folder / name), content) << name;
     EXPECT_EQ(folder.Read(name), content) << name;
-    EXPECT_EQ(FilesNamedLike(folder.Path(), name, ""), std::vector{name});
+    EXPECT_EQ(FilesNamedLike(folder.Path(), PathFromText(name), ""),
+              std::vector{PathFromText(name)});
     EXPECT_TRUE(TextFromPath(folder / name).ends_with(name)) << name;
   }
 }
@@ -47,7 +48,7 @@ TEST(ReplaceFile, ReplacesFilesUnderTheirOwnName) {
   folder.Write("demo.qvd", "old");
   ASSERT_TRUE(ReplaceFile(folder / "Demo.QVD", "new"));
   EXPECT_EQ(folder.Read("demo.qvd"), "new");
-  EXPECT_EQ(FilesNamedLike(folder.Path(), "", ""), std::vector<std::string>{"demo.qvd"});
+  EXPECT_EQ(FilesNamedLike(folder.Path(), "", ""), std::vector<std::filesystem::path>{"demo.qvd"});
 }
 
 TEST(SaveText, WritesNothingThatCouldNotBeReadBack) {

@@ -4,6 +4,9 @@
 #include <sys/stat.h>
 #include <sys/wait.h>
 
+#include <thread>
+
+#include "platform/files/system_files.h"
 #include "support/temp_folder.h"
 #include "support/write_faults.h"
 
@@ -15,6 +18,11 @@ TEST(FindFile, TakesTheFirstOfTheNamesInAnotherCase) {
   folder.Write("demo.p1", "1");
   folder.Write("DEMO.P1", "1");
   EXPECT_EQ(FindFile(folder / "Demo.P1"), folder / "DEMO.P1");
+}
+
+TEST(TextFromPath, ReadsEachStepInItsOwnEncoding) {
+  EXPECT_EQ(TextFromPath("/home/Jürgen//K\xF6n.map"), "/home/Jürgen//Kön.map");
+  EXPECT_EQ(TextFromPath("K\xF6n/"), "Kön/");
 }
 
 TEST(ReadTextFile, DoesNotWaitForAPipe) {
@@ -51,9 +59,48 @@ TEST(ReplaceFile, LeavesTheOldFileWholeWhenTheProgramDiesWhileWriting) {
   ASSERT_EQ(waitpid(child, &status, 0), child);
   ASSERT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGXFSZ) << status;
   EXPECT_EQ(folder.Read("Demo.QVD"), "old");
+  const auto files = FilesNamedLike(folder.Path(), "", "");
   ASSERT_TRUE(ReplaceFile(path, "new"));  // what the dead one left is no hindrance
   EXPECT_EQ(std::filesystem::status(path).permissions(), std::filesystem::perms(0604));
-  EXPECT_EQ(FilesNamedLike(folder.Path(), "", ""), std::vector<std::string>{"Demo.QVD"});
+  EXPECT_EQ(FilesNamedLike(folder.Path(), "", ""), files);
+}
+
+TEST(ReplaceFile, NeverLeavesHalfAFileWhereTwoSaveAtOnce) {
+  const TempFolder folder;
+  const std::string texts[] = {std::string(300'000, 'a'), std::string(200'000, 'b')};
+  const std::filesystem::path path = folder.Write("Demo.QVD", texts[0]);
+  const auto save = [&](const std::string& text) {
+    for (int i = 0; i < 30; ++i) {
+      EXPECT_TRUE(ReplaceFile(path, text));
+      const std::string found = folder.Read("Demo.QVD");
+      EXPECT_TRUE(found == texts[0] || found == texts[1]) << found.size();
+    }
+  };
+  std::thread other(save, texts[1]);
+  save(texts[0]);
+  other.join();
+  EXPECT_EQ(FilesNamedLike(folder.Path(), "", "").size(), 1U);
+}
+
+TEST(ReplaceFile, TakesNamesAsLongAsTheSystemDoes) {
+  const TempFolder folder;
+  const std::string name = std::string(251, 'x') + ".QVD";
+  ASSERT_TRUE(ReplaceFile(folder / name, "new"));
+  EXPECT_EQ(folder.Read(name), "new");
+}
+
+TEST(OpenForBytes, CreatesNothingWhereSomethingHasTheName) {
+  const TempFolder folder;
+  folder.Write("file", "old");
+  std::filesystem::create_symlink("file", folder / "link");
+  std::filesystem::create_symlink("nowhere", folder / "loose link");
+  ASSERT_EQ(mkfifo((folder / "pipe").c_str(), 0600), 0);
+  for (const char* name : {"file", "link", "loose link", "pipe"}) {
+    EXPECT_FALSE(OpenForBytes(folder / name, OpenTo::Create)) << name;
+    EXPECT_EQ(errno, EEXIST) << name;
+  }
+  EXPECT_EQ(folder.Read("file"), "old");
+  EXPECT_FALSE(FindFile(folder / "nowhere"));
 }
 
 }  // namespace

@@ -46,7 +46,7 @@ TEST(ReplaceFile, NamesFileAndReasonAndLeavesTheOldOneWhereItCannotBeReplaced) {
     ExpectFailure(path, "Permission denied");
   }
   EXPECT_EQ(folder.Read("Demo.QVD"), "old");
-  EXPECT_EQ(FilesNamedLike(folder.Path(), "", ""), std::vector<std::string>{"Demo.QVD"});
+  EXPECT_EQ(FilesNamedLike(folder.Path(), "", ""), std::vector<fs::path>{"Demo.QVD"});
 }
 
 TEST(ReplaceFile, RespectsWriteProtection) {
