@@ -109,7 +109,7 @@ std::vector<std::string> FilesNamedLike(const fs::path& folder, std::string_view
       names.push_back(name);
     }
   }
-  std::ranges::sort(names);
+  std::ranges::sort(names, IsBeforeInAlphabet);
   return names;
 }
 
