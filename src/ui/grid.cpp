@@ -125,16 +125,6 @@ void Grid::Fill(const GameSession& session) {
   DG->scrollToTop();
 }
 
-void Grid::ShowInFront() {
-  if (isMinimized()) {
-    showNormal();
-  } else {
-    show();
-  }
-  raise();
-  activateWindow();
-}
-
 int Grid::ColumnCount() const { return model_->columnCount(); }
 
 QString Grid::Heading(int column) const { return model_->Heading(column); }

@@ -25,6 +25,7 @@
 #include "ui/find_planet.h"
 #include "ui/grid.h"
 #include "ui/legend.h"
+#include "ui/manual.h"
 #include "ui/map_panel.h"
 #include "ui/message_box_prompts.h"
 #include "ui/overlay_bar.h"
@@ -159,6 +160,7 @@ void Main::ConnectMenus() {
   connect(Menu.mnuGrid2, &QAction::triggered, this, &Main::mnuGrid2_Click);
   connect(Menu.mnuAbout, &QAction::triggered, this, &Main::mnuAbout_Click);
   connect(Menu.mnuThanks, &QAction::triggered, this, &Main::mnuThanks_Click);
+  connect(Menu.mnuManual, &QAction::triggered, this, &Main::mnuManual_Click);
 }
 
 void Main::resizeEvent(QResizeEvent* event) {

@@ -24,6 +24,7 @@ class DrawingBoard;
 class FindPlanet;
 class Grid;
 class Legend;
+class Manual;
 class MapPanel;
 class OverlayBar;
 
@@ -81,6 +82,7 @@ class Main : public QMainWindow {
   void mnuGrid2_Click();
   void mnuAbout_Click();
   void mnuThanks_Click();
+  void mnuManual_Click();
   void mnuSave_Click();
   void mnuSaveRaceC_Click();
   void mnuExit_Click();
@@ -101,6 +103,7 @@ class Main : public QMainWindow {
   std::unique_ptr<OpenFile> openFile_;
   std::unique_ptr<FindPlanet> findPlanet_;
   std::unique_ptr<Grid> grid_;
+  std::unique_ptr<Manual> manual_;
   GameSession session_;
   QScrollArea* scroll_ = nullptr;
   QWidget* area_ = nullptr;
