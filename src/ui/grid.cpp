@@ -8,6 +8,7 @@
 #include <QStyledItemDelegate>
 #include <algorithm>
 
+#include "analysis/planet_grid.h"
 #include "platform/toolkit/twips.h"
 #include "ui/grid_heading.h"
 #include "ui/grid_model.h"
@@ -25,9 +26,10 @@ constexpr int kTopAndBottomTwips = 700;
 constexpr int kRowPadding = 6;
 constexpr double kFontSize = 8;
 
-// A highlighted row would hide its owner's colour, and so would the style's mark of the current
-// cell: that one has a frame instead.
-class CellFrame : public QStyledItemDelegate {
+// The style's room beside a text would cut "18 years old" in a column of the width given to it. A
+// highlighted row would hide its owner's colour, and so would the style's mark of the current cell:
+// that one has a frame instead.
+class CellPainter : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;
 
@@ -35,18 +37,22 @@ class CellFrame : public QStyledItemDelegate {
              const QModelIndex& index) const override {
     QStyleOptionViewItem plain = option;
     plain.state &= ~QStyle::State_HasFocus;
-    QStyledItemDelegate::paint(painter, plain, index);
-    if (!option.state.testFlag(QStyle::State_HasFocus)) return;
+    const bool isText = IsTextColumn(static_cast<std::size_t>(index.column()));
+    if (isText) plain.rect.adjust(-1, 0, 2, 0);
     painter->save();
-    painter->setPen(option.palette.color(QPalette::Link));
-    painter->drawRect(option.rect.adjusted(0, 0, -1, -1));
+    painter->setClipRect(option.rect);
+    QStyledItemDelegate::paint(painter, plain, index);
+    if (option.state.testFlag(QStyle::State_HasFocus)) {
+      painter->setPen(option.palette.color(QPalette::Link));
+      painter->drawRect(option.rect.adjusted(0, 0, -1, -1));
+    }
     painter->restore();
   }
 };
 
 void SetBehaviour(QTableView& table) {
   table.setSelectionMode(QAbstractItemView::NoSelection);
-  table.setItemDelegate(new CellFrame(&table));
+  table.setItemDelegate(new CellPainter(&table));
   table.setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
   table.setWordWrap(false);
   table.setCornerButtonEnabled(false);
