@@ -43,8 +43,8 @@ EmpireStat::EmpireStat(GameSession& session, Prompts& prompts, QWidget* parent)
 void EmpireStat::BuildSelector() {
   Combo1 = new QComboBox(this);
   Combo1->setObjectName("Combo1");
-  Combo1->setAccessibleName(tr("Empire"));
   Combo1->setEditable(true);
+  NameBox(*Combo1, tr("Empire"));
   Combo1->setInsertPolicy(QComboBox::NoInsert);
   Combo1->setCompleter(nullptr);
   Combo1->lineEdit()->setPlaceholderText(kSelectorText);

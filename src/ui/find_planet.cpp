@@ -44,8 +44,8 @@ FindPlanet::FindPlanet(GameSession& session, Prompts& prompts, QWidget* parent)
   Label1->setObjectName("Label1");
   PlanetList = new QComboBox(this);
   PlanetList->setObjectName("PlanetList");
-  PlanetList->setAccessibleName(tr("Planet"));
   PlanetList->setEditable(true);
+  NameBox(*PlanetList, tr("Planet"));
   PlanetList->setInsertPolicy(QComboBox::NoInsert);
   PlanetList->setMinimumWidth(kListWidth);
   OfferCompletions(*PlanetList);

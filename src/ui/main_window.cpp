@@ -102,8 +102,8 @@ void Main::BuildArea() {
   Overlays = new OverlayBar(*area_, *Menu.mnuOver);
   Combo1 = new QComboBox(area_);
   Combo1->setObjectName("Combo1");
-  Combo1->setAccessibleName(tr("Race of the estimated habitability"));
   Combo1->setEditable(true);
+  NameBox(*Combo1, tr("Race of the estimated habitability"));
   Combo1->setInsertPolicy(QComboBox::NoInsert);
   Combo1->setEditText(kChooserText);
   Combo1->setEnabled(false);
