@@ -2,8 +2,11 @@
 #include <QDir>
 #include <QFile>
 #include <QIcon>
+#include <QStandardPaths>
 #include <QTimer>
+#include <QWindow>
 
+#include "loading/example_games.h"
 #include "loading/settings_file.h"
 #include "ui/accessible_roles.h"
 #include "ui/icons.h"
@@ -22,9 +25,33 @@ QString ProgramData() {
 
 std::filesystem::path StartFolder() {
   const std::filesystem::path home = quorvane::ToPath(QDir::homePath());
-  return quorvane::FindInstallDir(quorvane::SettingsPlaces(home, quorvane::ToPath(ProgramData())),
-                                  home);
+  const std::filesystem::path programData = quorvane::ToPath(ProgramData());
+  const QString userData = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+  return quorvane::ExampleFolder(
+      quorvane::FindInstallDir(quorvane::SettingsPlaces(home, programData), home), programData,
+      quorvane::ToPath(userData) / "quorvane");
 }
+
+// Opens the first dialog when the window has its place on the screen: it stands in the middle of
+// it.
+class FirstDialog : public QObject {
+ public:
+  explicit FirstDialog(quorvane::Main& window) : window_(window) {
+    window.windowHandle()->installEventFilter(this);
+  }
+
+ protected:
+  bool eventFilter(QObject* handle, QEvent* event) override {
+    if (event->type() == QEvent::Expose && window_.windowHandle()->isExposed()) {
+      handle->removeEventFilter(this);
+      QTimer::singleShot(0, &window_, &quorvane::Main::mnuMap_Click);
+    }
+    return false;
+  }
+
+ private:
+  quorvane::Main& window_;
+};
 
 }  // namespace
 
@@ -37,6 +64,6 @@ int main(int argc, char* argv[]) {
   QApplication::setWindowIcon(quorvane::ThemedIcon("quorvane"));
   quorvane::Main window(StartFolder());
   window.show();
-  QTimer::singleShot(0, &window, &quorvane::Main::mnuMap_Click);
+  const FirstDialog firstDialog(window);
   return QApplication::exec();
 }

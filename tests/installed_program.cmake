@@ -30,10 +30,14 @@ endif()
 
 # It shows its first dialog and waits, so that only the time limit ends it.
 file(MAKE_DIRECTORY ${place}/home)
-execute_process(COMMAND ${CMAKE_COMMAND} -E env HOME=${place}/home QT_QPA_PLATFORM=offscreen
+execute_process(COMMAND ${CMAKE_COMMAND} -E env --unset=XDG_DATA_HOME HOME=${place}/home
+    QT_QPA_PLATFORM=offscreen
     ${place}/bin/quorvane
   TIMEOUT 3 RESULT_VARIABLE result ERROR_VARIABLE messages)
 if(NOT result MATCHES "timeout")
   message(SEND_ERROR "The installed program ended by itself: ${result} ${messages}")
+endif()
+if(NOT EXISTS "${place}/home/.local/share/quorvane/examples/Aurelia Reach.map")
+  message(SEND_ERROR "The first start made no copy of the example games that can be saved beside")
 endif()
 file(REMOVE_RECURSE ${place})

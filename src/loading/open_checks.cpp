@@ -41,17 +41,20 @@ OpenProblem CheckReports(const GameChoice& choice) {
 OpenProblem CheckYears(const OpenInput& input) {
   const double gameYear = NumericValue(input.GameYear);
   double sum = 0;
-  bool isAnyLater = false;
+  std::optional<int> firstLater;
   for (std::size_t row = 1; row <= kMaxPlayers; ++row) {
     const double year = NumericValue(input.Years[row]);
     sum += year;
-    isAnyLater = isAnyLater || year > gameYear;
+    if (!firstLater && year > gameYear) firstLater = static_cast<int>(row);
   }
   if (sum > 0 && gameYear == 0) {
-    return {"You have entered Years for player files but not for the Game"};
+    return {.Message = "You have entered Years for player files but not for the Game",
+            .YearRow = 0};
   }
-  if (isAnyLater) return {"One or more game files has a Year higher then the Game Year"};
-  return kNoProblem;
+  if (!firstLater) return kNoProblem;
+  // A year before 0 is wrong itself: reports without a year are later.
+  return {.Message = "One or more game files has a Year higher then the Game Year",
+          .YearRow = gameYear < 0 ? 0 : firstLater};
 }
 
 }  // namespace

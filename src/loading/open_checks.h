@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "loading/dialog_files.h"
@@ -26,6 +27,8 @@ enum class OpenRemedy {
 struct OpenProblem {
   std::string Message;
   OpenRemedy Remedy = OpenRemedy::None;
+  /// Whose year has to be corrected, if any: a report's, by its row, or the game's, 0.
+  std::optional<int> YearRow = std::nullopt;
 
   bool operator==(const OpenProblem&) const = default;
 };

@@ -48,6 +48,8 @@ void EmpireStat::BuildSelector() {
   Combo1->setInsertPolicy(QComboBox::NoInsert);
   Combo1->setCompleter(nullptr);
   Combo1->lineEdit()->setPlaceholderText(kSelectorText);
+  // The window does not grow with the longest name.
+  Combo1->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
   Combo1->installEventFilter(this);
 }
 
@@ -123,6 +125,7 @@ void EmpireStat::FillSelector() {
 void EmpireStat::Combo1_Change() {
   const QScopedValueRollback filling(FillingControls, true);
   const std::string name = ToText(Combo1->currentText());
+  SetPlainToolTip(*Combo1, Combo1->currentText());  // a long name does not fit
   for (int player = Combo1->count(); player > 0; --player) {
     if (session_.Player(player).Name() != name) continue;
     Combo1->setCurrentIndex(player - 1);  // so that the arrow keys go on from a typed name

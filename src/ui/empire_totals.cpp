@@ -31,8 +31,9 @@ constexpr int kCaptionColumn = 0;
 constexpr int kTotalColumn = 1;
 constexpr int kAverageColumn = 2;
 
-QLabel* NewNumber(const char* array, std::size_t index, QWidget* page) {
-  QLabel* label = NewValue(IndexedName(array, static_cast<int>(index)), page);
+ElidedLabel* NewNumber(const char* array, std::size_t index, QWidget* page) {
+  auto* label = new ElidedLabel(IndexedName(array, static_cast<int>(index)), page);
+  label->setProperty("value", true);
   label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   return label;
 }
@@ -58,7 +59,7 @@ EmpireTotals::EmpireTotals(QWidget* parent) : QWidget(parent) {
     const auto field = static_cast<std::size_t>(row.Field);
     grid->addWidget(NewCaption(row.Caption, this), line, kCaptionColumn);  // read before its value
     ShowData[field] = NewNumber("ShowData", field, this);
-    ShowData[field]->setToolTip(row.Tip);
+    ShowData[field]->SetTip(row.Tip);
     grid->addWidget(ShowData[field], line, kTotalColumn);
     if (!row.HasAverage) continue;
     AvgData[average] = NewNumber("AvgData", average, this);
@@ -72,13 +73,14 @@ EmpireTotals::EmpireTotals(QWidget* parent) : QWidget(parent) {
 
 void EmpireTotals::ShowTotals(const PlayerRecord& player) {
   for (const Row& row : kRows) {
-    ShowData[static_cast<std::size_t>(row.Field)]->setText(ToQString(FieldText(player[row.Field])));
+    ShowData[static_cast<std::size_t>(row.Field)]->ShowValue(
+        ToQString(FieldText(player[row.Field])));
   }
 }
 
 void EmpireTotals::ShowAverages(const PlayerRecord& player) {
   const auto texts = AverageTexts(player);
-  for (std::size_t i = 0; i < texts.size(); ++i) AvgData[i]->setText(ToQString(texts[i]));
+  for (std::size_t i = 0; i < texts.size(); ++i) AvgData[i]->ShowValue(ToQString(texts[i]));
 }
 
 }  // namespace quorvane

@@ -1,11 +1,11 @@
 #pragma once
 
-#include <QLabel>
 #include <QWidget>
 #include <array>
 
 #include "analysis/empire_statistics.h"
 #include "model/player_record.h"
+#include "ui/elided_label.h"
 
 namespace quorvane {
 
@@ -22,8 +22,8 @@ class EmpireTotals : public QWidget {
 
   /// `ShowData`, each by the number of the field that it shows; the tab has fields 2 … 7 and
   /// 14 … 17.
-  std::array<QLabel*, 18> ShowData = {};
-  std::array<QLabel*, kAverageCount> AvgData = {};
+  std::array<ElidedLabel*, 18> ShowData = {};
+  std::array<ElidedLabel*, kAverageCount> AvgData = {};
 };
 
 }  // namespace quorvane

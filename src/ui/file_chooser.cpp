@@ -7,6 +7,7 @@
 #include <QStorageInfo>
 #include <QStyle>
 
+#include "ui/controls.h"
 #include "ui/texts.h"
 
 namespace quorvane {
@@ -14,6 +15,7 @@ namespace {
 
 // A list entry that keeps the folder it stands for.
 constexpr int kPathRole = Qt::UserRole;
+constexpr int kLeastDriveWidth = 80;  // whatever the length of its paths
 
 }  // namespace
 
@@ -77,6 +79,12 @@ bool FolderList::ShowFolder(const std::filesystem::path& folder) {
   return true;
 }
 
+// Enter is the list's own even where it opens nothing: the dialog would take it for its button.
+void FolderList::keyPressEvent(QKeyEvent* event) {
+  QListWidget::keyPressEvent(event);
+  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) event->accept();
+}
+
 void FolderList::Open(const QListWidgetItem& item) {
   const QString path = item.data(kPathRole).toString();
   if (!ShowFolder(ToPath(path))) emit FolderRefused(path);
@@ -88,10 +96,11 @@ void FolderList::AddFolder(const QString& name, const QString& path, int depth, 
   auto* item = new QListWidgetItem(style()->standardIcon(icon),
                                    QString(qsizetype{2} * depth, ' ') + name, this);
   item->setData(kPathRole, path);
-  item->setToolTip(QDir::toNativeSeparators(path));
+  item->setToolTip(PlainToolTip(QDir::toNativeSeparators(path)));
 }
 
 DriveList::DriveList(QWidget* parent) : QComboBox(parent) {
+  setMinimumWidth(kLeastDriveWidth);
 #if defined(Q_OS_WIN)
   for (const QFileInfo& drive : QDir::drives()) addItem(drive.path(), drive.path());
 #else

@@ -45,6 +45,9 @@ class FolderList : public QListWidget {
   /// The user asked for a folder that cannot be shown.
   void FolderRefused(const QString& folder);
 
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+
  private:
   void Open(const QListWidgetItem& item);
   void AddFolder(const QString& name, const QString& path, int depth, bool isOnTheWay);

@@ -16,6 +16,7 @@ namespace quorvane {
 namespace {
 
 constexpr int kListWidth = 260;
+constexpr int kWidestList = 400;
 
 // Completing a name only helps with typing. A text that was typed must stay one, even where it
 // equals an entry, so the box may not choose that entry when the typing ends.
@@ -48,6 +49,7 @@ FindPlanet::FindPlanet(GameSession& session, Prompts& prompts, QWidget* parent)
   NameBox(*PlanetList, tr("Planet"));
   PlanetList->setInsertPolicy(QComboBox::NoInsert);
   PlanetList->setMinimumWidth(kListWidth);
+  PlanetList->setMaximumWidth(kWidestList);
   OfferCompletions(*PlanetList);
   PlanetList->completer()->popup()->installEventFilter(this);
   Check1 = new QCheckBox("Show Planet Details?", this);

@@ -85,7 +85,7 @@ void Legend::ShowPlayers(const GameSession& session) {
     const bool isPlayer = player <= session.PlayerCount;
     const QString name = isPlayer ? ToQString(session.Player(player).Name()) : QString();
     Race[index]->setText(name);
-    Race[index]->setToolTip(name);  // a long name does not fit
+    SetPlainToolTip(*Race[index], name);  // a long name does not fit
     RaceC[index]->setAccessibleName(tr("Colour of %1").arg(name));
     RaceC[index]->setVisible(!name.isEmpty());
   }

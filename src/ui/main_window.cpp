@@ -8,7 +8,6 @@
 #include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QRadioButton>
-#include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QTabBar>
@@ -59,11 +58,10 @@ QSize AreaSize(QSize frame, QSize needed, int scrollBar) {
 }
 
 // Where it can, the window opens whole on a small screen, too.
-QSize FirstSize(const QScreen& screen) {
+QSize FirstSize(const QWidget& window) {
   constexpr QSize kWanted(1280, 860);
   constexpr QSize kLeast(1280, 700);
-  constexpr QSize kFrame(0, 40);
-  return kWanted.boundedTo((screen.availableSize() - kFrame).expandedTo(kLeast));
+  return kWanted.boundedTo(RoomOnScreen(window).expandedTo(kLeast));
 }
 
 }  // namespace
@@ -78,7 +76,7 @@ Main::Main(std::filesystem::path startFolder, Prompts* prompts)
   ConnectParts();
   ConnectMenus();
   Form_Load();
-  resize(FirstSize(*screen()));
+  resize(FirstSize(*this));
   qApp->installEventFilter(this);
 }
 

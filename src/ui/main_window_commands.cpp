@@ -85,7 +85,7 @@ void Main::LoadChosenGame() {
 
 void Main::ShowLoadedGame() {
   ResetWindow();
-  setWindowTitle(ToQString(MainCaption(QUORVANE_VERSION, &session_)));
+  setWindowTitle(PlainTitle(ToQString(MainCaption(QUORVANE_VERSION, &session_))));
   for (int player = 1; player <= session_.PlayerCount; ++player) {
     Combo1->addItem(ToQString(session_.Player(player).Name()));
   }

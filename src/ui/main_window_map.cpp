@@ -5,6 +5,7 @@
 #include "analysis/find_planet.h"
 #include "analysis/race_colour.h"
 #include "render/planet_pick.h"
+#include "ui/controls.h"
 #include "ui/details_panel.h"
 #include "ui/drawing_board.h"
 #include "ui/legend.h"
@@ -48,7 +49,7 @@ void Main::Universe_Hovered(SurfacePoint at, bool isPicking) {
     const int planet = PlanetAt(session_, view, at);
     const QString name = planet > 0 ? ToQString(session_.Planet(planet).Name()) : QString();
     theplanet->setText(planet > 0 ? " " + name : " Deep Space");
-    Map->Universe->setToolTip(planet > 0 ? "Click for more details on " + name : QString());
+    SetPlainToolTip(*Map->Universe, planet > 0 ? "Click for more details on " + name : QString());
   }
   XYCoord->setText(ToQString(PointerText(view, at)));
   Board->Universe_MouseMove(at);

@@ -8,19 +8,27 @@
 #include "ui/texts.h"
 
 namespace quorvane {
+namespace {
 
-void MessageBoxPrompts::Inform(const std::string& text) {
-  QMessageBox box(QMessageBox::NoIcon, kProgramName, ToQString(text), QMessageBox::Ok, Parent());
+// The format comes first, so that no text is ever taken for markup.
+void SetText(QMessageBox& box, const std::string& text) {
   box.setObjectName("MessageBox");
   box.setTextFormat(Qt::PlainText);
+  box.setText(ToQString(text));
+}
+
+}  // namespace
+
+void MessageBoxPrompts::Inform(const std::string& text) {
+  QMessageBox box(QMessageBox::NoIcon, kProgramName, "", QMessageBox::Ok, Parent());
+  SetText(box, text);
   box.exec();
 }
 
 bool MessageBoxPrompts::AskYesNo(const std::string& title, const std::string& question) {
-  QMessageBox box(QMessageBox::Question, ToQString(title), ToQString(question),
-                  QMessageBox::Yes | QMessageBox::No, Parent());
-  box.setObjectName("MessageBox");
-  box.setTextFormat(Qt::PlainText);
+  QMessageBox box(QMessageBox::Question, ToQString(title), "", QMessageBox::Yes | QMessageBox::No,
+                  Parent());
+  SetText(box, question);
   box.setDefaultButton(QMessageBox::Yes);
   return box.exec() == QMessageBox::Yes;
 }
@@ -31,9 +39,10 @@ std::optional<std::string> MessageBoxPrompts::AskText(const std::string& title,
   QInputDialog box(Parent());
   box.setObjectName("InputBox");
   box.setWindowTitle(ToQString(title));
+  box.setLabelText("");  // makes the label
+  for (QLabel* label : box.findChildren<QLabel*>()) label->setTextFormat(Qt::PlainText);
   // The prompt stands for the text box, so that an "&" in it would mark an access key.
   box.setLabelText(WithoutAccessKeys(ToQString(prompt)));
-  for (QLabel* label : box.findChildren<QLabel*>()) label->setTextFormat(Qt::PlainText);
   box.setTextValue(ToQString(preset));
   if (box.exec() != QDialog::Accepted || box.textValue().isEmpty()) return std::nullopt;
   return ToText(box.textValue());

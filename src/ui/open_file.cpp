@@ -19,6 +19,9 @@
 namespace quorvane {
 namespace {
 
+constexpr QSize kFirstSize(820, 560);
+constexpr int kLeastRoom = 80;  // of the reports, which scroll
+
 QLabel* NewLabel(const char* name, const QString& text, QWidget* parent) {
   QLabel* label = NewCaption(text, parent);
   label->setObjectName(name);
@@ -56,7 +59,7 @@ void OpenFile::Build() {
   AddReports(*right);
   AddSettings(*right);
   AddButtons(*right);
-  resize(820, 560);
+  resize(kFirstSize.boundedTo(RoomOnScreen(*this)));
 }
 
 void OpenFile::AddFileChooser(QBoxLayout& column) {
@@ -81,7 +84,6 @@ void OpenFile::AddReports(QBoxLayout& column) {
   PLALabelText = NewLabel("PLALabelText", "", this);
   PLALabelText->setWordWrap(true);
   Rows = new ReportRows(state_.Choice, this);
-  // The rows come and go; the room for them stays, so that nothing below them jumps.
   auto* area = new QWidget(this);
   auto* areaLayout = new QVBoxLayout(area);
   areaLayout->setContentsMargins(0, 0, 0, 0);
@@ -89,8 +91,10 @@ void OpenFile::AddReports(QBoxLayout& column) {
   areaLayout->addWidget(PLALabelText);
   areaLayout->addWidget(Rows);
   areaLayout->addStretch(1);
-  area->setMinimumHeight(290);
-  column.addWidget(area, 1);
+  // The rows come and go; the room for them stays, so that nothing below them jumps.
+  QScrollArea* room = NewScrollArea(area);
+  room->setMinimumHeight(kLeastRoom);
+  column.addWidget(room, 1);
   Label1->hide();
   PLALabelText->hide();
 }
@@ -264,9 +268,11 @@ void OpenFile::Command1_Click() {
   switch (problem.Remedy) {
     case OpenRemedy::UseSmallestSoi:
       txtSOI->setText(QString::number(kSmallestSoiSetting));
+      Correct(*txtSOI);
       break;
     case OpenRemedy::UseLargestSoi:
       txtSOI->setText(QString::number(kLargestSoiSetting));
+      Correct(*txtSOI);
       break;
     case OpenRemedy::FindReportsAgain:
       File1_Click();
@@ -274,6 +280,14 @@ void OpenFile::Command1_Click() {
     case OpenRemedy::None:
       break;
   }
+  if (!problem.YearRow) return;
+  const int row = *problem.YearRow;
+  Correct(Rows->IsShown(row) ? *Rows->TxtPxYear[static_cast<std::size_t>(row)] : *txtGameYear);
+}
+
+void OpenFile::Correct(QLineEdit& box) {
+  box.setFocus();
+  box.selectAll();
 }
 
 void OpenFile::Command2_Click() { reject(); }
@@ -281,6 +295,11 @@ void OpenFile::Command2_Click() { reject(); }
 void OpenFile::reject() {
   state_.OpenDialogResult = 1;
   QDialog::reject();
+}
+
+void OpenFile::showEvent(QShowEvent* event) {
+  if (!event->spontaneous()) File1->setFocus();
+  QDialog::showEvent(event);
 }
 
 void OpenFile::closeEvent(QCloseEvent* event) {

@@ -55,6 +55,7 @@ class OpenFile : public QDialog {
   void reject() override;
 
  protected:
+  void showEvent(QShowEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
 
  private:
@@ -78,6 +79,7 @@ class OpenFile : public QDialog {
   void ClearReports();
   void ShowOldReport();
   void ShowNewReports();
+  void Correct(QLineEdit& box);
 
   OpenState& state_;
   Prompts& prompts_;

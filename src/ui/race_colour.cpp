@@ -9,6 +9,7 @@
 #include "render/palette.h"
 #include "render/swatch.h"
 #include "ui/controls.h"
+#include "ui/texts.h"
 
 namespace quorvane {
 namespace {
@@ -30,7 +31,7 @@ RaceColour::RaceColour(GameSession& session, int position, int slot, const QStri
                        QWidget* parent)
     : QDialog(parent), session_(session) {
   setObjectName("RaceColour");
-  setWindowTitle("Edit Race Colour for: " + raceName);
+  setWindowTitle("Edit Race Colour for: " + PlainTitle(raceName));
   PN = NewHiddenNumber("PN", position, this);
   PN2 = NewHiddenNumber("PN2", slot, this);
   auto* row = new QHBoxLayout(this);

@@ -4,7 +4,9 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLineEdit>
+#include <QScrollBar>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "analysis/empire_statistics.h"
 #include "ui/controls.h"
@@ -37,6 +39,7 @@ constexpr std::array<HabKind, 3> kHabKinds = {
 
 constexpr int kTraitLength = 10;  // leaves room for a trait that somebody else wrote
 constexpr int kHelpWidth = 400;
+constexpr int kRestOfWindow = 180;  // what stands above and below the fields, in pixels
 constexpr const char* kHelp =
     "Hab ranges calculated from supplied data. Click on a value to change. This effects the "
     "estimated hab % display/calculations.";
@@ -63,10 +66,15 @@ RaceInformation::RaceInformation(QWidget* parent) : QWidget(parent), fields_(new
   column->addLayout(NewTraitGrid());
 
   ReCalcHab = NewButton("ReCalcHab", "Re-Calc Hab Ranges", this);
+  const QSize whole = fields_->minimumSizeHint();
+  const int room = RoomOnScreen(*this).height() - kRestOfWindow;
+  QScrollArea* scroll = NewScrollArea(fields_);
+  const int bar = whole.height() > room ? scroll->verticalScrollBar()->sizeHint().width() : 0;
+  scroll->setMinimumSize(whole.width() + bar, std::min(whole.height(), room));
   auto* page = new QVBoxLayout(this);
   page->setContentsMargins(16, 12, 16, 12);
   page->setSpacing(10);
-  page->addWidget(fields_);
+  page->addWidget(scroll);
   page->addStretch(1);
   page->addWidget(ReCalcHab, 0, Qt::AlignLeft);
 }

@@ -6,17 +6,15 @@
 namespace quorvane {
 
 RangeLabel::RangeLabel(const QString& name, const QString& meaning, QWidget* parent)
-    : QLabel(parent), meaning_(meaning) {
-  setObjectName(name);
+    : ElidedLabel(name, parent), meaning_(meaning) {
   setProperty("range", true);
-  setTextFormat(Qt::PlainText);
   setFocusPolicy(Qt::StrongFocus);
   setCursor(Qt::PointingHandCursor);
   ShowValue("");
 }
 
 void RangeLabel::ShowValue(const QString& value) {
-  setText(value);
+  ElidedLabel::ShowValue(value);
   setAccessibleName(QString("%1: %2").arg(meaning_, value));
 }
 
@@ -38,7 +36,7 @@ void RangeLabel::keyPressEvent(QKeyEvent* event) {
       emit Clicked();
       break;
     default:
-      QLabel::keyPressEvent(event);
+      ElidedLabel::keyPressEvent(event);
   }
 }
 

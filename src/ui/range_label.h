@@ -1,13 +1,12 @@
 #pragma once
 
-#include <QLabel>
-#include <QString>
+#include "ui/elided_label.h"
 
 namespace quorvane {
 
 /// A value that changes when it is clicked, or when Enter or Space is pressed while it has the
 /// focus. Assistive technology reads what the value means before the value.
-class RangeLabel : public QLabel {
+class RangeLabel : public ElidedLabel {
   Q_OBJECT
 
  public:

@@ -30,6 +30,7 @@ ReportRows::ReportRows(GameChoice& choice, QWidget* parent) : QWidget(parent), c
   for (int row = 0; row <= kMaxPlayers; ++row) {
     AddRow(row);
     races->addButton(Player[Index(row)]);
+    if (row > 0) setTabOrder(Player[Index(row - 1)], Player[Index(row)]);
   }
   HideAll();
 }
@@ -119,7 +120,12 @@ void ReportRows::SetRowVisible(int row, bool isVisible) {
   TxtPxYear[Index(row)]->setVisible(isVisible);
 }
 
-void ReportRows::Player_Click(int row) { choice_.MyRaceRow = row; }
+// The Tab key goes to the chosen button, and from there the arrow keys to the others.
+void ReportRows::Player_Click(int row) {
+  choice_.MyRaceRow = row;
+  for (QRadioButton* player : Player) player->setFocusPolicy(Qt::ClickFocus);
+  Player[Index(row)]->setFocusPolicy(Qt::StrongFocus);
+}
 
 void ReportRows::Check1_Click(int row) {
   if (isFillingRows_) return;

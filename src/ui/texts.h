@@ -25,6 +25,10 @@ inline std::filesystem::path ToPath(const QString& text) { return PathFromText(T
 /// A text that a control shows as it stands, where "&" would otherwise mark an access key.
 inline QString WithoutAccessKeys(QString text) { return text.replace("&", "&&"); }
 
+/// A window title that is shown as it stands, where "[*]" would otherwise be the place of the mark
+/// for unsaved changes.
+inline QString PlainTitle(QString text) { return text.replace("[*]", "[*][*]"); }
+
 /// The object name of a control array's member: `OvButt(4)`.
 inline QString IndexedName(const char* array, int index) {
   return QString("%1(%2)").arg(array).arg(index);

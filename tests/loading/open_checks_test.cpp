@@ -85,9 +85,12 @@ TEST_F(OpenDialogRules, ReportTheFirstProblemInReadingOrderAndStoreWhatHasNone) 
   report.Included = " 0";
   expect({"No planet files selected"});
   report.Included = "1";
-  expect({"You have entered Years for player files but not for the Game"});
-  input.GameYear = "2448";
-  expect({"One or more game files has a Year higher then the Game Year"});
+  expect({.Message = "You have entered Years for player files but not for the Game", .YearRow = 0});
+  for (const auto& [gameYear, row] : {std::pair("2448", 9), std::pair("-1", 0)}) {
+    input.GameYear = gameYear;
+    expect(
+        {.Message = "One or more game files has a Year higher then the Game Year", .YearRow = row});
+  }
   input.GameYear = " 2449";
   input.Years[3] = "2448";
   input.Soi = "99.5";

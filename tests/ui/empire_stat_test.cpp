@@ -67,6 +67,23 @@ TEST_F(EmpireStatTest, OpensOnTheUsersOwnRaceOrOnNone) {
   EXPECT_FALSE(driver->IsEnabled("ShowData(8)") || driver->IsEnabled("RaceNotes"));
 }
 
+TEST_F(EmpireStatTest, LongNamesAndSumsAreShortenedAndTheTooltipTellsThem) {
+  const QSize usual = window->size();
+  EXPECT_EQ(window->Totals->ShowData[14]->toolTip(), "Total Territory in ly");
+  const std::string name(300, 'W');
+  const QString sum(300, '9');
+  session.Player(1)[PlayerField::Name] = FieldValue(name);
+  session.Player(1)[PlayerField::Territory] = FieldValue(ToText(sum));
+  session.Player(1)[PlayerField::GravMin] = FieldValue(ToText(sum));
+  Open(name.c_str());
+  EXPECT_EQ(window->size(), usual);
+  EXPECT_EQ(window->Combo1->toolTip(), ToQString(name));
+  EXPECT_EQ(driver->Text("ShowData(14)"), sum);
+  EXPECT_EQ(window->Totals->ShowData[14]->toolTip(), sum + "\nTotal Territory in ly");
+  EXPECT_EQ(OnTab(1).Find("ShowData(8)").toolTip(), sum);
+  EXPECT_EQ(driver->Find("ShowData(9)").toolTip(), "");
+}
+
 TEST_F(EmpireStatTest, ShowsAPlayerWhenTheTextIsExactlyItsName) {
   for (const char* other : {"drask", "Dras", " Drask"}) {
     driver->Type("Combo1", other).Press("Combo1", Qt::Key_Return).Press("Combo1", Qt::Key_Tab);

@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QFocusEvent>
 #include <QListWidget>
+#include <QScreen>
 
 #include "support/game_folder.h"
 #include "support/scripted_prompts.h"
@@ -63,6 +64,43 @@ TEST_F(OpenFileTest, RefusesWhatCannotBeLoadedAndKeepsTheRest) {
   EXPECT_EQ(state.Choice.SoiSetting, 500);
 }
 
+TEST_F(OpenFileTest, AMessageAboutAYearLeadsToItsBox) {
+  driver.ClickEntry("File1", "Demo.MAP").Type("TxtPxYear(3)", "2449").Click("Command1");
+  EXPECT_EQ(dialog.focusWidget(), dialog.txtGameYear);
+  driver.Type("txtGameYear", "2448").Click("Command1");
+  EXPECT_EQ(dialog.focusWidget()->objectName(), "TxtPxYear(3)");
+  driver.Type("TxtPxYear(3)", "2448").Type("txtSOI", "1").Click("Command1");
+  EXPECT_EQ(dialog.txtSOI->selectedText(), "50");
+  EXPECT_EQ(prompts.Shown().size(), 3U);
+}
+
+TEST_F(OpenFileTest, TabGoesFromTheMapsToTheChosenRaceAndArrowsToTheOthers) {
+  EXPECT_EQ(dialog.focusWidget()->objectName(), "File1");
+  driver.ClickEntry("File1", "Demo.MAP").Click("Player(3)").Click("RemRace");
+  driver.ClickEntry("File1", "Demo.MAP").Press("File1", Qt::Key_Tab);
+  EXPECT_EQ(dialog.focusWidget()->objectName(), "Player(3)");
+  QApplication::processEvents();  // the rows get their places
+  driver.Press("Player(3)", Qt::Key_Space).Press("Player(3)", Qt::Key_Up);
+  EXPECT_EQ(dialog.focusWidget()->objectName(), "Player(1)");
+  EXPECT_EQ(state.Choice.MyRaceRow, 1);
+  driver.Press("Player(1)", Qt::Key_Tab);
+  EXPECT_EQ(dialog.focusWidget()->objectName(), "Check1(1)");
+}
+
+TEST_F(OpenFileTest, FitsASmallScreenAndScrollsTheRows) {
+  EXPECT_LE(dialog.width(), dialog.screen()->availableSize().width());
+  for (int row = 2; row <= 16; ++row) folder.Write("Demo.P" + std::to_string(row), "x");
+  driver.ClickEntry("File1", "Demo.MAP");
+  dialog.resize(683, 344);
+  QApplication::processEvents();
+  EXPECT_EQ(dialog.size(), QSize(683, 344));
+  EXPECT_FALSE(driver.Find("Command1").visibleRegion().isEmpty());
+  const QWidget& lastYear = driver.Find("TxtPxYear(8)");
+  EXPECT_TRUE(lastYear.visibleRegion().isEmpty());
+  driver.Find("TxtPxYear(8)").setFocus();
+  EXPECT_FALSE(lastYear.visibleRegion().isEmpty());
+}
+
 TEST_F(OpenFileTest, RebuildsTheRowsAfterTheRaceWasUntickedOrAReportWentAway) {
   driver.ClickEntry("File1", "Demo.MAP").Click("Check1(1)").Click("Command1");
   EXPECT_EQ(prompts.Shown().size(), 1U);
@@ -94,6 +132,14 @@ TEST_F(OpenFileTest, ForgetsTheMapWhenTheFolderChanges) {
   EXPECT_FALSE(driver.IsEnabled("Command1") || driver.IsEnabled("SaveYears"));
   EXPECT_FALSE(driver.IsVisible("RemRace") || driver.IsVisible("Check1(1)"));
   EXPECT_EQ(state.Choice.MapDirectory, " ");
+}
+
+TEST_F(OpenFileTest, EnterOnAVanishedFolderLoadsNothing) {
+  driver.ClickEntry("File1", "Demo.MAP").ClickEntry("Dir1", "      Deeper");
+  std::filesystem::remove(folder / "Deeper");
+  driver.Press("Dir1", Qt::Key_Return).Press("Dir1", Qt::Key_Enter);
+  EXPECT_EQ(prompts.Shown().size(), 2U);
+  EXPECT_TRUE(dialog.isVisible() && driver.IsEnabled("Command1"));
 }
 
 TEST_F(OpenFileTest, ReachingTheListByKeyboardIsNoChoiceYet) {
