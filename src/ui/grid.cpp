@@ -1,11 +1,13 @@
 #include "ui/grid.h"
 
 #include <QAction>
+#include <QHelpEvent>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPainter>
 #include <QShortcut>
 #include <QStyledItemDelegate>
+#include <QToolTip>
 #include <algorithm>
 
 #include "analysis/planet_grid.h"
@@ -24,6 +26,7 @@ constexpr int kDefaultWidthTwips = 960;
 constexpr int kSidesTwips = 135;
 constexpr int kTopAndBottomTwips = 700;
 constexpr int kRowPadding = 6;
+constexpr int kSparedPadding = 3;
 constexpr double kFontSize = 8;
 
 // The style's room beside a text would cut "18 years old" in a column of the width given to it. A
@@ -38,7 +41,7 @@ class CellPainter : public QStyledItemDelegate {
     QStyleOptionViewItem plain = option;
     plain.state &= ~QStyle::State_HasFocus;
     const bool isText = IsTextColumn(static_cast<std::size_t>(index.column()));
-    if (isText) plain.rect.adjust(-1, 0, 2, 0);
+    if (isText) plain.rect.adjust(-1, 0, kSparedPadding - 1, 0);
     painter->save();
     painter->setClipRect(option.rect);
     QStyledItemDelegate::paint(painter, plain, index);
@@ -47,6 +50,17 @@ class CellPainter : public QStyledItemDelegate {
       painter->drawRect(option.rect.adjusted(0, 0, -1, -1));
     }
     painter->restore();
+  }
+
+  // Only a text that is cut needs to be told whole.
+  bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
+                 const QModelIndex& index) override {
+    const bool isCut = sizeHint(option, index).width() > option.rect.width() + kSparedPadding;
+    if (isCut || event->type() != QEvent::ToolTip) {
+      return QStyledItemDelegate::helpEvent(event, view, option, index);
+    }
+    QToolTip::hideText();
+    return true;
   }
 };
 

@@ -193,6 +193,7 @@ TEST_F(AllWindowsTest, ShowNamesAsTheyStandAndNameTheirControls) {
                             "EmpireStat.Combo1",
                             "InputBox.",
                             "Grid.DG",
+                            "Grid.DG tip",
                             "ShowHide.ShowHideList"}) {
     EXPECT_TRUE(seen.erase(place) == 1) << place;
   }

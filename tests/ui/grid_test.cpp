@@ -3,7 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QTest>
+#include <QToolTip>
 #include <tuple>
 
 #include "platform/toolkit/twips.h"
@@ -116,6 +118,19 @@ TEST_F(GridTest, AgeOfMoreThanTenYearsIsShownWhole) {
   const QImage narrow = grid.DG->viewport()->grab(cell).toImage();
   grid.DG->setColumnWidth(kAge, 2 * cell.width());
   EXPECT_EQ(grid.DG->viewport()->grab(cell).toImage(), narrow);
+}
+
+TEST_F(GridTest, TooltipTellsATextThatIsCut) {
+  const auto tipOver = [this](int column) {
+    const QPoint at = grid.DG->visualRect(grid.DG->model()->index(0, column)).center();
+    QHelpEvent rest(QEvent::ToolTip, at, grid.DG->viewport()->mapToGlobal(at));
+    QApplication::sendEvent(grid.DG->viewport(), &rest);
+    return QToolTip::text();
+  };
+  session.Planet(1)[PlanetField::Name] = std::string(60, 'x');
+  grid.Fill(session);
+  EXPECT_EQ(tipOver(kOwner), "");
+  EXPECT_EQ(tipOver(kName), QString(60, 'x'));
 }
 
 TEST_F(GridTest, ChooserHidesAndShowsColumnsAtOnceUntilTheNextFilling) {
