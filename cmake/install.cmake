@@ -28,6 +28,7 @@ install(FILES ${data}/quorvane.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/appl
 install(FILES ${data}/quorvane.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo
   RENAME io.github.quorvane.Quorvane.metainfo.xml)
 install(FILES ${data}/quorvane.6 DESTINATION ${CMAKE_INSTALL_MANDIR}/man6)
+install(FILES ${PROJECT_SOURCE_DIR}/docs/manual.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
 install(FILES ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR} RENAME copyright)
 
 set(CPACK_GENERATOR DEB)
@@ -39,5 +40,6 @@ set(CPACK_DEBIAN_PACKAGE_SECTION games)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 # Qt draws the icons with a plugin that no library dependency leads to.
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "fonts-liberation, libqt6svg6")
+set(CPACK_PROJECT_CONFIG_FILE ${PROJECT_SOURCE_DIR}/cmake/package_tools.cmake)
 set(CPACK_STRIP_FILES ON)
 include(CPack)

@@ -2,7 +2,7 @@
 # machine lacks, and building. Every step that is not possible stops with one plain sentence.
 
 build_packages="g++ cmake ninja-build qt6-base-dev qt6-svg-dev libqt6svg6 libgl-dev fonts-liberation
-  libgtest-dev libbenchmark-dev"
+  libgtest-dev libbenchmark-dev file dpkg-dev"
 
 say() { printf '%s\n' "$*"; }
 stop() { printf '%s\n' "$*" >&2; exit 1; }

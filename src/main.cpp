@@ -8,6 +8,7 @@
 
 #include "loading/example_games.h"
 #include "loading/settings_file.h"
+#include "ui/accessible_roles.h"
 #include "ui/icons.h"
 #include "ui/main_window.h"
 #include "ui/texts.h"
@@ -59,6 +60,7 @@ int main(int argc, char* argv[]) {
   QApplication::setApplicationName("Quorvane");
   QApplication::setDesktopFileName("quorvane");
   quorvane::ApplyTheme(application);
+  quorvane::InstallAccessibleRoles();
   QApplication::setWindowIcon(quorvane::ThemedIcon("quorvane"));
   quorvane::Main window(StartFolder());
   window.show();

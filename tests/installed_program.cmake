@@ -10,7 +10,8 @@ execute_process(COMMAND ${CMAKE_COMMAND} --install ${BUILD} --prefix ${place}
 set(share ${place}/share)
 foreach(file bin/quorvane "share/quorvane/examples/Aurelia Reach.map" share/quorvane/Stars.ini
     share/icons/hicolor/scalable/apps/quorvane.svg share/icons/hicolor/48x48/apps/quorvane.png
-    share/icons/hicolor/256x256/apps/quorvane.png share/man/man6/quorvane.6)
+    share/icons/hicolor/256x256/apps/quorvane.png share/man/man6/quorvane.6
+    share/doc/quorvane/manual.md)
   if(NOT EXISTS ${place}/${file})
     message(SEND_ERROR "${file} is not installed")
   endif()

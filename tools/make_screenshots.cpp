@@ -171,9 +171,7 @@ void TakePictures(const ScreenshotJob& job) {
 
   OverlaySwitches several;
   for (const OverlayKind kind :
-       {OverlayKind::InfluenceBorders, OverlayKind::Planets, OverlayKind::OwnedPlanets,
-        OverlayKind::ScannedPlanets, OverlayKind::SafeStargateDistances, OverlayKind::NamesColoured,
-        OverlayKind::TerritoryEdges}) {
+       {OverlayKind::InfluenceBorders, OverlayKind::OwnedPlanets, OverlayKind::TerritoryEdges}) {
     several.Set(kind, true);
   }
   window.Overlays->Show(several);

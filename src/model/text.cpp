@@ -4,6 +4,8 @@
 #include <array>
 #include <cstdint>
 #include <cstring>
+#include <tuple>
+#include <utility>
 
 namespace quorvane {
 namespace {
@@ -100,6 +102,21 @@ std::string FromWindows1252(std::string_view bytes) {
 
 char LowerCase(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c; }
 
+// The small letter of a capital of Windows-1252 that is no ASCII; any other character as it is.
+// All of them are two bytes long in UTF-8.
+std::string SmallLetter(std::string letter) {
+  constexpr std::pair<std::string_view, std::string_view> kScattered[] = {
+      {"Œ", "œ"}, {"Š", "š"}, {"Ž", "ž"}, {"Ÿ", "ÿ"}};
+  for (const auto& [capital, small] : kScattered) {
+    if (letter == capital) return std::string(small);
+  }
+  // U+00C0 … U+00DE lie 32 below their small letters; in their midst is the sign for "times".
+  const auto second = static_cast<unsigned char>(letter[1]);
+  const bool isCapital = letter[0] == '\xC3' && second >= 0x80 && second <= 0x9E && second != 0x97;
+  if (isCapital) letter[1] = static_cast<char>(second + 0x20);
+  return letter;
+}
+
 }  // namespace
 
 std::string DecodeText(std::string bytes) {
@@ -120,12 +137,10 @@ bool EqualIgnoringCase(std::string_view left, std::string_view right) {
 std::string InLowerCase(std::string_view text) {
   std::string lower(text);
   std::ranges::transform(lower, lower.begin(), LowerCase);
-  for (size_t lead = lower.find('\xC3'); lead != lower.npos && lead + 1 < lower.size();
-       lead = lower.find('\xC3', lead + 2)) {
-    // U+00C0 … U+00DE lie 32 below their small letters; in their midst is the sign for "times".
-    const auto second = static_cast<unsigned char>(lower[lead + 1]);
-    const bool isCapital = second >= 0x80 && second <= 0x9E && second != 0x97;
-    if (isCapital) lower[lead + 1] = static_cast<char>(second + 0x20);
+  const auto next = [&lower](size_t from) { return lower.find_first_of("\xC3\xC5", from); };
+  for (size_t lead = next(0); lead != lower.npos && lead + 1 < lower.size();
+       lead = next(lead + 2)) {
+    lower.replace(lead, 2, SmallLetter(lower.substr(lead, 2)));
   }
   return lower;
 }
@@ -134,6 +149,12 @@ std::string_view BeforeEndOfFile(std::string_view text) {
   const size_t lineEnd = text.find("\n\x1A");
   if (lineEnd != text.npos) return text.substr(0, lineEnd + 1);
   return text.substr(0, text.find_last_not_of('\x1A') + 1);
+}
+
+bool IsBeforeInAlphabet(std::string_view left, std::string_view right) {
+  const std::string lowerLeft = InLowerCase(left);
+  const std::string lowerRight = InLowerCase(right);
+  return std::tie(lowerLeft, left) < std::tie(lowerRight, right);
 }
 
 std::string_view TakeLine(std::string_view& rest) {

@@ -18,13 +18,17 @@ std::string_view Trimmed(std::string_view text);
 /// file names.
 bool EqualIgnoringCase(std::string_view left, std::string_view right);
 
-/// The text in small letters, for comparing names as people do: the accented capitals of Western
-/// Europe (À … Þ) become small as well as the ASCII ones.
+/// The text in small letters, for comparing names as people do: the accented capitals of the game's
+/// encoding (À … Þ, Œ, Š, Ž, Ÿ) become small as well as the ASCII ones.
 std::string InLowerCase(std::string_view text);
 
 /// The text up to the sign with which old programs end a file, byte 0x1A where a line begins or
 /// where nothing follows. Elsewhere it is a character like others.
 std::string_view BeforeEndOfFile(std::string_view text);
+
+/// Whether a name comes before another one in a list. Names that differ only in case come in the
+/// order of their characters' numbers, so that a list has one order.
+bool IsBeforeInAlphabet(std::string_view left, std::string_view right);
 
 /// Takes the next line off the front of `rest`, without its line end (CR LF or LF).
 std::string_view TakeLine(std::string_view& rest);

@@ -12,7 +12,6 @@ constexpr int kAroundMap = 1585;  // what the window's height has beside the map
 constexpr int kDetailWidth = 4515;
 constexpr int kDetailHeight = 3705;
 constexpr int kStatusHeight = 285;
-constexpr int kLegendRowHeight = 300;
 constexpr int kRowsPerColumn = kLegendRows / 2;
 
 TwipRect NameRect(int row, int left) {

@@ -18,6 +18,8 @@ struct TwipRect {
 };
 
 inline constexpr int kLegendRows = 16;
+/// From one row of the legend to the next, in twips: less than a swatch is high.
+inline constexpr int kLegendRowHeight = 300;
 
 /// Where the parts of the main window lie that follow its size.
 struct MainLayout {

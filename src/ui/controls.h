@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QComboBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QString>
@@ -48,6 +50,14 @@ inline QLabel* NewParagraph(const QString& name, const QString& text, int width,
   label->setWordWrap(true);
   label->setFixedWidth(width);
   return label;
+}
+
+/// Says what a box with a list is for. Screen readers call the box by the text that it shows, and
+/// stop at the text box inside one that can be edited.
+inline void NameBox(QComboBox& box, const QString& meaning) {
+  box.setAccessibleName(meaning);
+  box.setAccessibleDescription(meaning);
+  if (box.lineEdit() != nullptr) box.lineEdit()->setAccessibleName(meaning);
 }
 
 /// Lets a part of a window scroll where a small screen has no room for all of it, so that the

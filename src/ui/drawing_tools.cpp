@@ -18,6 +18,10 @@ namespace {
 constexpr std::array<const char*, 4> kTools = {"Stop Drawing", "Draw a Circle", "Draw a Line",
                                                "Add text"};
 
+// What those hear who do not see them; the buttons show numbers.
+constexpr std::array<const char*, DrawColours.size()> kColourNames = {
+    "White", "Red", "Green", "Blue", "Yellow", "Cyan", "Magenta"};
+
 // The number stays readable on its own colour.
 QString ColourButtonStyle(const Colour& colour) {
   const bool isDark = 299 * colour.Red + 587 * colour.Green + 114 * colour.Blue < 128000;
@@ -135,6 +139,7 @@ QWidget* DrawingTools::NewColourFrame() {
     const auto index = static_cast<std::size_t>(colour);
     DColour[index] = new QRadioButton(QString::number(colour + 1), frame);
     DColour[index]->setObjectName(IndexedName("DColour", colour));
+    DColour[index]->setAccessibleName(kColourNames[index]);
     DColour[index]->setStyleSheet(ColourButtonStyle(DrawColours[index]));
     connect(DColour[index], &QRadioButton::toggled, this, [this, colour](bool isChosen) {
       if (isChosen) DColour_Click(colour);

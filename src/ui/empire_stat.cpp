@@ -21,6 +21,10 @@ FieldValue& At(PlayerRecord& player, PlayerField first, std::size_t index) {
   return player.Field(static_cast<std::size_t>(first) + index);
 }
 
+bool IsEnter(const QKeyEvent& key) {
+  return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
+}
+
 }  // namespace
 
 EmpireStat::EmpireStat(GameSession& session, Prompts& prompts, QWidget* parent)
@@ -39,8 +43,8 @@ EmpireStat::EmpireStat(GameSession& session, Prompts& prompts, QWidget* parent)
 void EmpireStat::BuildSelector() {
   Combo1 = new QComboBox(this);
   Combo1->setObjectName("Combo1");
-  Combo1->setAccessibleName(tr("Empire"));
   Combo1->setEditable(true);
+  NameBox(*Combo1, tr("Empire"));
   Combo1->setInsertPolicy(QComboBox::NoInsert);
   Combo1->setCompleter(nullptr);
   Combo1->lineEdit()->setPlaceholderText(kSelectorText);
@@ -68,7 +72,7 @@ void EmpireStat::BuildButtons() {
   SaveInfo = NewButton("SaveInfo", "Save", this);
   SaveInfo->setToolTip("Save information for all Empires to file");
   OK = NewButton("OK", "Close", this);
-  OK->setDefault(true);
+  for (QPushButton* button : findChildren<QPushButton*>()) button->setAutoDefault(false);
 }
 
 void EmpireStat::LayOut() {
@@ -144,13 +148,19 @@ void EmpireStat::EnableEditing(bool isEnabled) {
   RaceNotes->setEnabled(isEnabled);
 }
 
-// Enter in the selector ends the typing of a name; it would otherwise close the window.
+// Enter in the selector ends the typing of a name.
 bool EmpireStat::eventFilter(QObject* target, QEvent* event) {
   if (event->type() != QEvent::KeyPress) return QDialog::eventFilter(target, event);
-  const int key = static_cast<QKeyEvent*>(event)->key();
-  if (key != Qt::Key_Return && key != Qt::Key_Enter) return QDialog::eventFilter(target, event);
+  if (!IsEnter(*static_cast<QKeyEvent*>(event))) return QDialog::eventFilter(target, event);
   Combo1->lineEdit()->selectAll();
   return true;
+}
+
+// Enter presses the button that has the focus. Anywhere else, on a trait say, nobody means to close
+// the window by it.
+void EmpireStat::keyPressEvent(QKeyEvent* event) {
+  if (!IsEnter(*event)) return QDialog::keyPressEvent(event);
+  if (auto* button = qobject_cast<QPushButton*>(focusWidget())) button->click();
 }
 
 void EmpireStat::ShowData_Click(std::size_t index) {

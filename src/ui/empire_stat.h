@@ -38,6 +38,7 @@ class EmpireStat : public QDialog {
 
  protected:
   bool eventFilter(QObject* target, QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
 
  private:
   void Combo1_Change();

@@ -57,9 +57,9 @@ EmpireTotals::EmpireTotals(QWidget* parent) : QWidget(parent) {
   for (const Row& row : kRows) {
     const int line = grid->rowCount();
     const auto field = static_cast<std::size_t>(row.Field);
+    grid->addWidget(NewCaption(row.Caption, this), line, kCaptionColumn);  // read before its value
     ShowData[field] = NewNumber("ShowData", field, this);
     ShowData[field]->SetTip(row.Tip);
-    grid->addWidget(NewCaption(row.Caption, this), line, kCaptionColumn);
     grid->addWidget(ShowData[field], line, kTotalColumn);
     if (!row.HasAverage) continue;
     AvgData[average] = NewNumber("AvgData", average, this);

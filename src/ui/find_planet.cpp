@@ -1,7 +1,10 @@
 #include "ui/find_planet.h"
 
+#include <QAbstractItemView>
+#include <QApplication>
 #include <QCompleter>
 #include <QGridLayout>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QShowEvent>
 
@@ -42,30 +45,34 @@ FindPlanet::FindPlanet(GameSession& session, Prompts& prompts, QWidget* parent)
   Label1->setObjectName("Label1");
   PlanetList = new QComboBox(this);
   PlanetList->setObjectName("PlanetList");
-  PlanetList->setAccessibleName(tr("Planet"));
   PlanetList->setEditable(true);
+  NameBox(*PlanetList, tr("Planet"));
   PlanetList->setInsertPolicy(QComboBox::NoInsert);
   PlanetList->setMinimumWidth(kListWidth);
   PlanetList->setMaximumWidth(kWidestList);
   OfferCompletions(*PlanetList);
+  PlanetList->completer()->popup()->installEventFilter(this);
   Check1 = new QCheckBox("Show Planet Details?", this);
   Check1->setObjectName("Check1");
   Command1 = NewButton("Command1", "Goto", this);
   Command1->setDefault(true);
   Command2 = NewButton("Command2", "Cancel", this);
 
-  auto* grid = new QGridLayout(this);
-  grid->addWidget(Label1, 0, 0, 1, 3);
-  grid->addWidget(PlanetList, 1, 0, 1, 3);
-  grid->addWidget(Check1, 2, 0);
-  grid->addWidget(Command1, 2, 1);
-  grid->addWidget(Command2, 2, 2);
-  grid->setColumnStretch(0, 1);
-  grid->setSizeConstraint(QLayout::SetFixedSize);
-
+  LayOut();
   connect(Check1, &QCheckBox::toggled, this, &FindPlanet::Check1_Click);
   connect(Command1, &QPushButton::clicked, this, &FindPlanet::Command1_Click);
   connect(Command2, &QPushButton::clicked, this, &FindPlanet::Command2_Click);
+}
+
+// The completions open below the list, where they may cover nothing.
+void FindPlanet::LayOut() {
+  auto* grid = new QGridLayout(this);
+  grid->addWidget(Label1, 0, 0);
+  grid->addWidget(PlanetList, 1, 0);
+  grid->addWidget(Command1, 0, 1);
+  grid->addWidget(Command2, 1, 1);
+  grid->addWidget(Check1, 2, 1);
+  grid->setSizeConstraint(QLayout::SetFixedSize);
 }
 
 void FindPlanet::showEvent(QShowEvent* event) {
@@ -91,6 +98,21 @@ void FindPlanet::FillPlanetList() {
 int FindPlanet::ChosenRow() const {
   const int row = PlanetList->currentIndex();
   return row >= 0 && PlanetList->itemText(row) == PlanetList->currentText() ? row : -1;
+}
+
+// The completions would keep Enter and Tab to themselves even where none of them is chosen. What
+// was typed is complete then, and the key means what it means in the dialog.
+bool FindPlanet::eventFilter(QObject* target, QEvent* event) {
+  if (event->type() != QEvent::KeyPress) return QDialog::eventFilter(target, event);
+  const int key = static_cast<QKeyEvent*>(event)->key();
+  const bool endsTyping = key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Tab;
+  QAbstractItemView& completions = *PlanetList->completer()->popup();
+  if (!endsTyping || completions.currentIndex().isValid()) {
+    return QDialog::eventFilter(target, event);
+  }
+  completions.hide();
+  QApplication::sendEvent(PlanetList->lineEdit(), event);
+  return true;
 }
 
 void FindPlanet::Check1_Click() { ShowFoundDetails = Check1->isChecked() ? 1 : 0; }

@@ -30,8 +30,10 @@ class FindPlanet : public QDialog {
 
  protected:
   void showEvent(QShowEvent* event) override;
+  bool eventFilter(QObject* target, QEvent* event) override;
 
  private:
+  void LayOut();
   void FillPlanetList();
   int ChosenRow() const;
   void Check1_Click();

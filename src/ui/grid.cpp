@@ -1,13 +1,16 @@
 #include "ui/grid.h"
 
 #include <QAction>
+#include <QHelpEvent>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPainter>
 #include <QShortcut>
 #include <QStyledItemDelegate>
+#include <QToolTip>
 #include <algorithm>
 
+#include "analysis/planet_grid.h"
 #include "platform/toolkit/twips.h"
 #include "ui/grid_heading.h"
 #include "ui/grid_model.h"
@@ -23,11 +26,13 @@ constexpr int kDefaultWidthTwips = 960;
 constexpr int kSidesTwips = 135;
 constexpr int kTopAndBottomTwips = 700;
 constexpr int kRowPadding = 6;
+constexpr int kSparedPadding = 3;
 constexpr double kFontSize = 8;
 
-// A highlighted row would hide its owner's colour, and so would the style's mark of the current
-// cell: that one has a frame instead.
-class CellFrame : public QStyledItemDelegate {
+// The style's room beside a text would cut "18 years old" in a column of the width given to it. A
+// highlighted row would hide its owner's colour, and so would the style's mark of the current cell:
+// that one has a frame instead.
+class CellPainter : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;
 
@@ -35,18 +40,33 @@ class CellFrame : public QStyledItemDelegate {
              const QModelIndex& index) const override {
     QStyleOptionViewItem plain = option;
     plain.state &= ~QStyle::State_HasFocus;
-    QStyledItemDelegate::paint(painter, plain, index);
-    if (!option.state.testFlag(QStyle::State_HasFocus)) return;
+    const bool isText = IsTextColumn(static_cast<std::size_t>(index.column()));
+    if (isText) plain.rect.adjust(-1, 0, kSparedPadding - 1, 0);
     painter->save();
-    painter->setPen(option.palette.color(QPalette::Link));
-    painter->drawRect(option.rect.adjusted(0, 0, -1, -1));
+    painter->setClipRect(option.rect);
+    QStyledItemDelegate::paint(painter, plain, index);
+    if (option.state.testFlag(QStyle::State_HasFocus)) {
+      painter->setPen(option.palette.color(QPalette::Link));
+      painter->drawRect(option.rect.adjusted(0, 0, -1, -1));
+    }
     painter->restore();
+  }
+
+  // Only a text that is cut needs to be told whole.
+  bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
+                 const QModelIndex& index) override {
+    const bool isCut = sizeHint(option, index).width() > option.rect.width() + kSparedPadding;
+    if (isCut || event->type() != QEvent::ToolTip) {
+      return QStyledItemDelegate::helpEvent(event, view, option, index);
+    }
+    QToolTip::hideText();
+    return true;
   }
 };
 
 void SetBehaviour(QTableView& table) {
   table.setSelectionMode(QAbstractItemView::NoSelection);
-  table.setItemDelegate(new CellFrame(&table));
+  table.setItemDelegate(new CellPainter(&table));
   table.setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
   table.setWordWrap(false);
   table.setCornerButtonEnabled(false);
@@ -123,16 +143,6 @@ void Grid::Fill(const GameSession& session) {
   DG->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
   DG->setCurrentIndex(model_->index(0, 0));
   DG->scrollToTop();
-}
-
-void Grid::ShowInFront() {
-  if (isMinimized()) {
-    showNormal();
-  } else {
-    show();
-  }
-  raise();
-  activateWindow();
 }
 
 int Grid::ColumnCount() const { return model_->columnCount(); }

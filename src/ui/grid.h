@@ -21,7 +21,6 @@ class Grid : public QMainWindow {
 
   /// Shows a game as it is now: all planets in map order and all columns in their first widths.
   void Fill(const GameSession& session);
-  void ShowInFront();
 
   int ColumnCount() const;
   QString Heading(int column) const;

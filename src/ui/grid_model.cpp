@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "platform/toolkit/colours.h"
+#include "ui/controls.h"
 #include "ui/texts.h"
 
 namespace quorvane {
@@ -47,6 +48,8 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
   switch (role) {
     case Qt::DisplayRole:
       return ToQString(row.Cells.at(static_cast<std::size_t>(index.column())));
+    case Qt::ToolTipRole:
+      return PlainToolTip(index.data().toString());
     case Qt::TextAlignmentRole:
       return QVariant(AlignmentOf(static_cast<std::size_t>(index.column())));
     case Qt::BackgroundRole:

@@ -3,12 +3,19 @@
 #include <QKeyEvent>
 #include <QPainter>
 
+#include "platform/toolkit/twips.h"
 #include "render/swatch.h"
 #include "ui/controls.h"
 #include "ui/pixel_rect.h"
 #include "ui/texts.h"
 
 namespace quorvane {
+namespace {
+
+// The names of the second column would touch the swatches of the first.
+constexpr int kNameIndent = 4;
+
+}  // namespace
 
 RaceSwatch::RaceSwatch(QWidget* parent) : PictureBox(parent, QSizeF(kSwatchWidth, kSwatchHeight)) {
   setToolTip("Click to Change Colour");
@@ -30,9 +37,15 @@ void RaceSwatch::keyPressEvent(QKeyEvent* event) {
 void RaceSwatch::paintEvent(QPaintEvent* event) {
   PictureBox::paintEvent(event);
   if (!hasFocus()) return;
+  // The swatch of the next row covers the lower edge of this one. Black within white can be seen on
+  // every colour.
+  const QRect frame =
+      rect().adjusted(0, 0, -1, -1 - PixelsFromTwips(kSwatchHeight - kLegendRowHeight));
   QPainter painter(this);
   painter.setPen(Qt::white);
-  painter.drawRect(rect().adjusted(0, 0, -1, -1));
+  painter.drawRect(frame);
+  painter.setPen(Qt::black);
+  painter.drawRect(frame.adjusted(1, 1, -1, -1));
 }
 
 void RaceSwatch::focusInEvent(QFocusEvent* event) {
@@ -49,6 +62,7 @@ Legend::Legend(QWidget& area) : QObject(&area) {
   for (int row = 0; row < kLegendRows; ++row) {
     const auto index = static_cast<std::size_t>(row);
     Race[index] = NewValue(IndexedName("Race", row), &area);
+    Race[index]->setIndent(kNameIndent);
     RaceC[index] = new RaceSwatch(&area);
     RaceC[index]->setObjectName(IndexedName("RaceC", row));
     RaceC[index]->hide();

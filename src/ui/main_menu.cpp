@@ -52,6 +52,7 @@ MainMenu::MainMenu(QMenuBar& bar)
 
   mnuAbout = AddItem(*mnuHelp, "mnuAbout", "&About", "about");
   mnuThanks = AddItem(*mnuHelp, "mnuThanks", "&Thanks to...", nullptr);
+  mnuManual = AddItem(*mnuHelp, "mnuManual", "&Manual", nullptr, Qt::Key_F1);
 }
 
 }  // namespace quorvane

@@ -29,6 +29,7 @@ struct MainMenu {
 
   QAction* mnuAbout = nullptr;
   QAction* mnuThanks = nullptr;
+  QAction* mnuManual = nullptr;
 };
 
 }  // namespace quorvane

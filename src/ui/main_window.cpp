@@ -24,6 +24,7 @@
 #include "ui/find_planet.h"
 #include "ui/grid.h"
 #include "ui/legend.h"
+#include "ui/manual.h"
 #include "ui/map_panel.h"
 #include "ui/message_box_prompts.h"
 #include "ui/overlay_bar.h"
@@ -100,8 +101,8 @@ void Main::BuildArea() {
   Overlays = new OverlayBar(*area_, *Menu.mnuOver);
   Combo1 = new QComboBox(area_);
   Combo1->setObjectName("Combo1");
-  Combo1->setAccessibleName(tr("Race of the estimated habitability"));
   Combo1->setEditable(true);
+  NameBox(*Combo1, tr("Race of the estimated habitability"));
   Combo1->setInsertPolicy(QComboBox::NoInsert);
   Combo1->setEditText(kChooserText);
   Combo1->setEnabled(false);
@@ -167,6 +168,7 @@ void Main::ConnectMenus() {
   connect(Menu.mnuGrid2, &QAction::triggered, this, &Main::mnuGrid2_Click);
   connect(Menu.mnuAbout, &QAction::triggered, this, &Main::mnuAbout_Click);
   connect(Menu.mnuThanks, &QAction::triggered, this, &Main::mnuThanks_Click);
+  connect(Menu.mnuManual, &QAction::triggered, this, &Main::mnuManual_Click);
 }
 
 void Main::resizeEvent(QResizeEvent* event) {

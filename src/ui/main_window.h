@@ -25,6 +25,7 @@ class FindPlanet;
 class Grid;
 class Legend;
 class LongStep;
+class Manual;
 class MapPanel;
 class OverlayBar;
 
@@ -83,6 +84,7 @@ class Main : public QMainWindow {
   void mnuGrid2_Click();
   void mnuAbout_Click();
   void mnuThanks_Click();
+  void mnuManual_Click();
   void mnuSave_Click();
   void mnuSaveRaceC_Click();
   void mnuExit_Click();
@@ -103,6 +105,7 @@ class Main : public QMainWindow {
   std::unique_ptr<OpenFile> openFile_;
   std::unique_ptr<FindPlanet> findPlanet_;
   std::unique_ptr<Grid> grid_;
+  std::unique_ptr<Manual> manual_;
   GameSession session_;
   QScrollArea* scroll_ = nullptr;
   QWidget* area_ = nullptr;

@@ -25,6 +25,7 @@
 #include "ui/legend.h"
 #include "ui/long_step.h"
 #include "ui/main_window.h"
+#include "ui/manual.h"
 #include "ui/map_panel.h"
 #include "ui/overlay_bar.h"
 #include "ui/texts.h"
@@ -42,6 +43,17 @@ std::string LeftOutMessage(const std::vector<std::string>& owners) {
   for (std::size_t i = 0; i < shown; ++i) message += "\n" + Excerpt(owners[i]);
   if (owners.size() > shown) message += "\nand " + std::to_string(owners.size() - shown) + " more";
   return message;
+}
+
+// A window beside the main one, wherever it was left.
+void ShowInFront(QWidget& window) {
+  if (window.isMinimized()) {
+    window.showNormal();
+  } else {
+    window.show();
+  }
+  window.raise();
+  window.activateWindow();
 }
 
 }  // namespace
@@ -131,7 +143,7 @@ void Main::mnuSearchPlanet_Click() {
 void Main::mnuGrid_Click() {
   if (grid_ == nullptr) grid_ = std::make_unique<Grid>();
   grid_->Fill(session_);
-  grid_->ShowInFront();
+  ShowInFront(*grid_);
 }
 
 void Main::mnuGrid2_Click() { EmpireStat(session_, prompts_, this).exec(); }
@@ -139,6 +151,11 @@ void Main::mnuGrid2_Click() { EmpireStat(session_, prompts_, this).exec(); }
 void Main::mnuAbout_Click() { About(this).exec(); }
 
 void Main::mnuThanks_Click() { Thanksto(this).exec(); }
+
+void Main::mnuManual_Click() {
+  if (manual_ == nullptr) manual_ = std::make_unique<Manual>();
+  ShowInFront(*manual_);
+}
 
 void Main::mnuSave_Click() {
   if (!session_.IsLoaded()) return prompts_.Inform(kNothingToSave);

@@ -68,6 +68,7 @@ void OpenFile::AddFileChooser(QBoxLayout& column) {
   QLabel* heading = NewLabel("Label3", "Choose a MAP file:", this);
   Drive1 = Named(new DriveList(this), "Drive1", tr("Drive"));
   Dir1 = Named(new FolderList(this), "Dir1", tr("Folder"));
+  NameBox(*Drive1, tr("Drive"));
   File1 = Named(new ChoiceList(this), "File1", tr("Map files"));
   heading->setBuddy(File1);
   column.addWidget(heading);

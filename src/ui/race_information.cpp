@@ -112,11 +112,11 @@ QWidget* RaceInformation::NewTraitChooser() {
   row->setContentsMargins(0, 0, 0, 0);
   RacePRT = new QComboBox(chooser);
   RacePRT->setObjectName("RacePRT");
-  RacePRT->setAccessibleName(tr("Primary racial trait"));
   for (const char* trait : kPrimaryTraits) RacePRT->addItem(trait);
   // A box that can be edited shows a stored text that is none of its entries, too. Only a trait
   // that was chosen is stored, so nothing can be typed.
   RacePRT->setEditable(true);
+  NameBox(*RacePRT, tr("Primary racial trait"));
   RacePRT->setMinimumContentsLength(kTraitLength);
   RacePRT->setCompleter(nullptr);
   RacePRT->setCurrentIndex(-1);

@@ -3,7 +3,8 @@
 #include <QApplication>
 #include <QFont>
 #include <QPalette>
-#include <QStyleFactory>
+
+#include "ui/menu_style.h"
 
 // Resources in a static library are linked only when somebody asks for them by name.
 static void LoadIcons() { Q_INIT_RESOURCE(icons); }
@@ -28,8 +29,8 @@ QPushButton {
   background: #3a4250; border: 1px solid #505b6f; border-radius: 4px; padding: 4px 12px; }
 QPushButton:hover { background: #455064; }
 QPushButton:pressed { background: #2f3643; }
-QPushButton:default { border-color: #6fa0d8; }
-QPushButton:focus { border-color: #8fb8e8; }
+QPushButton:default { background: #3d6ea5; border-color: #6fa0d8; color: #ffffff; }
+QPushButton:focus { border: 2px solid #ffffff; padding: 3px 11px; }
 QPushButton[attention="true"] { background: #8a5a14; border-color: #d89a3c; color: #ffffff; }
 QPushButton[attention="true"]:hover { background: #9c6819; }
 QPushButton:disabled { background: #2f3541; border-color: #3a4250; color: #7a8495; }
@@ -99,7 +100,7 @@ QPalette DarkPalette() {
 
 void ApplyTheme(QApplication& application) {
   LoadIcons();
-  QApplication::setStyle(QStyleFactory::create("Fusion"));
+  QApplication::setStyle(new MenuStyle("Fusion"));
   QApplication::setPalette(DarkPalette());
   QApplication::setFont(QFont("Arial", 9));
   application.setStyleSheet(kStyleSheet);

@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <string>
+#include <vector>
+
 namespace quorvane {
 namespace {
 
@@ -39,9 +43,20 @@ TEST(Trimmed, DropsBlanksOnly) {
 }
 
 TEST(InLowerCase, KnowsAsciiAndTheAccentedCapitalsOfTheGame) {
-  const std::pair<const char*, const char*> cases[] = {
-      {"Alpha 9Z", "alpha 9z"}, {"ÀÉÖÞ", "àéöþ"}, {"×÷ßÿ€", "×÷ßÿ€"}, {"cut \xC3", "cut \xC3"}};
+  const std::pair<const char*, const char*> cases[] = {{"Alpha 9Z", "alpha 9z"},
+                                                       {"ÀÉÖÞ", "àéöþ"},
+                                                       {"ŠŽŒŸ", "šžœÿ"},
+                                                       {"×÷ßÿ€", "×÷ßÿ€"},
+                                                       {"cut \xC5", "cut \xC5"}};
   for (const auto& [text, lower] : cases) EXPECT_EQ(InLowerCase(text), lower);
+}
+
+TEST(IsBeforeInAlphabet, TellsCaseApartOnlyBetweenEqualNames) {
+  std::vector<std::string> names = {"alpha.map", "Šar.map", "beta.map",
+                                    "Zeta.map",  "šar.map", "Beta.map"};
+  std::ranges::sort(names, IsBeforeInAlphabet);
+  EXPECT_EQ(names, (std::vector<std::string>{"alpha.map", "Beta.map", "beta.map", "Zeta.map",
+                                             "Šar.map", "šar.map"}));
 }
 
 TEST(Excerpt, NeverCutsThroughACharacter) {

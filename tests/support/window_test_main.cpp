@@ -3,6 +3,7 @@
 
 #include <QApplication>
 
+#include "ui/accessible_roles.h"
 #include "ui/theme.h"
 
 int main(int argc, char* argv[]) {
@@ -10,5 +11,6 @@ int main(int argc, char* argv[]) {
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication application(argc, argv);
   quorvane::ApplyTheme(application);
+  quorvane::InstallAccessibleRoles();
   return RUN_ALL_TESTS();
 }

@@ -166,6 +166,18 @@ TEST_F(EmpireStatTest, EveryControlSetsItsField) {
   EXPECT_EQ(Field(37), FieldValue("They came,\nsaw; 'won'\u00A0!"));
 }
 
+TEST_F(EmpireStatTest, EnterPressesTheButtonThatHasTheFocusAndNothingElse) {
+  for (const char* name : {"ImmuneMark(0)", "RacePRT", "LRT(0)", "ReCalcHab"}) {
+    OnTab(1).Find(name).setFocus();
+    driver->Press(name, Qt::Key_Return);
+    EXPECT_TRUE(window->isVisible()) << name;
+  }
+  EXPECT_EQ(driver->Text("ShowData(13)"), "20") << "calculated anew";
+  window->OK->setFocus();
+  driver->Press("OK", Qt::Key_Enter);
+  EXPECT_FALSE(window->isVisible());
+}
+
 TEST_F(EmpireStatTest, TabKeyReachesEveryControlInReadingOrder) {
   OnTab(1);
   QStringList reached;

@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QAbstractItemView>
+#include <QCompleter>
+#include <QLineEdit>
 #include <QTest>
 
 #include "support/game_builder.h"
@@ -42,6 +45,26 @@ TEST_F(FindPlanetTest, TypedNameFindsTheFirstPlanetAndAnEntryItsOwn) {
   dialog.show();
   driver.Type("PlanetList", "Twin (Drask)").Press("PlanetList", Qt::Key_Return);
   EXPECT_EQ(prompts.Shown(), Texts{"Planet Twin (Drask) not found!"});
+}
+
+TEST_F(FindPlanetTest, EnterGoesToTheTypedNameAlthoughCompletionsAreOffered) {
+  QTest::keyClicks(dialog.PlanetList->lineEdit(), "Twin");
+  QWidget& completions = *dialog.PlanetList->completer()->popup();
+  ASSERT_TRUE(completions.isVisible());
+  QTest::keyClick(&completions, Qt::Key_Return);
+  EXPECT_EQ(session.SelectedX, 100);
+  EXPECT_FALSE(dialog.isVisible() || completions.isVisible());
+
+  dialog.show();
+  driver.Type("PlanetList", "");
+  QTest::keyClicks(dialog.PlanetList->lineEdit(), "b");
+  QTest::keyClick(&completions, Qt::Key_Down);
+  QTest::keyClick(&completions, Qt::Key_Return);
+  EXPECT_EQ(driver.Text("PlanetList"), "Beta");
+  EXPECT_TRUE(dialog.isVisible());
+  for (const QWidget* other : {dialog.Command1, dialog.Command2}) {
+    EXPECT_GT(other->geometry().left(), dialog.PlanetList->geometry().right());
+  }
 }
 
 TEST_F(FindPlanetTest, ListsThePlanetsOfTheGameOnScreenAtEachOpening) {

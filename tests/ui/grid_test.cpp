@@ -3,7 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QTest>
+#include <QToolTip>
 #include <tuple>
 
 #include "platform/toolkit/twips.h"
@@ -17,6 +19,7 @@ namespace {
 constexpr int kX = 1;
 constexpr int kName = 3;
 constexpr int kOwner = 4;
+constexpr int kAge = 6;
 constexpr int kPopulation = 7;
 
 class GridTest : public testing::Test {
@@ -105,6 +108,29 @@ TEST_F(GridTest, ClickBelowTheHeadingOrADragOfItsEdgeSortsNothing) {
   QTest::mouseMove(heading.viewport(), edge + QPoint(30, 0));
   QTest::mouseRelease(heading.viewport(), Qt::LeftButton, {}, edge + QPoint(30, 0));
   EXPECT_EQ(Column(kName), "delta,Beta,alpha,Gamma");
+}
+
+TEST_F(GridTest, AgeOfMoreThanTenYearsIsShownWhole) {
+  // The dot stands for what other ways of smoothing letters add to their width.
+  session.Planet(2)[PlanetField::AgeText] = "28 years old.";
+  grid.Fill(session);
+  const QRect cell = grid.DG->visualRect(grid.DG->model()->index(1, kAge));
+  const QImage narrow = grid.DG->viewport()->grab(cell).toImage();
+  grid.DG->setColumnWidth(kAge, 2 * cell.width());
+  EXPECT_EQ(grid.DG->viewport()->grab(cell).toImage(), narrow);
+}
+
+TEST_F(GridTest, TooltipTellsATextThatIsCut) {
+  const auto tipOver = [this](int column) {
+    const QPoint at = grid.DG->visualRect(grid.DG->model()->index(0, column)).center();
+    QHelpEvent rest(QEvent::ToolTip, at, grid.DG->viewport()->mapToGlobal(at));
+    QApplication::sendEvent(grid.DG->viewport(), &rest);
+    return QToolTip::text();
+  };
+  session.Planet(1)[PlanetField::Name] = std::string(60, 'x');
+  grid.Fill(session);
+  EXPECT_EQ(tipOver(kOwner), "");
+  EXPECT_EQ(tipOver(kName), QString(60, 'x'));
 }
 
 TEST_F(GridTest, ChooserHidesAndShowsColumnsAtOnceUntilTheNextFilling) {

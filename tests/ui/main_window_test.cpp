@@ -9,6 +9,8 @@
 #include "ui/details_panel.h"
 #include "ui/grid.h"
 #include "ui/main_window_fixture.h"
+#include "ui/manual.h"
+#include "ui/texts.h"
 
 namespace quorvane {
 namespace {
@@ -398,6 +400,24 @@ TEST_F(MainWindowTest, TakesAGameWhoseNameIsInTheGamesOwnEncoding) {
   EXPECT_TRUE(prompts.Shown().back().ends_with("/Kön Universe Map 2450.bmp"));
   EXPECT_TRUE(FindFile(folder / "K\xF6n.QVC"));
   EXPECT_TRUE(FindFile(folder / "K\xF6n Universe Map 2450.bmp"));
+}
+
+TEST_F(MainWindowTest, ShowsTheManualBesideTheMapAndNamesEveryOverlayInIt) {
+  driver.Press("Universe", Qt::Key_F1);
+  Manual* manual = nullptr;
+  const auto isInFront = [&manual] {
+    manual = qobject_cast<Manual*>(QApplication::activeWindow());
+    return manual != nullptr;
+  };
+  ASSERT_TRUE(QTest::qWaitFor(isInFront));
+  const QString text = manual->Text->toPlainText();
+  for (const OverlayTexts& overlay : kOverlayTable) {
+    // "Show Names (White)" is explained with its sister, and so are the three minerals.
+    QString name = ToQString(overlay.MenuCaption).section(" (", 0, 0);
+    EXPECT_TRUE(text.contains(name.remove(" Concentration"))) << name.toStdString();
+  }
+  QTest::keyClick(manual, Qt::Key_Escape);
+  EXPECT_FALSE(manual->isVisible());
 }
 
 }  // namespace

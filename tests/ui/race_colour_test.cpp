@@ -46,6 +46,16 @@ TEST_F(RaceColourTest, DarkColoursAreRefusedAndClosingStoresNothing) {
   EXPECT_NE(driver.Find("RaceC(0)").grab().toImage(), before) << "discs have outlines now";
 }
 
+TEST_F(RaceColourTest, FrameOfTheFocusIsSeenWholeAboveTheNextSwatch) {
+  const QWidget& swatch = driver.Find("RaceC(0)");
+  const QPoint belowRight(swatch.geometry().right(), driver.Find("RaceC(1)").y() - 1);
+  QApplication::setActiveWindow(&window);  // the hidden dialog has kept the focus here
+  driver.Find("RaceC(0)").setFocus();
+  const QImage shown = swatch.parentWidget()->grab().toImage();
+  EXPECT_EQ(shown.pixel(swatch.pos()), QColor(Qt::white).rgb());
+  EXPECT_EQ(shown.pixel(belowRight), QColor(Qt::white).rgb());
+}
+
 TEST_F(RaceColourTest, SwatchWorksByKeyboardAndDoesNothingForAnUnknownRace) {
   bool isOpen = false;
   InNextDialog([&isOpen](QWidget& dialog) { isOpen = dialog.close(); });

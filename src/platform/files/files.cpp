@@ -159,6 +159,7 @@ std::vector<fs::path> FilesNamedLike(const fs::path& folder, const fs::path& beg
     }
   }
   std::ranges::sort(names);
+  std::ranges::stable_sort(names, IsBeforeInAlphabet, TextFromPath);
   return names;
 }
 

@@ -17,6 +17,13 @@ TEST(FindFile, GivesTheNameThatAFileHasOnTheDisk) {
   EXPECT_EQ(FindFile(""), std::nullopt);
 }
 
+TEST(FilesNamedLike, ListsSmallLettersAmongCapitals) {
+  const TempFolder folder;
+  for (const char* name : {"Zeta.map", "alpha.MAP", "beta.map", "map.txt"}) folder.Write(name, "");
+  EXPECT_EQ(FilesNamedLike(folder.Path(), "", ".map"),
+            (std::vector<std::filesystem::path>{"alpha.MAP", "beta.map", "Zeta.map"}));
+}
+
 TEST(Files, MayHaveNamesInAnyScriptAndKeepEveryByte) {
   const TempFolder folder;
   const std::string content = "a\r\nb\n\n\r\x1A\tc\r";
