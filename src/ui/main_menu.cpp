@@ -52,7 +52,13 @@ MainMenu::MainMenu(QMenuBar& bar)
 
   mnuAbout = AddItem(*mnuHelp, "mnuAbout", "&About", "about");
   mnuThanks = AddItem(*mnuHelp, "mnuThanks", "&Thanks to...", nullptr);
-  mnuManual = AddItem(*mnuHelp, "mnuManual", "&Manual", nullptr, Qt::Key_F1);
+
+  // In none of the menus, whose items players know; the key works in the planet grid, too.
+  mnuManual = new QAction("&Manual", &bar);
+  mnuManual->setObjectName("mnuManual");
+  mnuManual->setShortcut(Qt::Key_F1);
+  mnuManual->setShortcutContext(Qt::ApplicationShortcut);
+  bar.parentWidget()->addAction(mnuManual);
 }
 
 }  // namespace quorvane
