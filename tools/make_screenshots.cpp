@@ -171,8 +171,8 @@ void TakePictures(const ScreenshotJob& job) {
   TakeOverlays(window, job);
 
   OverlaySwitches several;
-  for (const OverlayKind kind : {OverlayKind::InfluenceBorders, OverlayKind::OwnedPlanets,
-                                 OverlayKind::TerritoryEdges}) {
+  for (const OverlayKind kind :
+       {OverlayKind::InfluenceBorders, OverlayKind::OwnedPlanets, OverlayKind::TerritoryEdges}) {
     several.Set(kind, true);
   }
   window.Overlays->Show(several);
