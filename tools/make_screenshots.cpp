@@ -50,6 +50,7 @@ void UseOpenDialog(const ScreenshotJob& job) {
     dialog->findChild<QPushButton*>("Command2")->click();
     return;
   }
+  maps->setCurrentItem(nullptr);  // the first map may be the current one without being chosen
   maps->setCurrentItem(found.first());
   dialog->findChild<QLineEdit*>("txtGameYear")->setText("2450");
   Save(*dialog, job, "open-dialog");
