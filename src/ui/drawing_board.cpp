@@ -113,7 +113,13 @@ bool DrawingBoard::ReadLayer() {
     return false;
   }
   layer_ = std::move(*layer);
-  tools_.ShowSavedLayer(ToQString(DrawingLayerText(layer_)));
+  const QString text = ToQString(DrawingLayerText(layer_));
+  // A document of megabytes takes most of a second to make.
+  if (text == tools_.PlotBox->Text()) {
+    tools_.LayerSaved();
+  } else {
+    tools_.ShowSavedLayer(text);
+  }
   return true;
 }
 

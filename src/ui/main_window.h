@@ -98,6 +98,7 @@ class Main : public QMainWindow {
   void ShowLoadedGame();
   void ResetWindow();
   void DrawMap(OverlaySwitches switches);
+  void ShowWhetherStopped(bool isStopped, const char* sentence);
 
   std::unique_ptr<Prompts> ownPrompts_;
   Prompts& prompts_;

@@ -72,14 +72,12 @@ void Main::LoadChosenGame() {
   Menu.mnuOver->setEnabled(false);
   repaint();
   Result<GameSession> loaded = RunLoad();
+  const bool isStopped = loaded.Message() == kLoadingStopped;
+  ShowWhetherStopped(isStopped, kLoadingStopped);
   if (!loaded) {
     Menu.mnuOver->setEnabled(wasEnabled);
     ProgressBar1->setValue(0);
-    if (loaded.Message() == kLoadingStopped) {
-      theplanet->setText(QString(" ") + kLoadingStopped);
-    } else {
-      prompts_.Inform(loaded.Message());
-    }
+    if (!isStopped) prompts_.Inform(loaded.Message());
     return;
   }
   session_ = std::move(*loaded);

@@ -121,7 +121,17 @@ void Main::DrawMap(OverlaySwitches switches) {
     drawn = Map->Universe->Surface().Picture().size();
     isComplete = Map->Draw(session_, switches, Board->Layer(), step.Display());
   } while (Map->Universe->Surface().Picture().size() != drawn);
-  if (!isComplete) theplanet->setText(" Drawing stopped");
+  ShowWhetherStopped(!isComplete, "Drawing stopped");
+}
+
+// The status line tells of a step that was stopped until such a step is completed.
+void Main::ShowWhetherStopped(bool isStopped, const char* sentence) {
+  const QString shown = QString(" ") + sentence;
+  if (isStopped) {
+    theplanet->setText(shown);
+  } else if (theplanet->text() == shown) {
+    theplanet->clear();
+  }
 }
 
 }  // namespace quorvane
