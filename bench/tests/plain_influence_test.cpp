@@ -49,11 +49,14 @@ TEST(ComputeInfluence, CopesWithPlanetsFarOutsideTheUniverse) {
 TEST(ComputeInfluence, GivesWhatThePlainSumsGive) {
   constexpr unsigned kGames = 150;
   for (unsigned number = 0; number < kGames; ++number) {
-    GameSession fast = MakeAwkwardGame(number);
-    GameSession plain = fast;
-    ComputeInfluence(fast, {});
+    GameSession plain = MakeAwkwardGame(number);
+    GameSession narrow = plain;
+    GameSession widest = plain;
     reference::PlainComputeInfluence(plain);
-    EXPECT_TRUE(SameInfluence(fast, plain)) << "game " << number;
+    ComputeInfluence(narrow, {}, InfluenceVectors::Narrow);
+    ComputeInfluence(widest, {}, InfluenceVectors::Widest);
+    EXPECT_TRUE(SameInfluence(narrow, plain)) << "narrow vectors, game " << number;
+    EXPECT_TRUE(SameInfluence(widest, plain)) << "widest vectors, game " << number;
   }
 }
 

@@ -5,6 +5,12 @@
 
 namespace quorvane {
 
+/// How many points are computed at once. Wider vectors are quicker and give the same.
+enum class InfluenceVectors {
+  Narrow,  // as every processor has them
+  Widest,  // the widest of this processor
+};
+
 /// Decides for every point of the influence grid which player holds it and how strongly.
 /// Every planet with a sphere of influence radiates for its owner: inside `SoiSetting` light years
 /// with `SoiSetting` x radius / distance, over a fringe of 25 more light years fading out. The
@@ -13,6 +19,9 @@ namespace quorvane {
 /// Reads `GridSize`, `GridCellSize`, `SoiSetting`, `PlayerCount` and each planet's `X`, `Y`,
 /// `SoiRadius` and `OwnerIndex`; writes `InfluenceGrid` and `Territory`, the number of points held,
 /// of every player who holds any (record 0: points that were reached but held by nobody).
-void ComputeInfluence(GameSession& session, const ShowProgress& showProgress);
+/// @param showProgress  gets 0, then the last multiple of ten columns that is done, in the end all
+///        columns; in between the same value again where ten columns take long
+void ComputeInfluence(GameSession& session, const ShowProgress& showProgress,
+                      InfluenceVectors vectors = InfluenceVectors::Widest);
 
 }  // namespace quorvane

@@ -1,44 +1,47 @@
 #pragma once
 
-#include <array>
+#include <cstdint>
 #include <span>
 #include <vector>
 
 #include "loading/influence_bounds.h"
-#include "loading/influence_values.h"
-#include "model/game_choice.h"
+#include "loading/influence_loops.h"
 #include "model/influence_grid.h"
 
 namespace quorvane {
 
-/// Where a grid point lies, in light years.
-struct InfluencePlace {
-  int X = 0;
-  int Y = 0;
+/// Who holds the points of a tile.
+struct TileHolders {
+  std::array<InfluencePoint, kTilePoints> Points;  // column by column
+  /// Whether a planet reaches the point; for points that somebody holds it is not looked up.
+  TileNumbers IsReached;
 };
 
-/// Sums the influence of planets at single places.
+/// Sums the influence of planets at the points of single tiles.
 class InfluenceSums {
  public:
-  /// @param playerCount  players behind it reach places, but hold none
-  InfluenceSums(InfluenceDistances distances, int playerCount)
-      : distances_(distances), playerCount_(playerCount) {}
+  /// @param playerCount  players behind it reach points, but hold none
+  InfluenceSums(const InfluenceRule& rule, const InfluenceLoops& loops, int playerCount)
+      : rule_(rule), loops_(loops), playerCount_(playerCount) {}
 
-  /// Who holds each place, and how firmly: the player with the largest sum, the lower number among
+  /// Who holds each point, and how firmly: the player with the largest sum, the lower number among
   /// equals, with that sum, at most 100, as strength; nobody where all sums are 0.
   /// @param planets  in map order, which decides how exact halves are rounded
-  /// @return one point per place, good until the next call
-  std::span<const InfluencePoint> Holders(std::span<const RadiatingPlanet> planets,
-                                          std::span<const InfluencePlace> places);
+  /// @return good until the next call
+  const TileHolders& Holders(std::span<const RadiatingPlanet> planets, const TilePlaces& places,
+                             const Contest& contest);
 
  private:
-  void SumPlanets(std::span<const RadiatingPlanet> planets, std::span<const InfluencePlace> places);
-  void ComparePlayer(int player);
+  void SumPlanets(std::span<const RadiatingPlanet> planets, const TilePlaces& places);
+  void CompareSums(const Contest& contest);
 
-  InfluenceDistances distances_;
+  const InfluenceRule& rule_;
+  const InfluenceLoops& loops_;
   int playerCount_;
-  std::array<std::vector<int>, kMaxPlayers + 1> sums_;  // empty for players without planets
-  std::vector<InfluencePoint> points_;
+  std::vector<int> atLeast_;  // the bounds of each planet's share
+  std::vector<int> atMost_;
+  TileSums sums_;
+  TileHolders holders_;
 };
 
 }  // namespace quorvane

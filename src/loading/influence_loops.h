@@ -1,0 +1,95 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <span>
+
+#include "loading/influence_values.h"
+#include "model/game_choice.h"
+
+namespace quorvane {
+
+inline constexpr int kTileColumns = 10;  // the steps in which progress is shown
+inline constexpr int kTileRows = 8;
+inline constexpr std::size_t kTilePoints = kTileColumns * kTileRows;
+/// Tiles are bounded in blocks of this many: a strip has room for whole blocks.
+inline constexpr int kTileBlock = 4;
+
+/// A range in one direction, both ends included.
+struct LightYears {
+  float First = 0;
+  float Last = 0;
+
+  float Nearest(float position) const {
+    return std::max({First - position, 0.0F, position - Last});
+  }
+  float Farthest(float position) const { return std::max(position - First, Last - position); }
+};
+
+/// Where the points of a tile lie, column by column.
+struct TilePlaces {
+  alignas(64) std::array<float, kTilePoints> X = {};
+  alignas(64) std::array<float, kTilePoints> Y = {};
+  LightYears Columns;
+  LightYears Rows;
+};
+
+/// A number for each point of a tile.
+struct TileNumbers {
+  alignas(64) std::array<int, kTilePoints> At = {};
+};
+
+/// A sum at each point of a tile for each player.
+using TileSums = std::array<TileNumbers, kMaxPlayers + 1>;
+
+/// A planet that may reach a strip of tiles.
+struct NearPlanet {
+  RadiatingPlanet Planet;
+  int FirstTile = 0;  // of those that it may reach
+  int LastTile = 0;
+  float NearestX = 0;  // how far the strip's columns are
+  float FarthestX = 0;
+};
+
+/// The tiles of a strip: where each begins and ends, and of each player, one row of tiles after the
+/// other, what the sum is at least and at most at the points of the tile.
+struct StripBounds {
+  std::size_t TileCount = 0;
+  const float* First = nullptr;
+  const float* Last = nullptr;
+  int* AtLeast = nullptr;
+  int* AtMost = nullptr;
+};
+
+/// What a planet's share is at least and at most at the points of a tile.
+struct ShareBounds {
+  int AtLeast = 0;
+  int AtMost = 0;
+};
+
+/// The loops that take nearly all of the time that influence takes. They are kept in more than one
+/// version, for wider and narrower vectors; the results are the same.
+struct InfluenceLoops {
+  /// Adds what the planets of a strip give at least and at most to the sums of its tiles.
+  void (*BoundStrip)(const InfluenceRule& rule, std::span<const NearPlanet> planets,
+                     const StripBounds& bounds);
+  /// Bounds the share of each planet in a tile.
+  void (*BoundShares)(const InfluenceRule& rule, std::span<const RadiatingPlanet> planets,
+                      const TilePlaces& places, int* atLeast, int* atMost);
+  /// Adds the planets' shares, in map order, to the sums at a tile's points.
+  /// @param atLeast, atMost  the bounds of each planet's share
+  void (*SumShares)(const InfluenceRule& rule, std::span<const RadiatingPlanet> planets,
+                    const TilePlaces& places, const int* atLeast, const int* atMost,
+                    TileSums& sums);
+  /// Sets -1 at each point that one of the planets reaches.
+  void (*MarkReached)(const InfluenceRule& rule, std::span<const RadiatingPlanet> planets,
+                      const TilePlaces& places, TileNumbers& isReached);
+};
+
+/// The loops for vectors that every processor has.
+const InfluenceLoops& NarrowInfluenceLoops();
+/// The loops for the widest vectors that this processor has.
+const InfluenceLoops& WidestInfluenceLoops();
+
+}  // namespace quorvane
