@@ -82,7 +82,7 @@ class InfluenceRun {
         planets_(ListPlanets(session)),
         lines_(GridLines(session)),
         strip_(rule_, loops, TileRows(lines_), session.PlayerCount),
-        sums_(rule_, loops, session.PlayerCount) {}
+        sums_(rule_, loops) {}
 
   /// @param showSign  called every few milliseconds
   template <typename ShowSign>
@@ -94,9 +94,14 @@ class InfluenceRun {
   LightYears Extent(GridRange range) const {
     return {LineAt(range.First), LineAt(range.First + range.Count - 1)};
   }
+  // The points of a column follow each other.
+  InfluencePoint* FirstPoint(const Tile& tile, int column) {
+    return &session_.InfluenceGrid.At(tile.Columns.First + column, tile.Rows.First);
+  }
   void FillTile(const Tile& tile, InfluencePoint point);
   void SumTile(const Tile& tile, std::span<const RadiatingPlanet> planets, const Contest& contest);
-  void PlacePoints(const Tile& tile);
+  void PlaceColumns(GridRange columns);
+  void PlaceRows(GridRange rows);
   void StoreTile(const Tile& tile, const TileHolders& holders);
 
   GameSession& session_;
@@ -106,13 +111,15 @@ class InfluenceRun {
   InfluenceStrip strip_;
   InfluenceSums sums_;
   TilePlaces places_;
-  std::array<int, kMaxPlayers + 1> pointsHeld_ = {};
+  // By the row in its tile: adding one to the same count again and again would be slower.
+  std::array<std::array<int, kMaxPlayers + 1>, kTileRows> pointsHeld_ = {};
   std::size_t planetsSinceSign_ = 0;
 };
 
 template <typename ShowSign>
 void InfluenceRun::ComputeColumns(GridRange columns, const ShowSign& showSign) {
   strip_.GoTo(Extent(columns), planets_);
+  PlaceColumns(columns);
   const int allRows = session_.GridSize + 1;
   for (int row = 0; row < allRows; row += kTileRows) {
     const Tile tile = {columns, {row, std::min(kTileRows, allRows - row)}};
@@ -133,49 +140,57 @@ void InfluenceRun::ComputeColumns(GridRange columns, const ShowSign& showSign) {
 
 void InfluenceRun::FillTile(const Tile& tile, InfluencePoint point) {
   for (int column = 0; column < tile.Columns.Count; ++column) {
-    InfluencePoint* const points =
-        &session_.InfluenceGrid.At(tile.Columns.First + column, tile.Rows.First);
-    std::fill_n(points, tile.Rows.Count, point);
+    std::fill_n(FirstPoint(tile, column), tile.Rows.Count, point);
   }
-  pointsHeld_[static_cast<std::size_t>(point.Holder)] += tile.Columns.Count * tile.Rows.Count;
+  pointsHeld_[0][static_cast<std::size_t>(point.Holder)] += tile.Columns.Count * tile.Rows.Count;
 }
 
 void InfluenceRun::SumTile(const Tile& tile, std::span<const RadiatingPlanet> planets,
                            const Contest& contest) {
-  PlacePoints(tile);
+  PlaceRows(tile.Rows);
   StoreTile(tile, sums_.Holders(planets, places_, contest));
 }
 
-// A tile at the grid's end repeats its last points.
-void InfluenceRun::PlacePoints(const Tile& tile) {
-  std::size_t index = 0;
+// A tile at the grid's end repeats its last column and row.
+void InfluenceRun::PlaceColumns(GridRange columns) {
+  places_.Columns = Extent(columns);
   for (int column = 0; column < kTileColumns; ++column) {
-    for (int row = 0; row < kTileRows; ++row, ++index) {
-      places_.X[index] = LineAt(tile.Columns.First + std::min(column, tile.Columns.Count - 1));
-      places_.Y[index] = LineAt(tile.Rows.First + std::min(row, tile.Rows.Count - 1));
-    }
+    const float x = LineAt(columns.First + std::min(column, columns.Count - 1));
+    std::fill_n(places_.X.data() + column * kTileRows, kTileRows, x);
   }
-  places_.Columns = Extent(tile.Columns);
-  places_.Rows = Extent(tile.Rows);
 }
 
+void InfluenceRun::PlaceRows(GridRange rows) {
+  places_.Rows = Extent(rows);
+  std::array<float, kTileRows> y = {};
+  for (int row = 0; row < kTileRows; ++row) {
+    y[static_cast<std::size_t>(row)] = LineAt(rows.First + std::min(row, rows.Count - 1));
+  }
+  for (int column = 0; column < kTileColumns; ++column) {
+    std::ranges::copy(y, places_.Y.data() + column * kTileRows);
+  }
+}
+
+// A point that nobody reaches counts for nobody, not even as reached but held by nobody.
 void InfluenceRun::StoreTile(const Tile& tile, const TileHolders& holders) {
   for (int column = 0; column < tile.Columns.Count; ++column) {
-    for (int row = 0; row < tile.Rows.Count; ++row) {
-      const auto index = static_cast<std::size_t>(column * kTileRows + row);
-      const InfluencePoint point = holders.Points[index];
-      // A point that nobody reaches counts for nobody, not even as reached but held by nobody.
-      if (point.Holder == 0 && holders.IsReached.At[index] == 0) continue;
-      session_.InfluenceGrid.At(tile.Columns.First + column, tile.Rows.First + row) = point;
-      ++pointsHeld_[static_cast<std::size_t>(point.Holder)];
+    const auto first = static_cast<std::size_t>(column * kTileRows);
+    InfluencePoint* const points = FirstPoint(tile, column);
+    for (std::size_t row = 0; row < static_cast<std::size_t>(tile.Rows.Count); ++row) {
+      const InfluencePoint point = holders.Points[first + row];
+      points[row] = point;
+      const bool counts = point.Holder != 0 || holders.IsReached.At[first + row] != 0;
+      pointsHeld_[row][static_cast<std::size_t>(point.Holder)] += counts ? 1 : 0;
     }
   }
 }
 
 void InfluenceRun::StoreTerritories() {
-  for (std::size_t player = 0; player < pointsHeld_.size(); ++player) {
+  for (std::size_t player = 0; player <= kMaxPlayers; ++player) {
+    int points = 0;
+    for (const auto& counts : pointsHeld_) points += counts[player];
     FieldValue& territory = session_.PlayerTable[player][PlayerField::Territory];
-    territory = pointsHeld_[player] > 0 ? FieldValue(pointsHeld_[player]) : FieldValue();
+    territory = points > 0 ? FieldValue(points) : FieldValue();
   }
 }
 

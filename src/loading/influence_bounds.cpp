@@ -56,16 +56,23 @@ int InfluenceStrip::TileAt(float y) const {
 }
 
 void InfluenceStrip::FindNearPlanets(LightYears columns, std::span<const RadiatingPlanet> planets) {
-  nearPlanets_.clear();
-  for (const RadiatingPlanet& planet : planets) {
+  // Written in any case, here and below: to be without a branch is quicker.
+  nearNumbers_.resize(planets.size());
+  std::size_t count = 0;
+  for (std::size_t i = 0; i < planets.size(); ++i) {
+    nearNumbers_[count] = i;
+    count += columns.Nearest(planets[i].X) <= rule_.Reach ? 1 : 0;
+  }
+  nearPlanets_.resize(count);
+  for (std::size_t i = 0; i < count; ++i) {
+    const RadiatingPlanet& planet = planets[nearNumbers_[i]];
     const float nearestX = columns.Nearest(planet.X);
-    if (nearestX > rule_.Reach) continue;
     const float reachY = std::sqrt(rule_.ReachSquared - nearestX * nearestX) + kTileTolerance;
-    nearPlanets_.push_back({.Planet = planet,
-                            .FirstTile = TileAt(planet.Y - reachY),
-                            .LastTile = TileAt(planet.Y + reachY),
-                            .NearestX = nearestX,
-                            .FarthestX = columns.Farthest(planet.X)});
+    nearPlanets_[i] = {.Planet = planet,
+                       .FirstTile = TileAt(planet.Y - reachY),
+                       .LastTile = TileAt(planet.Y + reachY),
+                       .NearestX = nearestX,
+                       .FarthestX = columns.Farthest(planet.X)};
   }
 }
 
@@ -76,11 +83,10 @@ Contest InfluenceStrip::ContestFor(int tile) const {
 }
 
 std::span<const RadiatingPlanet> InfluenceStrip::PlanetsFor(int tile, const Contest& contest) {
-  const std::uint32_t owners = contest.Leader == 0 ? ~0U : contest.Contenders;
+  const std::uint32_t owners = contest.OwnersThatMatter();
   planetsForTile_.resize(nearPlanets_.size());
   std::size_t count = 0;
   for (const NearPlanet& planet : nearPlanets_) {
-    // Written in any case: to be without a branch is quicker.
     planetsForTile_[count] = planet.Planet;
     const bool isNear = (planet.FirstTile <= tile) & (tile <= planet.LastTile);
     count += isNear & (owners >> planet.Planet.Owner & 1U);
@@ -88,20 +94,26 @@ std::span<const RadiatingPlanet> InfluenceStrip::PlanetsFor(int tile, const Cont
   return {planetsForTile_.data(), count};
 }
 
-// The bound of a player's sum in a tile. Sums are cut before they are compared, so bounds are too.
-int InfluenceStrip::BoundIn(const std::vector<int>& sums, int player, std::size_t tile) const {
-  return std::min(sums[static_cast<std::size_t>(player) * tileCount_ + tile], kLargestInfluence);
+// A player's bounds in all tiles. Sums are cut before they are compared, so bounds are cut, too.
+const int* InfluenceStrip::CutRow(std::vector<int>& sums, int player) const {
+  int* const row = sums.data() + static_cast<std::size_t>(player) * tileCount_;
+  for (std::size_t tile = 0; tile < tileCount_; ++tile) {
+    row[tile] = row[tile] < kLargestInfluence ? row[tile] : kLargestInfluence;
+  }
+  return row;
 }
 
 void InfluenceStrip::FindLeaders() {
   std::ranges::fill(leaders_, 0);
   std::ranges::fill(leastWinningSums_, 0);
+  int* const leaders = leaders_.data();
+  int* const largest = leastWinningSums_.data();
   for (int player = 1; player <= playerCount_; ++player) {
+    const int* const atLeast = CutRow(atLeast_, player);
     for (std::size_t tile = 0; tile < tileCount_; ++tile) {
-      const int atLeast = BoundIn(atLeast_, player, tile);
-      const bool isLarger = atLeast > leastWinningSums_[tile];
-      leaders_[tile] = isLarger ? player : leaders_[tile];
-      leastWinningSums_[tile] = isLarger ? atLeast : leastWinningSums_[tile];
+      const bool isLarger = atLeast[tile] > largest[tile];
+      leaders[tile] = isLarger ? player : leaders[tile];
+      largest[tile] = isLarger ? atLeast[tile] : largest[tile];
     }
   }
 }
@@ -110,12 +122,16 @@ void InfluenceStrip::FindLeaders() {
 // sum, a player behind has to exceed it.
 void InfluenceStrip::FindContenders() {
   std::ranges::fill(contenders_, 0);
+  int* const contenders = contenders_.data();
+  const int* const leaders = leaders_.data();
+  const int* const leastWinningSums = leastWinningSums_.data();
   for (int player = 1; player <= playerCount_; ++player) {
+    const int* const atMost = CutRow(atMost_, player);
     for (std::size_t tile = 0; tile < tileCount_; ++tile) {
-      const int leader = leaders_[tile];
-      const int needed = leastWinningSums_[tile] + (player > leader ? 1 : 0);
-      const bool mayWin = player == leader || BoundIn(atMost_, player, tile) >= needed;
-      contenders_[tile] |= mayWin ? 1 << player : 0;
+      const int needed = leastWinningSums[tile] + (player > leaders[tile] ? 1 : 0);
+      const int isLeader = player == leaders[tile] ? 1 : 0;
+      const int mayWin = atMost[tile] >= needed ? 1 : 0;
+      contenders[tile] |= (isLeader | mayWin) << player;
     }
   }
 }

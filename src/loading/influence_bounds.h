@@ -13,14 +13,16 @@ namespace quorvane {
 /// Who may hold the points of a tile.
 struct Contest {
   /// The player who is certain to reach the largest sum, the lower number among equals; 0: nobody
-  /// is certain of any, and every planet that reaches the tile matters.
+  /// is certain of any.
   int Leader = 0;
   /// The sum that the leader is certain to reach; no winning sum is smaller.
   int LeastWinningSum = 0;
   /// A bit for each player whose sum may be the winning one at some point.
   std::uint32_t Contenders = 0;
 
-  bool MayHold(int player) const { return Leader == 0 || (Contenders >> player & 1U) != 0; }
+  /// A bit for each player whose planets matter: where nobody leads, some points may be reached
+  /// without a winner, and that counts, too.
+  std::uint32_t OwnersThatMatter() const { return Leader == 0 ? ~0U : Contenders; }
   /// Whether the leader holds every point with full strength.
   bool IsSettled() const { return LeastWinningSum >= kFullStrength && Contenders == 1U << Leader; }
 };
@@ -48,13 +50,14 @@ class InfluenceStrip {
   int TileAt(float y) const;
   void FindLeaders();
   void FindContenders();
-  int BoundIn(const std::vector<int>& sums, int player, std::size_t tile) const;
+  const int* CutRow(std::vector<int>& sums, int player) const;
 
   const InfluenceRule& rule_;
   const InfluenceLoops& loops_;
   int playerCount_;
   int lastTile_;
   float tilesPerLightYear_;
+  std::vector<std::size_t> nearNumbers_;
   std::vector<NearPlanet> nearPlanets_;
   std::vector<RadiatingPlanet> planetsForTile_;
   // For each tile; room for whole blocks.

@@ -167,6 +167,22 @@ void AddLiterally(const InfluenceRule& rule, const TilePlaces& places,
   }
 }
 
+[[gnu::always_inline]] inline void FindLargest(const TileSums& sums, std::uint32_t players,
+                                               TileNumbers& largest, TileNumbers& holders) {
+  largest = {};
+  holders = {};
+  for (int player = 1; player <= kMaxPlayers; ++player) {
+    if ((players >> player & 1U) == 0) continue;
+    const std::array<int, kTilePoints>& own = sums[static_cast<std::size_t>(player)].At;
+    for (std::size_t i = 0; i < kTilePoints; ++i) {
+      const int sum = own[i] < kLargestInfluence ? own[i] : kLargestInfluence;
+      const bool isLarger = sum > largest.At[i];
+      holders.At[i] = isLarger ? player : holders.At[i];
+      largest.At[i] = isLarger ? sum : largest.At[i];
+    }
+  }
+}
+
 [[gnu::always_inline]] inline void MarkReached(const InfluenceRule& rule,
                                                std::span<const RadiatingPlanet> planets,
                                                const TilePlaces& places, TileNumbers& isReached) {
@@ -188,11 +204,13 @@ struct Wide<Loop> {
 };
 
 constexpr InfluenceLoops kWideLoops = {Wide<&BoundStrip>::Run, Wide<&BoundShares>::Run,
-                                       Wide<&SumShares>::Run, Wide<&MarkReached>::Run};
+                                       Wide<&SumShares>::Run, Wide<&FindLargest>::Run,
+                                       Wide<&MarkReached>::Run};
 
 #endif
 
-constexpr InfluenceLoops kNarrowLoops = {&BoundStrip, &BoundShares, &SumShares, &MarkReached};
+constexpr InfluenceLoops kNarrowLoops = {&BoundStrip, &BoundShares, &SumShares, &FindLargest,
+                                         &MarkReached};
 
 }  // namespace
 

@@ -62,12 +62,6 @@ struct StripBounds {
   int* AtMost = nullptr;
 };
 
-/// What a planet's share is at least and at most at the points of a tile.
-struct ShareBounds {
-  int AtLeast = 0;
-  int AtMost = 0;
-};
-
 /// The loops that take nearly all of the time that influence takes. They are kept in more than one
 /// version, for wider and narrower vectors; the results are the same.
 struct InfluenceLoops {
@@ -82,6 +76,11 @@ struct InfluenceLoops {
   void (*SumShares)(const InfluenceRule& rule, std::span<const RadiatingPlanet> planets,
                     const TilePlaces& places, const int* atLeast, const int* atMost,
                     TileSums& sums);
+  /// Finds at each point the largest sum, cut to 16 bits, and its player; the lower number among
+  /// equals, 0 where all sums are 0.
+  /// @param players  a bit for each player who may hold points
+  void (*FindLargest)(const TileSums& sums, std::uint32_t players, TileNumbers& largest,
+                      TileNumbers& holders);
   /// Sets -1 at each point that one of the planets reaches.
   void (*MarkReached)(const InfluenceRule& rule, std::span<const RadiatingPlanet> planets,
                       const TilePlaces& places, TileNumbers& isReached);

@@ -12,21 +12,12 @@ void InfluenceSums::SumPlanets(std::span<const RadiatingPlanet> planets, const T
   loops_.SumShares(rule_, planets, places, atLeast_.data(), atMost_.data(), sums_);
 }
 
-void InfluenceSums::CompareSums(const Contest& contest) {
-  TileNumbers holders;
+void InfluenceSums::CompareSums(std::uint32_t players) {
   TileNumbers largest;
-  for (int player = 1; player <= playerCount_; ++player) {
-    if (!contest.MayHold(player)) continue;
-    const TileNumbers& sums = sums_[static_cast<std::size_t>(player)];
-    for (std::size_t i = 0; i < kTilePoints; ++i) {
-      const int sum = std::min(sums.At[i], kLargestInfluence);
-      const bool isLarger = sum > largest.At[i];
-      holders.At[i] = isLarger ? player : holders.At[i];
-      largest.At[i] = isLarger ? sum : largest.At[i];
-    }
-  }
+  TileNumbers holders;
+  loops_.FindLargest(sums_, players, largest, holders);
   for (std::size_t i = 0; i < kTilePoints; ++i) {
-    const int strength = std::min<int>(largest.At[i], kFullStrength);
+    const int strength = largest.At[i] < kFullStrength ? largest.At[i] : kFullStrength;
     holders_.Points[i] = {static_cast<std::int16_t>(holders.At[i]),
                           static_cast<std::int16_t>(strength)};
   }
@@ -34,14 +25,16 @@ void InfluenceSums::CompareSums(const Contest& contest) {
 
 const TileHolders& InfluenceSums::Holders(std::span<const RadiatingPlanet> planets,
                                           const TilePlaces& places, const Contest& contest) {
-  for (int player = 1; player <= kMaxPlayers; ++player) {
-    if (contest.MayHold(player)) sums_[static_cast<std::size_t>(player)] = {};
+  for (std::size_t player = 1; player <= kMaxPlayers; ++player) {
+    if ((contest.OwnersThatMatter() >> player & 1U) != 0) sums_[player] = {};
   }
   SumPlanets(planets, places);
-  CompareSums(contest);
-  holders_.IsReached = {};
+  CompareSums(contest.Contenders);
   // Somebody holds every point of a tile that has a leader.
-  if (contest.Leader == 0) loops_.MarkReached(rule_, planets, places, holders_.IsReached);
+  if (contest.Leader == 0) {
+    holders_.IsReached = {};
+    loops_.MarkReached(rule_, planets, places, holders_.IsReached);
+  }
   return holders_;
 }
 

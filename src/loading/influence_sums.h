@@ -20,9 +20,8 @@ struct TileHolders {
 /// Sums the influence of planets at the points of single tiles.
 class InfluenceSums {
  public:
-  /// @param playerCount  players behind it reach points, but hold none
-  InfluenceSums(const InfluenceRule& rule, const InfluenceLoops& loops, int playerCount)
-      : rule_(rule), loops_(loops), playerCount_(playerCount) {}
+  InfluenceSums(const InfluenceRule& rule, const InfluenceLoops& loops)
+      : rule_(rule), loops_(loops) {}
 
   /// Who holds each point, and how firmly: the player with the largest sum, the lower number among
   /// equals, with that sum, at most 100, as strength; nobody where all sums are 0.
@@ -33,11 +32,11 @@ class InfluenceSums {
 
  private:
   void SumPlanets(std::span<const RadiatingPlanet> planets, const TilePlaces& places);
-  void CompareSums(const Contest& contest);
+  /// @param players  a bit for each player who may hold points
+  void CompareSums(std::uint32_t players);
 
   const InfluenceRule& rule_;
   const InfluenceLoops& loops_;
-  int playerCount_;
   std::vector<int> atLeast_;  // the bounds of each planet's share
   std::vector<int> atMost_;
   TileSums sums_;
