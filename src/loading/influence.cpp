@@ -205,8 +205,7 @@ void ComputeInfluence(GameSession& session, const ShowProgress& showProgress,
   };
   session.CreateInfluenceGrid(session.GridSize);
   show();
-  InfluenceRun run(session, vectors == InfluenceVectors::Widest ? WidestInfluenceLoops()
-                                                                : NarrowInfluenceLoops());
+  InfluenceRun run(session, LoopsFor(vectors));
   for (int column = 0; column < allColumns; column += kTileColumns) {
     run.ComputeColumns({column, std::min(kTileColumns, allColumns - column)}, show);
     shown = column;

@@ -1,15 +1,10 @@
 #pragma once
 
+#include "loading/influence_loops.h"
 #include "model/game_session.h"
 #include "model/progress.h"
 
 namespace quorvane {
-
-/// How many points are computed at once. Wider vectors are quicker and give the same.
-enum class InfluenceVectors {
-  Narrow,  // as every processor has them
-  Widest,  // the widest of this processor
-};
 
 /// Decides for every point of the influence grid which player holds it and how strongly.
 /// Every planet with a sphere of influence radiates for its owner: inside `SoiSetting` light years
@@ -21,7 +16,8 @@ enum class InfluenceVectors {
 /// of every player who holds any (record 0: points that were reached but held by nobody).
 /// @param showProgress  gets 0, then the last multiple of ten columns that is done, in the end all
 ///        columns; in between the same value again where ten columns take long
+/// @param vectors  the widest to use where the processor has them; the result is the same
 void ComputeInfluence(GameSession& session, const ShowProgress& showProgress,
-                      InfluenceVectors vectors = InfluenceVectors::Widest);
+                      InfluenceVectors vectors = InfluenceVectors::Bits512);
 
 }  // namespace quorvane

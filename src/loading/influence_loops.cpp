@@ -1,7 +1,7 @@
 #include "loading/influence_loops.h"
 
 // Wider vectors are for Linux alone: what MinGW builds for Windows keeps the stack aligned to 16
-// bytes, and instructions that rely on 32 stop the program.
+// bytes, and instructions that rely on more stop the program.
 #if defined(__x86_64__) && defined(__linux__)
 #define QUORVANE_HAS_WIDE_VECTORS
 #endif
@@ -58,25 +58,42 @@ namespace {
   }
 }
 
-[[gnu::always_inline]] inline void BoundShares(const InfluenceRule& rule,
-                                               std::span<const RadiatingPlanet> planets,
-                                               const TilePlaces& places, int* __restrict atLeast,
-                                               int* __restrict atMost) {
-  const InfluenceRule ownRule = rule;
-  const LightYears columns = places.Columns;
-  const LightYears rows = places.Rows;
-  const RadiatingPlanet* const first = planets.data();
-  const std::size_t count = planets.size();
+[[gnu::always_inline]] inline void BoundEach(InfluenceRule rule, LightYears columns,
+                                             LightYears rows, std::size_t count,
+                                             const RadiatingPlanet* __restrict planets,
+                                             int* __restrict atLeast, int* __restrict atMost) {
   for (std::size_t i = 0; i < count; ++i) {
-    const RadiatingPlanet planet = first[i];
-    const ShareTerms terms = TermsOf(ownRule, planet);
+    const RadiatingPlanet planet = planets[i];
+    const ShareTerms terms = TermsOf(rule, planet);
     const float nearest = Squared(Nearest(columns.First, columns.Last, planet.X),
                                   Nearest(rows.First, rows.Last, planet.Y));
     const float farthest = Squared(Farthest(columns.First, columns.Last, planet.X),
                                    Farthest(rows.First, rows.Last, planet.Y));
-    atMost[i] = ShareAt(ownRule, terms, nearest);
-    atLeast[i] = ShareAt(ownRule, RoundedDown(terms), farthest);
+    atLeast[i] = ShareAt(rule, RoundedDown(terms), farthest);
+    atMost[i] = ShareAt(rule, terms, nearest);
   }
+}
+
+[[gnu::always_inline]] inline void FindSteps(InfluenceRule rule, std::size_t count,
+                                             const RadiatingPlanet* __restrict planets,
+                                             const int* __restrict atLeast,
+                                             float* __restrict firstStep,
+                                             float* __restrict secondStep) {
+  for (std::size_t i = 0; i < count; ++i) {
+    const ShareTerms terms = TermsOf(rule, planets[i]);
+    firstStep[i] = FarthestSquared(rule, terms, atLeast[i] + 1);
+    secondStep[i] = FarthestSquared(rule, terms, atLeast[i] + 2);
+  }
+}
+
+[[gnu::always_inline]] inline void BoundShares(const InfluenceRule& rule,
+                                               std::span<const RadiatingPlanet> planets,
+                                               const TilePlaces& places,
+                                               const ShareBounds& bounds) {
+  BoundEach(rule, places.Columns, places.Rows, planets.size(), planets.data(), bounds.AtLeast,
+            bounds.AtMost);
+  FindSteps(rule, planets.size(), planets.data(), bounds.AtLeast, bounds.FirstStep,
+            bounds.SecondStep);
 }
 
 // Calls `add` with each point's sum and its squared distance from the planet.
@@ -123,47 +140,38 @@ void AddLiterally(const InfluenceRule& rule, const TilePlaces& places,
   }
 }
 
-[[gnu::always_inline]] inline void AddConstant(int constant, int* sums) {
-  for (std::size_t i = 0; i < kTilePoints; ++i) sums[i] += constant;
-}
-
-// Adds a planet by the quickest way that gives its shares in this tile.
-// @param constant  shares of the same owner that wait to be added
-[[gnu::always_inline]] inline void AddPlanet(const InfluenceRule& rule, const TilePlaces& places,
-                                             const RadiatingPlanet& planet, int& constant,
-                                             int* sums) {
+[[gnu::always_inline]] inline bool IsInSphere(const InfluenceRule& rule, const TilePlaces& places,
+                                              const RadiatingPlanet& planet) {
   const float farthest = Squared(Farthest(places.Columns.First, places.Columns.Last, planet.X),
                                  Farthest(places.Rows.First, places.Rows.Last, planet.Y));
-  if (planet.Kind != ShareKind::Unusual && DistanceOf(farthest) <= rule.Sphere) {
-    return AddInSphere(rule, places, planet, sums);
-  }
-  if (planet.Kind == ShareKind::Simple) return AddSimple(rule, places, planet, sums);
-  // Here the order counts: what stands before has to be in the sum.
-  AddConstant(constant, sums);
-  constant = 0;
-  if (planet.Kind == ShareKind::Halves) return AddHalves(rule, places, planet, sums);
-  AddLiterally(rule, places, planet, sums);
+  return DistanceOf(farthest) <= rule.Sphere;
 }
 
-// Most shares of small or distant planets are the same all over a tile; they are added as one
-// number in the end.
+// Adds each planet by the quickest way that gives its shares in this tile.
 [[gnu::always_inline]] inline void SumShares(const InfluenceRule& rule,
                                              std::span<const RadiatingPlanet> planets,
-                                             const TilePlaces& places, const int* atLeast,
-                                             const int* atMost, TileSums& sums) {
-  int constants[kMaxPlayers + 1] = {};
-  for (std::size_t i = 0; i < planets.size(); ++i) {
-    const RadiatingPlanet& planet = planets[i];
-    int& constant = constants[planet.Owner];
-    if (atLeast[i] == atMost[i] && planet.Kind != ShareKind::Unusual) {
-      constant += atLeast[i];
+                                             const TilePlaces& places, TileSums& allSums) {
+  for (const RadiatingPlanet& planet : planets) {
+    int* const sums = allSums[static_cast<std::size_t>(planet.Owner)].At.data();
+    if (planet.Kind != ShareKind::Unusual && IsInSphere(rule, places, planet)) {
+      AddInSphere(rule, places, planet, sums);
+    } else if (planet.Kind == ShareKind::Simple) {
+      AddSimple(rule, places, planet, sums);
+    } else if (planet.Kind == ShareKind::Halves) {
+      AddHalves(rule, places, planet, sums);
     } else {
-      AddPlanet(rule, places, planet, constant,
-                sums[static_cast<std::size_t>(planet.Owner)].At.data());
+      AddLiterally(rule, places, planet, sums);
     }
   }
-  for (std::size_t player = 1; player <= kMaxPlayers; ++player) {
-    if (constants[player] != 0) AddConstant(constants[player], sums[player].At.data());
+}
+
+[[gnu::always_inline]] inline void SumSteps(std::span<const ShareStep> steps,
+                                            const TilePlaces& places, TileSums& allSums) {
+  for (const ShareStep& step : steps) {
+    const float farthest = step.FarthestSquared;
+    AddAtPoints(places, {.X = step.X, .Y = step.Y},
+                allSums[static_cast<std::size_t>(step.Owner)].At.data(),
+                [=](int sum, float squared) { return sum + (squared <= farthest ? 1 : 0); });
   }
 }
 
@@ -193,34 +201,59 @@ void AddLiterally(const InfluenceRule& rule, const TilePlaces& places,
   }
 }
 
+// Each loop is compiled once for every width of vectors. The attribute goes to a function around
+// it, so that nothing else of the program is built for processors that the user may not have.
+template <auto Loop>
+struct Bits128;
+template <typename... Arguments, void (*Loop)(Arguments...)>
+struct Bits128<Loop> {
+  static void Run(Arguments... arguments) { Loop(arguments...); }
+};
+
+template <template <auto> class Width>
+constexpr InfluenceLoops kLoops = {.BoundStrip = Width<&BoundStrip>::Run,
+                                   .BoundShares = Width<&BoundShares>::Run,
+                                   .SumSteps = Width<&SumSteps>::Run,
+                                   .SumShares = Width<&SumShares>::Run,
+                                   .FindLargest = Width<&FindLargest>::Run,
+                                   .MarkReached = Width<&MarkReached>::Run};
+
 #ifdef QUORVANE_HAS_WIDE_VECTORS
 
-// A loop compiled once more, for the vectors of 256 bits that most processors have.
 template <auto Loop>
-struct Wide;
+struct Bits256;
 template <typename... Arguments, void (*Loop)(Arguments...)>
-struct Wide<Loop> {
+struct Bits256<Loop> {
   [[gnu::target("avx2")]] static void Run(Arguments... arguments) { Loop(arguments...); }
 };
 
-constexpr InfluenceLoops kWideLoops = {Wide<&BoundStrip>::Run, Wide<&BoundShares>::Run,
-                                       Wide<&SumShares>::Run, Wide<&FindLargest>::Run,
-                                       Wide<&MarkReached>::Run};
+template <auto Loop>
+struct Bits512;
+template <typename... Arguments, void (*Loop)(Arguments...)>
+struct Bits512<Loop> {
+  [[gnu::target("avx512f,avx512vl,avx512bw,avx512dq")]] static void Run(Arguments... arguments) {
+    Loop(arguments...);
+  }
+};
+
+bool HasBits512() {
+  return __builtin_cpu_supports("avx512f") && __builtin_cpu_supports("avx512vl") &&
+         __builtin_cpu_supports("avx512bw") && __builtin_cpu_supports("avx512dq");
+}
 
 #endif
-
-constexpr InfluenceLoops kNarrowLoops = {&BoundStrip, &BoundShares, &SumShares, &FindLargest,
-                                         &MarkReached};
 
 }  // namespace
 
-const InfluenceLoops& NarrowInfluenceLoops() { return kNarrowLoops; }
-
-const InfluenceLoops& WidestInfluenceLoops() {
+const InfluenceLoops& LoopsFor(InfluenceVectors vectors) {
 #ifdef QUORVANE_HAS_WIDE_VECTORS
-  if (__builtin_cpu_supports("avx2")) return kWideLoops;
+  if (vectors >= InfluenceVectors::Bits512 && HasBits512()) return kLoops<Bits512>;
+  if (vectors >= InfluenceVectors::Bits256 && __builtin_cpu_supports("avx2")) {
+    return kLoops<Bits256>;
+  }
 #endif
-  return kNarrowLoops;
+  static_cast<void>(vectors);
+  return kLoops<Bits128>;
 }
 
 }  // namespace quorvane

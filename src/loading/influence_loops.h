@@ -62,6 +62,23 @@ struct StripBounds {
   int* AtMost = nullptr;
 };
 
+/// What each planet's share in a tile is at least and at most, and how far from the planet,
+/// squared, it is still one and two more than the least.
+struct ShareBounds {
+  int* AtLeast = nullptr;
+  int* AtMost = nullptr;
+  float* FirstStep = nullptr;
+  float* SecondStep = nullptr;
+};
+
+/// A circle around a planet, within which its owner's sum is larger by one.
+struct ShareStep {
+  float X = 0;
+  float Y = 0;
+  float FarthestSquared = 0;
+  int Owner = 0;
+};
+
 /// The loops that take nearly all of the time that influence takes. They are kept in more than one
 /// version, for wider and narrower vectors; the results are the same.
 struct InfluenceLoops {
@@ -70,12 +87,12 @@ struct InfluenceLoops {
                      const StripBounds& bounds);
   /// Bounds the share of each planet in a tile.
   void (*BoundShares)(const InfluenceRule& rule, std::span<const RadiatingPlanet> planets,
-                      const TilePlaces& places, int* atLeast, int* atMost);
+                      const TilePlaces& places, const ShareBounds& bounds);
+  /// Adds one to the sums at the points of a tile that lie within each circle.
+  void (*SumSteps)(std::span<const ShareStep> steps, const TilePlaces& places, TileSums& sums);
   /// Adds the planets' shares, in map order, to the sums at a tile's points.
-  /// @param atLeast, atMost  the bounds of each planet's share
   void (*SumShares)(const InfluenceRule& rule, std::span<const RadiatingPlanet> planets,
-                    const TilePlaces& places, const int* atLeast, const int* atMost,
-                    TileSums& sums);
+                    const TilePlaces& places, TileSums& sums);
   /// Finds at each point the largest sum, cut to 16 bits, and its player; the lower number among
   /// equals, 0 where all sums are 0.
   /// @param players  a bit for each player who may hold points
@@ -86,9 +103,10 @@ struct InfluenceLoops {
                       const TilePlaces& places, TileNumbers& isReached);
 };
 
-/// The loops for vectors that every processor has.
-const InfluenceLoops& NarrowInfluenceLoops();
-/// The loops for the widest vectors that this processor has.
-const InfluenceLoops& WidestInfluenceLoops();
+/// How many points are computed at once: 4, 8 or 16 numbers of 32 bits. All give the same.
+enum class InfluenceVectors { Bits128, Bits256, Bits512 };
+
+/// The loops for these vectors, or for the widest below that this processor has.
+const InfluenceLoops& LoopsFor(InfluenceVectors vectors);
 
 }  // namespace quorvane

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <span>
 #include <vector>
@@ -31,14 +33,23 @@ class InfluenceSums {
                              const Contest& contest);
 
  private:
-  void SumPlanets(std::span<const RadiatingPlanet> planets, const TilePlaces& places);
+  void BoundShares(std::span<const RadiatingPlanet> planets, const TilePlaces& places);
+  std::uint32_t OwnersInOrder(std::span<const RadiatingPlanet> planets) const;
+  void SortOut(std::span<const RadiatingPlanet> planets);
   /// @param players  a bit for each player who may hold points
   void CompareSums(std::uint32_t players);
 
   const InfluenceRule& rule_;
   const InfluenceLoops& loops_;
-  std::vector<int> atLeast_;  // the bounds of each planet's share
+  // Of each planet's share.
+  std::vector<int> atLeast_;
   std::vector<int> atMost_;
+  std::vector<float> firstStep_;
+  std::vector<float> secondStep_;
+  // What is to be added: numbers for all points of an owner, steps, and other planets.
+  std::array<int, kMaxPlayers + 1> constants_ = {};
+  std::vector<ShareStep> steps_;
+  std::vector<RadiatingPlanet> others_;
   TileSums sums_;
   TileHolders holders_;
 };

@@ -106,6 +106,20 @@ struct ShareTerms {
   return squared <= rule.ReachSquared ? share : 0;
 }
 
+/// The largest squared distance at which `ShareAt` gives at least this much.
+/// @param share  at least 1
+[[gnu::always_inline]] inline float FarthestSquared(InfluenceRule rule, ShareTerms terms,
+                                                    int share) {
+  const auto wanted = static_cast<float>(share);
+  const bool isInSphere = wanted * rule.Sphere > terms.Strength;
+  const float dividend = isInSphere ? terms.Strength : terms.Fading - rule.FringeDivisor * wanted;
+  const float divisor = isInSphere ? wanted : terms.Strength;
+  const float start = isInSphere ? 0 : rule.Sphere;
+  const float distance = start + WithoutFraction(dividend / divisor);
+  const float squared = distance * distance + distance;
+  return squared < rule.ReachSquared ? squared : rule.ReachSquared;
+}
+
 /// 1 where the share was an exact half before `ShareAt` rounded it up, otherwise 0.
 [[gnu::always_inline]] inline int HalfAt(InfluenceRule rule, ShareTerms terms, float squared) {
   const float distance = DistanceOf(squared);
