@@ -5,6 +5,12 @@
 #include <cstdint>
 
 namespace quorvane {
+namespace {
+
+// For fewer planets it costs more to sort out their shares than to compute them point by point.
+constexpr std::size_t kCrowd = 24;
+
+}  // namespace
 
 void InfluenceSums::BoundShares(std::span<const RadiatingPlanet> planets,
                                 const TilePlaces& places) {
@@ -34,7 +40,6 @@ std::uint32_t InfluenceSums::OwnersInOrder(std::span<const RadiatingPlanet> plan
 // around the planet; neither needs a root or a division.
 void InfluenceSums::SortOut(std::span<const RadiatingPlanet> planets) {
   const std::uint32_t ownersInOrder = OwnersInOrder(planets);
-  constants_ = {};
   steps_.resize(2 * planets.size() + 2);
   others_.resize(planets.size() + 1);
   std::size_t stepCount = 0;
@@ -69,14 +74,20 @@ void InfluenceSums::CompareSums(std::uint32_t players) {
 
 const TileHolders& InfluenceSums::Holders(std::span<const RadiatingPlanet> planets,
                                           const TilePlaces& places, const Contest& contest) {
-  BoundShares(planets, places);
-  SortOut(planets);
+  std::span<const RadiatingPlanet> others = planets;
+  constants_ = {};
+  steps_.clear();
+  if (planets.size() >= kCrowd) {
+    BoundShares(planets, places);
+    SortOut(planets);
+    others = others_;
+  }
   for (std::size_t player = 1; player <= kMaxPlayers; ++player) {
     if ((contest.OwnersThatMatter() >> player & 1U) == 0) continue;
     sums_[player].At.fill(constants_[player]);
   }
   loops_.SumSteps(steps_, places, sums_);
-  loops_.SumShares(rule_, others_, places, sums_);
+  loops_.SumShares(rule_, others, places, sums_);
   CompareSums(contest.Contenders);
   // Somebody holds every point of a tile that has a leader.
   if (contest.Leader == 0) {

@@ -1,6 +1,7 @@
 #include "loading/load_game.h"
 
 #include <cmath>
+#include <functional>
 #include <utility>
 
 #include "analysis/empire_data.h"
@@ -53,13 +54,15 @@ Result<std::string> ReadReport(const ReportFileSlot& slot) {
   return text;
 }
 
-Result<void> MergeReports(GameSession& session) {
+// @param showSign  called after each report, so that the window stays alive
+Result<void> MergeReports(GameSession& session, const std::function<void()>& showSign) {
   ReportMerge merge(session);
   if (session.MyRaceRow >= 1 && session.MyRaceRow <= kMaxPlayers) {
     const ReportFileSlot& own = session.ReportFiles.at(static_cast<std::size_t>(session.MyRaceRow));
     const Result<std::string> text = ReadReport(own);
     if (!text) return Failure{text.Message()};
     merge.AddOwnReport(*text, own.Year);
+    showSign();
   }
   for (int row = 1; row <= kMaxPlayers; ++row) {
     const ReportFileSlot& other = session.ReportFiles.at(static_cast<std::size_t>(row));
@@ -67,6 +70,7 @@ Result<void> MergeReports(GameSession& session) {
     const Result<std::string> text = ReadReport(other);
     if (!text) return Failure{text.Message()};
     merge.AddOtherReport(*text, other.Year);
+    showSign();
   }
   return {};
 }
@@ -114,7 +118,11 @@ Result<GameSession> LoadGame(const GameChoice& choice, std::string_view myRaceNa
   session.Reset();
   session.CreatePlayerTable();
   if (const Result<void> map = ReadMap(session); !map) return Failure{map.Message()};
-  if (const Result<void> reports = MergeReports(session); !reports) {
+  // Nothing that the progress tells of has begun yet.
+  const auto showStart = [&] {
+    if (showProgress) showProgress(0, session.GridSize + 1);
+  };
+  if (const Result<void> reports = MergeReports(session, showStart); !reports) {
     return Failure{reports.Message()};
   }
   AnalysePlayers(session, showProgress);
