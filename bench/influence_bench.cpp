@@ -28,6 +28,10 @@ void Register(const std::string& name, const InfluenceGameShape& shape, Compute 
       ->Repetitions(3);
 }
 
+std::string NameOf(const char* game, int soiSetting) {
+  return "influence " + std::string(game) + ", S=" + std::to_string(soiSetting);
+}
+
 void RegisterGames() {
   const std::pair<const char*, InfluenceGameShape> games[] = {
       {"tiny", kTinyGame}, {"medium", kMediumGame}, {"huge", kHugeGame}, {"vast", kVastGame}};
@@ -35,11 +39,32 @@ void RegisterGames() {
     for (const int soiSetting : {100, 500}) {
       InfluenceGameShape shape = game;
       shape.SoiSetting = soiSetting;
-      const std::string what =
-          "influence " + std::string(name) + ", S=" + std::to_string(soiSetting);
+      const std::string what = NameOf(name, soiSetting);
       Register("fast/" + what, shape, [](GameSession& session) { ComputeInfluence(session, {}); });
       Register("plain/" + what, shape, &reference::PlainComputeInfluence);
     }
+  }
+  // The plain version would take minutes.
+  Register("fast/" + NameOf("crowded", 500), kCrowdedGame,
+           [](GameSession& session) { ComputeInfluence(session, {}); });
+}
+
+// What processors with narrower vectors need.
+void RegisterNarrowVectors() {
+  constexpr std::pair<const char*, InfluenceVectors> kWidths[] = {
+      {", 128 bits", InfluenceVectors::Bits128}, {", 256 bits", InfluenceVectors::Bits256}};
+  for (const auto& [name, vectors] : kWidths) {
+    const auto compute = [vectors = vectors](GameSession& session) {
+      ComputeInfluence(session, {}, vectors);
+    };
+    for (const int soiSetting : {100, 500}) {
+      InfluenceGameShape shape = kHugeGame;
+      shape.SoiSetting = soiSetting;
+      Register("fast/" + NameOf("huge", soiSetting) + name, shape, compute);
+      Register("plain/" + NameOf("huge", soiSetting) + name, shape,
+               &reference::PlainComputeInfluence);
+    }
+    Register("fast/" + NameOf("crowded", 500) + name, kCrowdedGame, compute);
   }
 }
 
@@ -48,5 +73,6 @@ void RegisterGames() {
 
 int main(int argc, char** argv) {
   quorvane::RegisterGames();
+  quorvane::RegisterNarrowVectors();
   return quorvane::RunRatioBenchmarks(argc, argv);
 }

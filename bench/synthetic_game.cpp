@@ -12,7 +12,6 @@
 namespace quorvane {
 namespace {
 
-constexpr double kHomeWorldPopulation = 1'100'000;
 constexpr int kSmallestSettledRadius = 5;
 
 struct Place {
@@ -93,9 +92,9 @@ void Settle(PlanetRecord& planet, int owner, double population, int soiSetting, 
 }
 
 // Many colonies are young, few are as full as a home world.
-double ColonyPopulation(Dice& dice) {
+double ColonyPopulation(double largest, Dice& dice) {
   const double share = dice.Fraction();
-  return kHomeWorldPopulation * share * share;
+  return largest * share * share;
 }
 
 }  // namespace
@@ -120,11 +119,12 @@ GameSession MakeInfluenceGame(const InfluenceGameShape& shape) {
     planet[PlanetField::Y] = place.Y;
     planet[PlanetField::OwnerIndex] = 0;
     if (isHomeWorld) {
-      Settle(planet, i, kHomeWorldPopulation, shape.SoiSetting, dice);
+      Settle(planet, i, shape.LargestPopulation, shape.SoiSetting, dice);
     } else if (shape.Players > 0 && dice.Fraction() < shape.SettledShare) {
       const int owner =
           shape.Clustered ? ChooseOwner(place, homeWorlds, dice) : 1 + dice.Below(shape.Players);
-      Settle(planet, owner, ColonyPopulation(dice), shape.SoiSetting, dice);
+      Settle(planet, owner, ColonyPopulation(shape.LargestPopulation, dice), shape.SoiSetting,
+             dice);
     }
   }
   return session;

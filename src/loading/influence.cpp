@@ -3,11 +3,13 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <cstdint>
+#include <map>
 #include <span>
-#include <utility>
 #include <vector>
 
 #include "loading/influence_bounds.h"
+#include "loading/influence_loops.h"
 #include "loading/influence_sums.h"
 #include "loading/influence_values.h"
 #include "model/rounding.h"
@@ -15,30 +17,37 @@
 namespace quorvane {
 namespace {
 
-constexpr int kStripColumns = 10;  // the steps in which progress is shown
-// With so few points, summing them all costs less than to bound the halves first.
-constexpr int kSmallTile = 30;
+
+// After so many planets in summed tiles the windows may answer: some milliseconds, where a strip of
+// a crowded universe may take a hundred.
+constexpr std::size_t kPlanetsBetweenQuestions = 50'000;
 
 // Every planet with a sphere and an owner, in map order.
-InfluenceList ListPlanets(const GameSession& session, InfluenceTables& tables) {
-  InfluenceList planets;
+std::vector<RadiatingPlanet> ListPlanets(const GameSession& session) {
+  std::vector<RadiatingPlanet> planets;
+  std::map<int, ShareKind> kinds;  // by radius
   for (int i = 1; i <= session.PlanetCount; ++i) {
     const PlanetRecord& planet = session.Planet(i);
     const auto whole = [&](PlanetField field) { return ToWhole16(planet[field].Number()); };
-    const int radius = whole(PlanetField::SoiRadius);
+    const std::int16_t radius = whole(PlanetField::SoiRadius);
     const std::int16_t owner = whole(PlanetField::OwnerIndex);
     if (radius <= 0 || owner <= 0 || owner > kMaxPlayers) continue;
-    planets.push_back(
-        {whole(PlanetField::X), whole(PlanetField::Y), owner, &tables.OfRadius(radius)});
+    const auto [kind, isNew] = kinds.try_emplace(radius);
+    if (isNew) kind->second = ShareKindOf(session.SoiSetting, radius);
+    planets.push_back({.X = static_cast<float>(whole(PlanetField::X)),
+                       .Y = static_cast<float>(whole(PlanetField::Y)),
+                       .Radius = static_cast<float>(radius),
+                       .Owner = owner,
+                       .Kind = kind->second});
   }
   return planets;
 }
 
 // Where the grid's columns, and likewise its rows, lie.
-std::vector<int> GridLines(const GameSession& session) {
-  std::vector<int> lightYears;
+std::vector<float> GridLines(const GameSession& session) {
+  std::vector<float> lightYears;
   for (int step = 0; step <= session.GridSize; ++step) {
-    lightYears.push_back(ToWhole32(step * session.GridCellSize));
+    lightYears.push_back(static_cast<float>(ToWhole32(step * session.GridCellSize)));
   }
   return lightYears;
 }
@@ -47,125 +56,156 @@ std::vector<int> GridLines(const GameSession& session) {
 struct GridRange {
   int First = 0;
   int Count = 0;
-
-  GridRange FirstHalf() const { return {First, Count / 2}; }
-  GridRange SecondHalf() const { return {First + Count / 2, Count - Count / 2}; }
 };
 
-// A rectangle of grid points.
+// A rectangle of grid points, at most of `kTileColumns` and `kTileRows`.
 struct Tile {
   GridRange Columns;
   GridRange Rows;
-
-  int PointCount() const { return Columns.Count * Rows.Count; }
-  std::pair<Tile, Tile> Halves() const {
-    if (Rows.Count >= Columns.Count) {
-      return {{Columns, Rows.FirstHalf()}, {Columns, Rows.SecondHalf()}};
-    }
-    return {{Columns.FirstHalf(), Rows}, {Columns.SecondHalf(), Rows}};
-  }
-  template <typename Visit>
-  void ForEachPoint(Visit visit) const {
-    for (int column = 0; column < Columns.Count; ++column) {
-      for (int row = 0; row < Rows.Count; ++row) visit(Columns.First + column, Rows.First + row);
-    }
-  }
 };
 
-// The way over the grid. A tile that lies deep in somebody's space is decided as a whole, any other
-// one is halved, and only the small tiles that are left, along borders and edges, are summed.
+// Where the tiles of a strip begin and end.
+std::vector<LightYears> TileRows(const std::vector<float>& lines) {
+  std::vector<LightYears> rows;
+  for (std::size_t first = 0; first < lines.size(); first += kTileRows) {
+    rows.push_back({lines[first], lines[std::min(first + kTileRows, lines.size()) - 1]});
+  }
+  return rows;
+}
+
+// The way over the grid, strip of columns by strip, each of which is cut into tiles. A tile that
+// lies deep in somebody's space is decided as a whole; others, along borders and edges, are summed.
 class InfluenceRun {
  public:
-  explicit InfluenceRun(GameSession& session)
+  InfluenceRun(GameSession& session, const InfluenceLoops& loops)
       : session_(session),
-        tables_(session.SoiSetting),
-        planets_(ListPlanets(session, tables_)),
-        lines_(GridLines(session)) {}
+        rule_(session.SoiSetting),
+        planets_(ListPlanets(session)),
+        lines_(GridLines(session)),
+        strip_(rule_, loops, TileRows(lines_), session.PlayerCount),
+        sums_(rule_, loops) {}
 
-  void ComputeColumns(GridRange columns) {
-    ComputeTile({columns, {0, session_.GridSize + 1}}, planets_);
-  }
+  /// @return false when the user stopped it
+  bool ComputeColumns(GridRange columns, const Progress& progress);
   void StoreTerritories();
 
  private:
-  int LineAt(int step) const { return lines_[static_cast<std::size_t>(step)]; }
+  float LineAt(int step) const { return lines_[static_cast<std::size_t>(step)]; }
   LightYears Extent(GridRange range) const {
     return {LineAt(range.First), LineAt(range.First + range.Count - 1)};
   }
-  void ComputeTile(const Tile& tile, std::span<const RadiatingPlanet> planets);
+  // The points of a column follow each other.
+  InfluencePoint* FirstPoint(const Tile& tile, int column) {
+    return &session_.InfluenceGrid.At(tile.Columns.First + column, tile.Rows.First);
+  }
   void FillTile(const Tile& tile, InfluencePoint point);
-  void SumTile(const Tile& tile, std::span<const RadiatingPlanet> planets);
-  bool IsReached(InfluencePlace place, std::span<const RadiatingPlanet> planets) const;
+  void SumTile(const Tile& tile, std::span<const RadiatingPlanet> planets, const Contest& contest);
+  void PlaceColumns(GridRange columns);
+  void PlaceRows(GridRange rows);
+  void StoreTile(const Tile& tile, const TileHolders& holders);
 
   GameSession& session_;
-  InfluenceTables tables_;
-  InfluenceList planets_;
-  std::vector<int> lines_;
-  InfluenceSums sums_{tables_.Distances(), session_.PlayerCount};
-  std::vector<InfluencePlace> places_;
-  std::array<int, kMaxPlayers + 1> pointsHeld_ = {};
+  InfluenceRule rule_;
+  std::vector<RadiatingPlanet> planets_;
+  std::vector<float> lines_;
+  InfluenceStrip strip_;
+  InfluenceSums sums_;
+  TilePlaces places_;
+  // By the row in its tile: adding one to the same count again and again would be slower.
+  std::array<std::array<int, kMaxPlayers + 1>, kTileRows> pointsHeld_ = {};
+  std::size_t planetsSinceQuestion_ = 0;
 };
 
-void InfluenceRun::ComputeTile(const Tile& tile, std::span<const RadiatingPlanet> planets) {
-  const Contest contest = FindContest(planets, {Extent(tile.Columns), Extent(tile.Rows)},
-                                      tables_.Distances(), session_.PlayerCount);
-  if (contest.Planets.empty()) return;
-  if (!contest.IsOpen && contest.LeastWinningSum >= kFullStrength) {
-    FillTile(tile, {static_cast<std::int16_t>(contest.Leader), kFullStrength});
-  } else if (tile.PointCount() <= kSmallTile) {
-    SumTile(tile, contest.Planets);
-  } else {
-    const auto [first, second] = tile.Halves();
-    ComputeTile(first, contest.Planets);
-    ComputeTile(second, contest.Planets);
+bool InfluenceRun::ComputeColumns(GridRange columns, const Progress& progress) {
+  strip_.GoTo(Extent(columns), planets_);
+  PlaceColumns(columns);
+  const int allRows = session_.GridSize + 1;
+  for (int row = 0; row < allRows; row += kTileRows) {
+    const Tile tile = {columns, {row, std::min(kTileRows, allRows - row)}};
+    const Contest contest = strip_.ContestFor(row / kTileRows);
+    if (contest.IsSettled()) {
+      FillTile(tile, {static_cast<std::int16_t>(contest.Leader), kFullStrength});
+      continue;
+    }
+    const std::span<const RadiatingPlanet> planets = strip_.PlanetsFor(row / kTileRows, contest);
+    if (planets.empty()) continue;
+    SumTile(tile, planets, contest);
+    planetsSinceQuestion_ += planets.size();
+    if (planetsSinceQuestion_ < kPlanetsBetweenQuestions) continue;
+    planetsSinceQuestion_ = 0;
+    if (progress.IsStopped()) return false;
   }
+  return !progress.IsStopped();
 }
 
 void InfluenceRun::FillTile(const Tile& tile, InfluencePoint point) {
-  tile.ForEachPoint([&](int gx, int gy) { session_.InfluenceGrid.At(gx, gy) = point; });
-  pointsHeld_[static_cast<std::size_t>(point.Holder)] += tile.PointCount();
+  for (int column = 0; column < tile.Columns.Count; ++column) {
+    std::fill_n(FirstPoint(tile, column), tile.Rows.Count, point);
+  }
+  pointsHeld_[0][static_cast<std::size_t>(point.Holder)] += tile.Columns.Count * tile.Rows.Count;
 }
 
-void InfluenceRun::SumTile(const Tile& tile, std::span<const RadiatingPlanet> planets) {
-  places_.clear();
-  tile.ForEachPoint([&](int gx, int gy) { places_.push_back({LineAt(gx), LineAt(gy)}); });
-  const std::span<const InfluencePoint> points = sums_.Holders(planets, places_);
-  std::size_t index = 0;
-  tile.ForEachPoint([&](int gx, int gy) {
-    const InfluencePlace place = places_[index];
-    const InfluencePoint point = points[index++];
-    // A point that nobody reaches counts for nobody, not even as reached but held by nobody.
-    if (point.Holder == 0 && !IsReached(place, planets)) return;
-    session_.InfluenceGrid.At(gx, gy) = point;
-    ++pointsHeld_[static_cast<std::size_t>(point.Holder)];
-  });
+void InfluenceRun::SumTile(const Tile& tile, std::span<const RadiatingPlanet> planets,
+                           const Contest& contest) {
+  PlaceRows(tile.Rows);
+  StoreTile(tile, sums_.Holders(planets, places_, contest));
 }
 
-bool InfluenceRun::IsReached(InfluencePlace place, std::span<const RadiatingPlanet> planets) const {
-  const InfluenceDistances distances = tables_.Distances();
-  return std::ranges::any_of(planets, [&](const RadiatingPlanet& planet) {
-    return distances.IsReached(distances.Between(planet.X - place.X, planet.Y - place.Y));
-  });
+// A tile at the grid's end repeats its last column and row.
+void InfluenceRun::PlaceColumns(GridRange columns) {
+  places_.Columns = Extent(columns);
+  for (int column = 0; column < kTileColumns; ++column) {
+    const float x = LineAt(columns.First + std::min(column, columns.Count - 1));
+    std::fill_n(places_.X.data() + column * kTileRows, kTileRows, x);
+  }
+}
+
+void InfluenceRun::PlaceRows(GridRange rows) {
+  places_.Rows = Extent(rows);
+  std::array<float, kTileRows> y = {};
+  for (int row = 0; row < kTileRows; ++row) {
+    y[static_cast<std::size_t>(row)] = LineAt(rows.First + std::min(row, rows.Count - 1));
+  }
+  for (int column = 0; column < kTileColumns; ++column) {
+    std::ranges::copy(y, places_.Y.data() + column * kTileRows);
+  }
+}
+
+// A point that nobody reaches counts for nobody, not even as reached but held by nobody.
+void InfluenceRun::StoreTile(const Tile& tile, const TileHolders& holders) {
+  for (int column = 0; column < tile.Columns.Count; ++column) {
+    const auto first = static_cast<std::size_t>(column * kTileRows);
+    InfluencePoint* const points = FirstPoint(tile, column);
+    for (std::size_t row = 0; row < static_cast<std::size_t>(tile.Rows.Count); ++row) {
+      const InfluencePoint point = holders.Points[first + row];
+      points[row] = point;
+      const bool counts = point.Holder != 0 || holders.IsReached.At[first + row] != 0;
+      pointsHeld_[row][static_cast<std::size_t>(point.Holder)] += counts ? 1 : 0;
+    }
+  }
 }
 
 void InfluenceRun::StoreTerritories() {
-  for (std::size_t player = 0; player < pointsHeld_.size(); ++player) {
+  for (std::size_t player = 0; player <= kMaxPlayers; ++player) {
+    int points = 0;
+    for (const auto& counts : pointsHeld_) points += counts[player];
     FieldValue& territory = session_.PlayerTable[player][PlayerField::Territory];
-    territory = pointsHeld_[player] > 0 ? FieldValue(pointsHeld_[player]) : FieldValue();
+    territory = points > 0 ? FieldValue(points) : FieldValue();
   }
 }
 
 }  // namespace
 
-bool ComputeInfluence(GameSession& session, const Progress& progress) {
+bool ComputeInfluence(GameSession& session, const Progress& progress, InfluenceVectors vectors) {
   const int allColumns = session.GridSize + 1;
   session.CreateInfluenceGrid(session.GridSize);
   progress.Show(0, allColumns);
-  InfluenceRun run(session);
-  for (int column = 0; column < allColumns; column += kStripColumns) {
-    run.ComputeColumns({column, std::min(kStripColumns, allColumns - column)});
+  InfluenceRun run(session, LoopsFor(vectors));
+  for (int column = 0; column < allColumns; column += kTileColumns) {
+    if (!run.ComputeColumns({column, std::min(kTileColumns, allColumns - column)}, progress)) {
+      return false;
+    }
     progress.Show(column, allColumns);
-    if (progress.IsStopped()) return false;
   }
   run.StoreTerritories();
   progress.Show(allColumns, allColumns);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "loading/influence_loops.h"
 #include "model/game_session.h"
 #include "model/progress.h"
 
@@ -13,7 +14,10 @@ namespace quorvane {
 /// Reads `GridSize`, `GridCellSize`, `SoiSetting`, `PlayerCount` and each planet's `X`, `Y`,
 /// `SoiRadius` and `OwnerIndex`; writes `InfluenceGrid` and `Territory`, the number of points held,
 /// of every player who holds any (record 0: points that were reached but held by nobody).
+/// @param progress  is shown 0, then every ten columns, in the end all
+/// @param vectors  the widest to use where the processor has them; the result is the same
 /// @return false, and nothing of this is complete, when the user stopped it
-bool ComputeInfluence(GameSession& session, const Progress& progress);
+bool ComputeInfluence(GameSession& session, const Progress& progress,
+                      InfluenceVectors vectors = InfluenceVectors::Bits512);
 
 }  // namespace quorvane

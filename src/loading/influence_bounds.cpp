@@ -1,85 +1,139 @@
 #include "loading/influence_bounds.h"
 
-#include <array>
-#include <bitset>
+#include <algorithm>
+#include <cmath>
 #include <cstddef>
-
-#include "model/game_choice.h"
 
 namespace quorvane {
 namespace {
 
-using PlayerSet = std::bitset<kMaxPlayers + 1>;
+constexpr float kTileTolerance = 3;  // light years
+constexpr std::size_t kRows = kMaxPlayers + 1;
 
-// What every player's sum is at least and at most, anywhere in an area.
-struct SumBounds {
-  std::array<int, kMaxPlayers + 1> AtLeast = {};
-  std::array<int, kMaxPlayers + 1> AtMost = {};
-};
-
-// A planet gives most at the point nearest to it and least at the one farthest from it. As no share
-// is negative, the bounds of the shares add up to bounds of the sums.
-// @param reaching  receives the planets that reach the area
-SumBounds BoundSums(std::span<const RadiatingPlanet> planets, const LightYearArea& area,
-                    InfluenceDistances distances, InfluenceList& reaching) {
-  SumBounds bounds;
-  for (const RadiatingPlanet& planet : planets) {
-    const int nearX = area.X.Nearest(planet.X);
-    const int nearY = area.Y.Nearest(planet.Y);
-    // Planets far outside the universe would have squares beyond 32 bits.
-    if (nearX > distances.Reach() || nearY > distances.Reach()) continue;
-    const std::size_t nearest = distances.Between(nearX, nearY);
-    if (!distances.IsReached(nearest)) continue;
-    const std::size_t farthest =
-        distances.Between(area.X.Farthest(planet.X), area.Y.Farthest(planet.Y));
-    const auto owner = static_cast<std::size_t>(planet.Owner);
-    bounds.AtMost[owner] += planet.Influence->AtMost(nearest);
-    bounds.AtLeast[owner] += planet.Influence->AtLeast(farthest);
-    reaching.push_back(planet);
-  }
-  // Sums are cut before they are compared, so their bounds are too.
-  for (int& sum : bounds.AtMost) sum = std::min(sum, kLargestInfluence);
-  for (int& sum : bounds.AtLeast) sum = std::min(sum, kLargestInfluence);
-  return bounds;
+std::size_t WholeBlocks(std::size_t tiles) {
+  return (tiles + kTileBlock - 1) / kTileBlock * kTileBlock;
 }
 
-void FindLeader(const SumBounds& bounds, int playerCount, Contest& contest) {
-  for (int player = 1; player <= playerCount; ++player) {
-    const int atLeast = bounds.AtLeast[static_cast<std::size_t>(player)];
-    if (atLeast <= contest.LeastWinningSum) continue;
-    contest.LeastWinningSum = atLeast;
-    contest.Leader = player;
+}  // namespace
+
+InfluenceStrip::InfluenceStrip(const InfluenceRule& rule, const InfluenceLoops& loops,
+                               const std::vector<LightYears>& tileRows, int playerCount)
+    : rule_(rule),
+      loops_(loops),
+      playerCount_(playerCount),
+      lastTile_(static_cast<int>(tileRows.size()) - 1),
+      tileCount_(WholeBlocks(tileRows.size())),
+      first_(tileCount_),
+      last_(tileCount_),
+      atLeast_(kRows * tileCount_),
+      atMost_(kRows * tileCount_),
+      leaders_(tileCount_),
+      leastWinningSums_(tileCount_),
+      contenders_(tileCount_) {
+  std::ranges::transform(tileRows, first_.begin(), &LightYears::First);
+  std::ranges::transform(tileRows, last_.begin(), &LightYears::Last);
+  tilesPerLightYear_ = static_cast<float>(lastTile_) / std::max(tileRows.back().First, 1.0F);
+}
+
+void InfluenceStrip::GoTo(LightYears columns, std::span<const RadiatingPlanet> planets) {
+  FindNearPlanets(columns, planets);
+  std::ranges::fill(atLeast_, 0);
+  std::ranges::fill(atMost_, 0);
+  loops_.BoundStrip(rule_, nearPlanets_,
+                    {.TileCount = tileCount_,
+                     .First = first_.data(),
+                     .Last = last_.data(),
+                     .AtLeast = atLeast_.data(),
+                     .AtMost = atMost_.data()});
+  FindLeaders();
+  FindContenders();
+}
+
+// The tile where a light year lies. Grid lines lie at whole light years, so that tiles are not
+// quite as long as each other, and the answer may be one of up to two light years away.
+int InfluenceStrip::TileAt(float y) const {
+  return static_cast<int>(std::clamp(y * tilesPerLightYear_, 0.0F, static_cast<float>(lastTile_)));
+}
+
+void InfluenceStrip::FindNearPlanets(LightYears columns, std::span<const RadiatingPlanet> planets) {
+  // Written in any case, here and below: to be without a branch is quicker.
+  nearNumbers_.resize(planets.size());
+  std::size_t count = 0;
+  for (std::size_t i = 0; i < planets.size(); ++i) {
+    nearNumbers_[count] = i;
+    count += columns.Nearest(planets[i].X) <= rule_.Reach ? 1 : 0;
+  }
+  nearPlanets_.resize(count);
+  for (std::size_t i = 0; i < count; ++i) {
+    const RadiatingPlanet& planet = planets[nearNumbers_[i]];
+    const float nearestX = columns.Nearest(planet.X);
+    const float reachY = std::sqrt(rule_.ReachSquared - nearestX * nearestX) + kTileTolerance;
+    nearPlanets_[i] = {.Planet = planet,
+                       .FirstTile = TileAt(planet.Y - reachY),
+                       .LastTile = TileAt(planet.Y + reachY),
+                       .NearestX = nearestX,
+                       .FarthestX = columns.Farthest(planet.X)};
+  }
+}
+
+Contest InfluenceStrip::ContestFor(int tile) const {
+  const auto index = static_cast<std::size_t>(tile);
+  return {leaders_[index], leastWinningSums_[index],
+          static_cast<std::uint32_t>(contenders_[index])};
+}
+
+std::span<const RadiatingPlanet> InfluenceStrip::PlanetsFor(int tile, const Contest& contest) {
+  const std::uint32_t owners = contest.OwnersThatMatter();
+  planetsForTile_.resize(nearPlanets_.size());
+  std::size_t count = 0;
+  for (const NearPlanet& planet : nearPlanets_) {
+    planetsForTile_[count] = planet.Planet;
+    const bool isNear = (planet.FirstTile <= tile) & (tile <= planet.LastTile);
+    count += isNear & (owners >> planet.Planet.Owner & 1U);
+  }
+  return {planetsForTile_.data(), count};
+}
+
+// A player's bounds in all tiles. Sums are cut before they are compared, so bounds are cut, too.
+const int* InfluenceStrip::CutRow(std::vector<int>& sums, int player) const {
+  int* const row = sums.data() + static_cast<std::size_t>(player) * tileCount_;
+  for (std::size_t tile = 0; tile < tileCount_; ++tile) {
+    row[tile] = row[tile] < kLargestInfluence ? row[tile] : kLargestInfluence;
+  }
+  return row;
+}
+
+void InfluenceStrip::FindLeaders() {
+  std::ranges::fill(leaders_, 0);
+  std::ranges::fill(leastWinningSums_, 0);
+  int* const leaders = leaders_.data();
+  int* const largest = leastWinningSums_.data();
+  for (int player = 1; player <= playerCount_; ++player) {
+    const int* const atLeast = CutRow(atLeast_, player);
+    for (std::size_t tile = 0; tile < tileCount_; ++tile) {
+      const bool isLarger = atLeast[tile] > largest[tile];
+      leaders[tile] = isLarger ? player : leaders[tile];
+      largest[tile] = isLarger ? atLeast[tile] : largest[tile];
+    }
   }
 }
 
 // Equal sums go to the lower number: a player before the leader wins where he reaches the leader's
 // sum, a player behind has to exceed it.
-PlayerSet FindContenders(const SumBounds& bounds, int playerCount, const Contest& contest) {
-  PlayerSet contenders;
-  for (int player = 1; player <= playerCount; ++player) {
-    const int needed = contest.LeastWinningSum + (player > contest.Leader ? 1 : 0);
-    const auto number = static_cast<std::size_t>(player);
-    contenders[number] = player == contest.Leader || bounds.AtMost[number] >= needed;
+void InfluenceStrip::FindContenders() {
+  std::ranges::fill(contenders_, 0);
+  int* const contenders = contenders_.data();
+  const int* const leaders = leaders_.data();
+  const int* const leastWinningSums = leastWinningSums_.data();
+  for (int player = 1; player <= playerCount_; ++player) {
+    const int* const atMost = CutRow(atMost_, player);
+    for (std::size_t tile = 0; tile < tileCount_; ++tile) {
+      const int needed = leastWinningSums[tile] + (player > leaders[tile] ? 1 : 0);
+      const int isLeader = player == leaders[tile] ? 1 : 0;
+      const int mayWin = atMost[tile] >= needed ? 1 : 0;
+      contenders[tile] |= (isLeader | mayWin) << player;
+    }
   }
-  return contenders;
-}
-
-}  // namespace
-
-Contest FindContest(std::span<const RadiatingPlanet> planets, const LightYearArea& area,
-                    InfluenceDistances distances, int playerCount) {
-  Contest contest;
-  contest.Planets.reserve(planets.size());
-  const SumBounds bounds = BoundSums(planets, area, distances, contest.Planets);
-  FindLeader(bounds, playerCount, contest);
-  // Where nobody leads, some points may be reached without a winner, and that counts, too.
-  if (contest.Leader == 0) return contest;
-  const PlayerSet contenders = FindContenders(bounds, playerCount, contest);
-  std::erase_if(contest.Planets, [&](const RadiatingPlanet& planet) {
-    return !contenders[static_cast<std::size_t>(planet.Owner)];
-  });
-  contest.IsOpen = contenders.count() > 1;
-  return contest;
 }
 
 }  // namespace quorvane
