@@ -17,7 +17,6 @@
 namespace quorvane {
 namespace {
 
-
 // After so many planets in summed tiles the windows may answer: some milliseconds, where a strip of
 // a crowded universe may take a hundred.
 constexpr std::size_t kPlanetsBetweenQuestions = 50'000;
