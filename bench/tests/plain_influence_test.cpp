@@ -4,7 +4,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <utility>
+#include <vector>
 
 #include "loading/influence.h"
 #include "synthetic_game.h"
@@ -60,6 +62,20 @@ TEST(ComputeInfluence, GivesWhatThePlainSumsGive) {
           << "game " << number << ", vectors " << static_cast<int>(vectors);
     }
   }
+}
+
+TEST(ComputeInfluence, GivesSignsOfLifeInACrowdedUniverse) {
+  GameSession fast = MakeInfluenceGame(kCrowdedGame);
+  fast.GridSize = 19;  // a corner is enough
+  GameSession plain = fast;
+  std::vector<int> shown;
+  ComputeInfluence(fast, [&](int value, int) { shown.push_back(value); });
+  reference::PlainComputeInfluence(plain);
+  EXPECT_TRUE(SameInfluence(fast, plain));
+  EXPECT_GT(shown.size(), 4U);
+  const auto repeated = std::ranges::unique(shown);
+  shown.erase(repeated.begin(), repeated.end());
+  EXPECT_EQ(shown, (std::vector{0, 10, 20}));
 }
 
 }  // namespace

@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <tuple>
+#include <utility>
 #include <vector>
 
 #include "loading/drawing_file.h"
@@ -167,6 +169,15 @@ TEST_F(LoadGameTest, NamesTheFileThatCannotBeUsed) {
     ASSERT_FALSE(loaded) << message;
     EXPECT_NE(loaded.Message().find(message), std::string::npos) << loaded.Message();
   }
+}
+
+TEST_F(LoadGameTest, ShowsAfterEachReportThatItLives) {
+  Load();
+  std::vector<std::pair<int, int>> shown;
+  LoadGame(choice, "", [&](int value, int most) { shown.emplace_back(value, most); });
+  // After two reports, at the start of the influence and after its first column.
+  EXPECT_EQ(std::ranges::count(shown, std::pair(0, 651)), 4);
+  EXPECT_EQ(shown.back(), std::pair(651, 651));
 }
 
 TEST(MainCaption, NamesTheMapAndNoUnknownYear) {
