@@ -4,9 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <utility>
-#include <vector>
 
 #include "loading/influence.h"
 #include "synthetic_game.h"
@@ -64,18 +62,15 @@ TEST(ComputeInfluence, GivesWhatThePlainSumsGive) {
   }
 }
 
-TEST(ComputeInfluence, GivesSignsOfLifeInACrowdedUniverse) {
+TEST(ComputeInfluence, AsksOftenInACrowdedUniverseWhetherItIsStopped) {
   GameSession fast = MakeInfluenceGame(kCrowdedGame);
   fast.GridSize = 19;  // a corner is enough
   GameSession plain = fast;
-  std::vector<int> shown;
-  ComputeInfluence(fast, [&](int value, int) { shown.push_back(value); });
+  int questions = 0;
+  ComputeInfluence(fast, {.ShowValue = {}, .AskStopped = [&] { return ++questions < 0; }});
   reference::PlainComputeInfluence(plain);
   EXPECT_TRUE(SameInfluence(fast, plain));
-  EXPECT_GT(shown.size(), 4U);
-  const auto repeated = std::ranges::unique(shown);
-  shown.erase(repeated.begin(), repeated.end());
-  EXPECT_EQ(shown, (std::vector{0, 10, 20}));
+  EXPECT_GT(questions, 4);
 }
 
 }  // namespace
