@@ -70,7 +70,7 @@ TEST(ComputeInfluence, AsksOftenInACrowdedUniverseWhetherItIsStopped) {
   ComputeInfluence(fast, {.ShowValue = {}, .AskStopped = [&] { return ++questions < 0; }});
   reference::PlainComputeInfluence(plain);
   EXPECT_TRUE(SameInfluence(fast, plain));
-  EXPECT_GT(questions, 4);
+  EXPECT_GT(questions, 2) << "not only behind each strip of ten columns";
 }
 
 }  // namespace
