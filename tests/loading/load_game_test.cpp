@@ -171,15 +171,6 @@ TEST_F(LoadGameTest, NamesTheFileThatCannotBeUsed) {
   }
 }
 
-TEST_F(LoadGameTest, ShowsAfterEachReportThatItLives) {
-  Load();
-  std::vector<std::pair<int, int>> shown;
-  LoadGame(choice, "", [&](int value, int most) { shown.emplace_back(value, most); });
-  // After two reports, at the start of the influence and after its first column.
-  EXPECT_EQ(std::ranges::count(shown, std::pair(0, 651)), 4);
-  EXPECT_EQ(shown.back(), std::pair(651, 651));
-}
-
 TEST(MainCaption, NamesTheMapAndNoUnknownYear) {
   EXPECT_EQ(MainCaption("1.6.8", nullptr), "Quorvane for Stars!   Version 1.6.8");
   GameChoice choice;
