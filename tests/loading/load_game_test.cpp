@@ -79,8 +79,8 @@ TEST_F(LoadGameTest, AppliesTheCompanionFiles) {
   EXPECT_EQ(loaded.Player(1).ColourSlot(), 2);
   EXPECT_EQ(*loaded.ColourOf(2), (Colour{10, 20, 30}));
   EXPECT_EQ(DrawingLayerText(loaded.DrawingLayer), "C,1100,1200,50,3\r\n");
-  EXPECT_EQ(loaded.Player(1)[PlayerField::GravMin], FieldValue(0.5));
-  EXPECT_EQ(FieldText(loaded.Player(1)[PlayerField::NotesText]), "a note");
+  EXPECT_EQ(TextsOf(loaded.Player(1), {PlayerField::TempMax, PlayerField::NotesText}),
+            (Texts{"9", "a note"}));
 }
 
 TEST_F(LoadGameTest, LeavesTraitsAndTerritoriesOfAnOldGameAsTheyAre) {
