@@ -9,19 +9,22 @@ namespace {
 
 GameSession TwoRaces() { return GameBuilder().Player("Humanoid").Player("Rabbitoid, Inc").Build(); }
 
-// Every stored field of a player holds something that only it holds.
-void Fill(PlayerRecord& player, int seed) {
-  for (int field = 8; field <= 37; ++field) {
-    if (field < 14 || field > 18) player.Field(static_cast<std::size_t>(field)) = seed + field;
+// Every stored field of theirs holds something that only it holds.
+GameSession TwoFilledRaces() {
+  GameSession session = TwoRaces();
+  for (int number = 1; number <= 2; ++number) {
+    PlayerRecord& player = session.Player(number);
+    for (std::size_t field = 8; field <= 37; ++field) {
+      if (field < 14 || field > 18) player.Field(field) = 100 * number + static_cast<int>(field);
+    }
+    player[PlayerField::PrimaryTrait] = "JoaT";
+    player[PlayerField::NotesText] = "two\r\nlines, a comma";
   }
-  player[PlayerField::PrimaryTrait] = "JoaT";
-  player[PlayerField::NotesText] = "two\r\nlines, a comma";
+  return session;
 }
 
 TEST(EmpireData, ComesBackAsItWasSaved) {
-  GameSession saved = TwoRaces();
-  Fill(saved.Player(1), 100);
-  Fill(saved.Player(2), -200);
+  GameSession saved = TwoFilledRaces();
   saved.Player(2)[PlayerField::RadImmune] = FieldValue();
   GameSession loaded = TwoRaces();
   ApplyEmpireData(*EmpireDataText(saved), loaded);
@@ -37,9 +40,7 @@ TEST(EmpireData, SaysWhoseTextTheFileCannotKeep) {
 }
 
 TEST(EmpireData, LeavesOutRacesWhoseNamesTheFileCannotKeepAndNamesThem) {
-  GameSession saved = TwoRaces();
-  Fill(saved.Player(1), 100);
-  Fill(saved.Player(2), 200);
+  GameSession saved = TwoFilledRaces();
   GameSession loaded = TwoRaces();
   EXPECT_EQ(SavedRacesMessage("Saved", saved), "Saved");
   saved.Player(1)[PlayerField::Name] = "The \"Herd\"";
@@ -52,9 +53,7 @@ TEST(EmpireData, LeavesOutRacesWhoseNamesTheFileCannotKeepAndNamesThem) {
 }
 
 TEST(EmpireData, GoesToTheLastPlayerOfItsNameUnlessCutShort) {
-  GameSession saved = TwoRaces();
-  Fill(saved.Player(1), 100);
-  Fill(saved.Player(2), 200);
+  GameSession saved = TwoFilledRaces();
   saved.Player(1)[PlayerField::Name] = "Somebody else";
   const std::string text = *EmpireDataText(saved);
   GameSession loaded = TwoRaces();

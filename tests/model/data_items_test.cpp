@@ -19,17 +19,6 @@ TEST(DataItemReader, EndsEachItemWhereItsKindEnds) {
   EXPECT_TRUE(reader.IsExhausted());
 }
 
-TEST(DataItemReader, CutsAReportLineAtItsFirstCommaOutsideLeadingQuotes) {
-  DataItemReader reader("\"Odd, name\"\tOwner\t7, rest\n\tempty first\r\nplain,\"x\"\n");
-  std::string unquoted;
-  EXPECT_EQ(reader.ReadLineItem(unquoted), "Odd, name\tOwner\t7");
-  EXPECT_EQ(reader.ReadLineItem(unquoted), "rest");
-  EXPECT_EQ(reader.ReadLineItem(unquoted), "\tempty first");
-  EXPECT_EQ(reader.ReadLineItem(unquoted), "plain");
-  EXPECT_EQ(reader.ReadLineItem(unquoted), "x");
-  EXPECT_TRUE(reader.IsExhausted());
-}
-
 TEST(DataItemWriter, QuotesTextsOnlyAndDropsTheZeroBeforeThePoint) {
   DataItemWriter writer;
   writer.Text("Two\r\nlines, one text").Number(-200).Number(0.12).Number(-0.5).EndRecord();

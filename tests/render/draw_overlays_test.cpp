@@ -97,30 +97,24 @@ TEST_F(DrawOverlaysTest, StacksAllOverlaysInOneOrder) {
   PlanetRecord& planet = session.Planet(1);
   planet[PlanetField::AgeText] = "Current";
   planet[PlanetField::HabValue] = "50";
-  planet[PlanetField::Population] = planet[PlanetField::Resources] = 100;
+  planet[PlanetField::Population] = planet[PlanetField::Resources] = 250'000;
   planet[PlanetField::IronMC] = planet[PlanetField::BoraMC] = planet[PlanetField::GermMC] = 40;
   session.MyRaceName = "Humanoid";
-  Texts kinds;  // what is drawn at the planet, without its place
+  std::string marks;  // at the planet: radius and colour, of the point the colour alone
   for (const std::string& line : Redraw(AllKinds())) {
-    if (line.find("5000,5000 ") == std::string::npos) continue;
-    kinds.push_back(line.substr(line.find("5000,5000 ") + 10));
+    const std::size_t place = line.find("5000,5000 ");
+    if (place == line.npos) continue;
+    const std::string mark = line.substr(place + 10);
+    marks += mark.substr(0, mark.find(' ', 5)) + "; ";
   }
-  EXPECT_EQ(kinds, (Texts{"#ffff00 copy w4",                               // current report
-                          "r20 #000000 fill #000000 copy solid w1",        // planet
-                          "r10 #ffffff fill #ffffff copy solid w1",        //
-                          "r75 #00ff00 fill #00ff00 merge no-outline w1",  // its habitability
-                          "r40 #000000 fill #000000 copy solid w1",        // owner
-                          "r30 #000000 fill #ff0000 copy solid w1",        //
-                          "r50 #00ff00 fill #00ff00 copy solid w1",        // difficulty of attack
-                          "r50 #00ff00 fill #00ff00 copy solid w1",        // growth
-                          "r30 #ffff00 fill #ffff00 merge no-outline w1",  // estimated habitability
-                          "r40 #0000ff fill #0000ff merge no-outline w1",  // minerals, in its mode
-                          "r40 #00ff00 fill #00ff00 merge no-outline w1",  //
-                          "r40 #ffff00 fill #ffff00 merge no-outline w1",  //
-                          "r40 #666666 fill #666666 copy no-outline w1",   // their average
-                          "r60 #00ff00 fill #00ff00 copy solid w1",        // report age
-                          "r30 #503c3c fill #503c3c copy no-outline w1",   // terraforming
-                          "r100 #ffe600 fill #ffe600 copy no-outline w1"}));  // expansion
+  EXPECT_EQ(marks,
+            // current report, planet, its habitability, owner, difficulty of attack, growth,
+            "#ffff00; r20 #000000; r10 #ffffff; r75 #00ff00; r40 #000000; r30 #000000; "
+            "r50 #33cc00; r50 #807f00; "
+            // estimated habitability, minerals and their average,
+            "r30 #ffff00; r40 #0000ff; r40 #00ff00; r40 #ffff00; r40 #666666; "
+            // report age, terraforming, expansion
+            "r60 #00ff00; r30 #503c3c; r100 #ffe600; ");
 }
 
 TEST_F(DrawOverlaysTest, SingleMineralsTakeTheModeOfTheRedrawBefore) {

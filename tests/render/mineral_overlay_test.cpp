@@ -41,15 +41,13 @@ TEST(DrawConcentration, KeepsTheModeThatTheSurfaceWasLeftIn) {
 }
 
 TEST(DrawAverageMineralConcentration, MixesTheColourOfAllThree) {
-  const std::tuple<Minerals, const char*, const char*> cases[] = {
-      {{30, 60, 90}, "60", "#e6994c"},
-      {{10, 150, 10}, "57", "#1aff1a"},
-      {{1, 2, 2}, "2", "#050503"},
-      {{"30", "Unknown", "90"}, "30", "#503c3c"}};
-  for (const auto& [minerals, radius, colour] : cases) {
-    EXPECT_EQ(DrawnFor(DrawAverageMineralConcentration, minerals, "Current", "0", DrawMode::Merge),
-              Plain(radius, colour));
-  }
+  const auto drawn = [](const Minerals& minerals) {
+    return DrawnFor(DrawAverageMineralConcentration, minerals, "Current", "0", DrawMode::Merge);
+  };
+  EXPECT_EQ(drawn({30, 60, 90}), Plain("60", "#e6994c"));
+  EXPECT_EQ(drawn({10, 150, 10}), Plain("57", "#1aff1a"));
+  EXPECT_EQ(drawn({1, 2, 2}), Plain("2", "#050503"));
+  EXPECT_EQ(drawn({"30", "Unknown", "90"}), Plain("30", "#503c3c"));
 }
 
 TEST(DrawEmpireExpansion, ValuesMineralsAndHabitabilityTogether) {

@@ -17,6 +17,11 @@ TEST(FindFile, GivesTheNameThatAFileHasOnTheDisk) {
   EXPECT_EQ(FindFile(""), std::nullopt);
 }
 
+TEST(NameAmong, PrefersTheExactNameToTheFirstInAnotherCase) {
+  EXPECT_EQ(NameAmong({"DEMO.P1", "Demo.P1", "demo.p1"}, "Demo.P1"), "Demo.P1");
+  EXPECT_EQ(NameAmong({"DEMO.P1", "demo.p1"}, "Demo.P1"), "DEMO.P1");
+}
+
 TEST(FilesNamedLike, ListsSmallLettersAmongCapitals) {
   const TempFolder folder;
   for (const char* name : {"Zeta.map", "alpha.MAP", "beta.map", "map.txt"}) folder.Write(name, "");

@@ -13,13 +13,6 @@
 namespace quorvane {
 namespace {
 
-TEST(FindFile, TakesTheFirstOfTheNamesInAnotherCase) {
-  const TempFolder folder;
-  folder.Write("demo.p1", "1");
-  folder.Write("DEMO.P1", "1");
-  EXPECT_EQ(FindFile(folder / "Demo.P1"), folder / "DEMO.P1");
-}
-
 TEST(TextFromPath, ReadsEachStepInItsOwnEncoding) {
   EXPECT_EQ(TextFromPath("/home/Jürgen//K\xF6n.map"), "/home/Jürgen//Kön.map");
   EXPECT_EQ(TextFromPath("K\xF6n/"), "Kön/");
