@@ -9,6 +9,9 @@
 namespace quorvane {
 namespace {
 
+// The loops are short and their bodies have no branches, so that the compiler makes vectors of
+// them. What is written to gets parameters of its own, which promise that nothing else lies there.
+
 // Nearest and farthest distance in one direction, in a form that becomes vector instructions.
 [[gnu::always_inline]] inline float Nearest(float first, float last, float position) {
   const float before = first - position;
@@ -74,6 +77,7 @@ namespace {
   }
 }
 
+// The first two circles at which each share falls, for the planets whose share takes few values.
 [[gnu::always_inline]] inline void FindSteps(InfluenceRule rule, std::size_t count,
                                              const RadiatingPlanet* __restrict planets,
                                              const int* __restrict atLeast,

@@ -1,5 +1,7 @@
 #include "loading/influence_values.h"
 
+#include <algorithm>
+
 #include "model/game_choice.h"
 #include "model/rounding.h"
 
