@@ -74,7 +74,7 @@ bool IsBelowOne(std::string_view literal) {
   const size_t firstDigit = mantissa.find_first_of("123456789");
   const size_t point = std::min(mantissa.find('.'), mantissa.size());
   return firstDigit == mantissa.npos ||
-         static_cast<long long>(point) + exponent < static_cast<long long>(firstDigit);
+         exponent < static_cast<long long>(firstDigit) - static_cast<long long>(point);
 }
 
 LeadingNumber ReadDecimal(std::string_view text) {

@@ -23,6 +23,7 @@ TEST(NumericValue, ReadsTheNumberThatATextBeginsWith) {
   EXPECT_EQ(NumericValue("0." + zeros + "1"), 0);  // beyond a double without an exponent, too
   EXPECT_EQ(NumericValue("1" + zeros + "e-1"), NumericValue("1e999"));
   EXPECT_EQ(NumericValue("&H1" + zeros), NumericValue("1e999"));
+  EXPECT_EQ(NumericValue("1e9223372036854775807"), NumericValue("1e999"));
 }
 
 TEST(FieldValue, ReadsAsANumberOnlyWhenTheWholeFieldIsThatNumber) {
