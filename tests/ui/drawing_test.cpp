@@ -11,7 +11,7 @@ namespace {
 
 class DrawingTest : public LoadedGameTest {
  protected:
-  DrawingTest() { window.Detail->setCurrentIndex(4); }
+  DrawingTest() { OpenTools(); }
 
   QPlainTextEdit& Plot() { return driver.Find<QPlainTextEdit>("PlotBox"); }
   std::string Layer() { return Plot().toPlainText().toStdString(); }
