@@ -81,7 +81,7 @@ TEST_F(LoadedGameTest, ClearMapAndTheNextLoadReleaseWhatWasSwitchedOn) {
   EXPECT_FALSE(driver.Action("mnuToolBarButClear").isChecked());
 }
 
-TEST_F(LoadedGameTest, ZoomsByABoxUntilTheButtonIsReleased) {
+TEST_F(LoadedGameTest, ZoomsByABoxAndScrollsUntilTheButtonIsReleased) {
   driver.Click("OvButt(4)").Click("OvButt(11)").ClickAt("Universe", At({1120, 1250}));
   const QImage full = Map();
   const int fullSide = driver.Find("CurrentSelected").width();
@@ -90,36 +90,31 @@ TEST_F(LoadedGameTest, ZoomsByABoxUntilTheButtonIsReleased) {
   EXPECT_FALSE(driver.IsEnabled("OvButt(2)") || driver.Action("mnuOver").isEnabled());
   driver.MoveTo("Universe", end).ClickAt("Universe", end);
   EXPECT_TRUE(driver.IsEnabled("OvButt(2)") && driver.Action("mnuOver").isEnabled());
-  EXPECT_NEAR(window.Map->State().View.ViewXMin, 100, 1);
-  EXPECT_NEAR(window.Map->State().View.ViewXMax, 200, 1);
-  EXPECT_NEAR(driver.Find("CurrentSelected").width(), 4 * fullSide, 12);
-  EXPECT_FALSE(Map() == full);
-  driver.Click("OvButt(1)");
-  EXPECT_TRUE(Map() == full);
-  EXPECT_EQ(driver.Find("CurrentSelected").width(), fullSide);
-}
-
-TEST_F(LoadedGameTest, ArrowKeysScrollTheZoomedMapWhereTheFocusHasNoUseForThem) {
-  const QPoint end = At({1200, 1200});
-  driver.ClickAt("Universe", At({1120, 1250})).Click("OvButt(1)");
-  driver.ClickAt("Universe", At({1100, 1300})).MoveTo("Universe", end).ClickAt("Universe", end);
   const MapView zoomed = window.Map->State().View;
-  const int markerAt = driver.Find("CurrentSelected").x();
+  EXPECT_NEAR(zoomed.ViewXMin, 100, 1);
+  EXPECT_NEAR(zoomed.ViewXMax, 200, 1);
+  const QRect marker = driver.Find("CurrentSelected").geometry();
+  EXPECT_NEAR(marker.width(), 4 * fullSide, 12);
+
   driver.Press("Universe", Qt::Key_Right).Press("Universe", Qt::Key_A);
   driver.Press("Universe", Qt::Key_Down, Qt::ControlModifier);
   EXPECT_EQ(window.Map->State().View.ViewXMin, zoomed.ViewXMin + 1);
-  EXPECT_LT(driver.Find("CurrentSelected").x(), markerAt);
+  EXPECT_LT(driver.Find("CurrentSelected").x(), marker.x());
   const int yMin = window.Map->State().View.ViewYMin;
   EXPECT_NEAR(yMin, zoomed.ViewYMin + 50, 1);
   OpenTools();
   Activate();
   driver.Find("Draw(0)").setFocus();
   driver.Press("Combo1", Qt::Key_Down).Press("Draw(0)", Qt::Key_Down);
-  EXPECT_EQ(window.Map->State().View.ViewYMin, yMin);
-  EXPECT_EQ(window.focusWidget(), &driver.Find("Draw(1)")) << "among the tools";
+  EXPECT_EQ(window.Map->State().View.ViewYMin, yMin) << "keys of the chooser and the tools";
+  EXPECT_EQ(window.focusWidget(), &driver.Find("Draw(1)"));
   driver.Click("DColour(1)");
   QTest::keyClick(window.focusWidget(), Qt::Key_Down);
   EXPECT_EQ(window.Map->State().View.ViewYMin, yMin + 1) << "the map has the focus again";
+  EXPECT_FALSE(Map() == full);
+  driver.Press("Combo1", Qt::Key_Up).Click("OvButt(1)");
+  EXPECT_TRUE(Map() == full);
+  EXPECT_EQ(driver.Find("CurrentSelected").width(), fullSide);
 }
 
 TEST_F(LoadedGameTest, OpenZoomBoxLeavesTheMapAsItIsAndIsGivenUpByEscape) {
@@ -224,15 +219,11 @@ TEST_F(MainWindowTest, PlanetOnShowIsToldAnewWithItsGameAndGoneWithAnother) {
 }
 
 TEST_F(MainWindowTest, OldReportsLeaveTheirTabsAlone) {
-  folder.AddOldReport();
-  std::filesystem::remove(folder / "Demo.P1");
-  std::filesystem::remove(folder / "Demo.P3");
+  folder.AddOldReport();  // which is taken, because questions are answered with no
   Load();
-  ASSERT_EQ(window.Session().ReportStyle, kOldReportStyle);
   driver.Find<QLabel>("SGType").setText("as it was");
   driver.ClickAt("Universe", At({1050, 1300}));
-  EXPECT_EQ(driver.Text("Temp1"), "Unavailable");
-  EXPECT_EQ(driver.Text("SGType"), "as it was");
+  EXPECT_EQ(driver.Text("Temp1") + driver.Text("SGType"), "Unavailableas it was");
   EXPECT_EQ(driver.Text("RHab(0)"), "");
 }
 
@@ -244,13 +235,9 @@ TEST_F(LoadedGameTest, ChartsSwitchBetweenPiesAndBars) {
   const QWidget& bar = driver.Find("MSB");
   EXPECT_EQ(QRect(bar.mapTo(window.Detail, QPoint()), bar.size()), QRect(220, 151, 21, 9));
   EXPECT_EQ(window.focusWidget(), &driver.Find("Universe"));
-  driver.Click("ChartType");
-  EXPECT_TRUE(driver.IsVisible("Pie2"));
-  EXPECT_FALSE(driver.IsVisible("MSG"));
-  // Delta was never seen: its charts are blank, whatever was shown before.
-  driver.ClickAt("Universe", At({1390, 1390}));
-  EXPECT_TRUE(driver.Find<PieChart>("Pie1").Slices().empty());
-  EXPECT_EQ(driver.Find("MCI").height(), 0);
+  driver.Click("ChartType").ClickAt("Universe", At({1390, 1390}));
+  EXPECT_TRUE(driver.IsVisible("Pie2") && !driver.IsVisible("MSG"));
+  EXPECT_TRUE(driver.Find<PieChart>("Pie1").Slices().empty()) << "a planet that was never seen";
 }
 
 TEST_F(LoadedGameTest, PointerIsFollowedInTheStatusLine) {
