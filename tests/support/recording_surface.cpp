@@ -31,11 +31,12 @@ std::string After(std::string_view mark, std::string_view text) {
 
 std::string ModeText(const Pen& pen) { return pen.Mode == DrawMode::Copy ? "copy" : "merge"; }
 
-std::string StyleText(const Pen& pen) {
-  return pen.Style == DrawStyle::Solid ? "solid" : "no-outline";
-}
-
 std::string WidthText(const Pen& pen) { return After("w", std::to_string(pen.Width)); }
+
+std::string PenText(const Pen& pen) {
+  const std::string style = pen.Style == DrawStyle::Solid ? " solid " : " no-outline ";
+  return ModeText(pen) + style + WidthText(pen);
+}
 
 }  // namespace
 
@@ -47,9 +48,8 @@ void RecordingSurface::Clear() {
 void RecordingSurface::SetBackground(std::shared_ptr<const SurfaceImage> image) {
   const auto* recorded = dynamic_cast<const RecordedImage*>(image.get());
   shown_ = recorded != nullptr ? recorded->Lines : Texts();
-  const std::string count = std::to_string(shown_.size());
-  lines_.push_back(recorded != nullptr ? After("background of ", count) + " lines"
-                                       : "background none");
+  const std::string count = "of " + std::to_string(shown_.size()) + " lines";
+  lines_.push_back(After("background ", recorded != nullptr ? count : "none"));
 }
 
 std::shared_ptr<const SurfaceImage> RecordingSurface::Image() const {
@@ -61,14 +61,13 @@ void RecordingSurface::Point(SurfacePoint at, Colour colour) {
 }
 
 void RecordingSurface::Line(SurfacePoint from, SurfacePoint to, Colour colour) {
-  Draw({"line", PlaceText(from), PlaceText(to), ColourText(colour), ModeText(pen_), StyleText(pen_),
-        WidthText(pen_)});
+  Draw({"line", PlaceText(from), PlaceText(to), ColourText(colour), PenText(pen_)});
 }
 
 void RecordingSurface::Circle(SurfacePoint centre, double radius, Colour colour) {
   const std::string fill = pen_.Filled ? After("fill ", ColourText(fillColour_)) : "hollow";
-  Draw({"circle", PlaceText(centre), After("r", NumberText(radius)), ColourText(colour), fill,
-        ModeText(pen_), StyleText(pen_), WidthText(pen_)});
+  const std::string size = After("r", NumberText(radius));
+  Draw({"circle", PlaceText(centre), size, ColourText(colour), fill, PenText(pen_)});
 }
 
 void RecordingSurface::Print(SurfacePoint topLeft, std::string_view text) {

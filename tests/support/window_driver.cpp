@@ -29,6 +29,8 @@ WindowDriver& WindowDriver::ClickAt(const QString& name, QPoint at) {
 }
 
 WindowDriver& WindowDriver::MoveTo(const QString& name, QPoint at) {
+  // A pointer that is there already, from an earlier test, would not move.
+  QTest::mouseMove(&Usable(name), at + QPoint(1, 1));
   QTest::mouseMove(&Usable(name), at);
   return *this;
 }

@@ -57,8 +57,6 @@ class EmpireStatTest : public testing::Test {
 
 TEST_F(EmpireStatTest, OpensOnTheUsersOwnRaceOrOnNone) {
   EXPECT_EQ(window->SSTab1->currentIndex(), 0);
-  EXPECT_EQ(window->Combo1->itemText(1), "Drask");
-  EXPECT_EQ(window->CurrentPlayer, 1);
   EXPECT_EQ(driver->Text("ShowData(4)"), "1000");
   EXPECT_EQ(driver->Text("AvgData(0)") + " " + driver->Text("AvgData(4)"), "333 3.333");
   Open("");
@@ -69,12 +67,11 @@ TEST_F(EmpireStatTest, OpensOnTheUsersOwnRaceOrOnNone) {
 
 TEST_F(EmpireStatTest, LongNamesAndSumsAreShortenedAndTheTooltipTellsThem) {
   const QSize usual = window->size();
-  EXPECT_EQ(window->Totals->ShowData[14]->toolTip(), "Total Territory in ly");
   const std::string name(300, 'W');
   const QString sum(300, '9');
-  session.Player(1)[PlayerField::Name] = FieldValue(name);
-  session.Player(1)[PlayerField::Territory] = FieldValue(ToText(sum));
-  session.Player(1)[PlayerField::GravMin] = FieldValue(ToText(sum));
+  PlayerRecord& player = session.Player(1);
+  player[PlayerField::Name] = FieldValue(name);
+  player[PlayerField::Territory] = player[PlayerField::GravMin] = FieldValue(ToText(sum));
   Open(name.c_str());
   EXPECT_EQ(window->size(), usual);
   EXPECT_EQ(window->Combo1->toolTip(), ToQString(name));
@@ -91,25 +88,19 @@ TEST_F(EmpireStatTest, ShowsAPlayerWhenTheTextIsExactlyItsName) {
     EXPECT_EQ(window->CurrentPlayer, 1) << other;
     EXPECT_TRUE(window->isVisible());
   }
+  const auto before = session.PlayerTable;
   driver->Type("Combo1", "Drask");
   EXPECT_EQ(window->CurrentPlayer, 2);
   EXPECT_EQ(driver->Text("AvgData(0)"), "");
-  driver->Press("Combo1", Qt::Key_Up);
-  EXPECT_EQ(driver->Text("Combo1"), "Humanoid");
-  EXPECT_EQ(window->CurrentPlayer, 1);
-}
-
-TEST_F(EmpireStatTest, FillingTheControlsChangesNoRecord) {
-  const auto before = session.PlayerTable;
-  for (const char* name : {"Drask", "Humanoid", "Drask"}) {
-    driver->Type("Combo1", name).Press("Combo1", Qt::Key_Tab);
-    OnTab(1).Press("RacePRT", Qt::Key_Tab);
-  }
+  OnTab(1).Press("RacePRT", Qt::Key_Tab);
   EXPECT_EQ(driver->Text("RacePRT"), "he");
   EXPECT_EQ(window->RaceNotes->toPlainText(), "one\ntwo");
   EXPECT_TRUE(driver->IsDown("ImmuneMark(2)"));
   EXPECT_FALSE(driver->IsDown("ImmuneMark(1)") || driver->IsDown("LRT(0)"));
-  EXPECT_TRUE(session.PlayerTable == before);
+  driver->Press("Combo1", Qt::Key_Up);
+  EXPECT_EQ(driver->Text("Combo1"), "Humanoid");
+  EXPECT_EQ(window->CurrentPlayer, 1);
+  EXPECT_TRUE(session.PlayerTable == before) << "filling the controls changes nothing";
 }
 
 TEST_F(EmpireStatTest, ClickOrKeyOnARangeAsksForItsNewValue) {
@@ -130,9 +121,7 @@ TEST_F(EmpireStatTest, ClickOrKeyOnARangeAsksForItsNewValue) {
 TEST_F(EmpireStatTest, ImmunityStandsInPlaceOfItsRange) {
   OnTab(1).Click("ImmuneMark(0)").Click("ShowData(9)");
   EXPECT_EQ(prompts.Shown(), Texts{"This race is Immune to this hab type"});
-  EXPECT_EQ(driver->Text("ShowData(8)"), "Immune");
-  EXPECT_EQ(driver->Text("ShowData(10)"), "-100");
-  EXPECT_EQ(Field(19), FieldValue(1));
+  EXPECT_EQ(driver->Text("ShowData(8)") + driver->Text("ShowData(10)"), "Immune-100");
   driver->Type("Combo1", "Drask");
   EXPECT_EQ(driver->Text("ShowData(9)") + driver->Text("ShowData(12)"), "1Immune");
   driver->Type("Combo1", "Humanoid").Click("ImmuneMark(0)");
@@ -141,14 +130,11 @@ TEST_F(EmpireStatTest, ImmunityStandsInPlaceOfItsRange) {
 }
 
 TEST_F(EmpireStatTest, RecalculationEstimatesAnewAndEndsImmunities) {
-  OnTab(1).Click("ImmuneMark(2)").Type("Combo1", "nobody");
-  const auto before = session.PlayerTable;
-  driver->Click("ReCalcHab");
+  OnTab(1).Click("ImmuneMark(2)").Type("Combo1", "nobody").Click("ReCalcHab");
   EXPECT_EQ(prompts.Shown(), Texts{"There is no empire named \"nobody\". Nothing was changed."});
-  EXPECT_TRUE(session.PlayerTable == before);
+  EXPECT_EQ(Field(21), FieldValue(1));
   driver->Type("Combo1", "Humanoid").Click("ReCalcHab");
-  EXPECT_EQ(driver->Text("ShowData(9)"), "1.75");
-  EXPECT_EQ(driver->Text("ShowData(13)"), "20");
+  EXPECT_EQ(driver->Text("ShowData(9)") + " " + driver->Text("ShowData(13)"), "1.75 20");
   EXPECT_EQ(Field(21), FieldValue(0));
 }
 

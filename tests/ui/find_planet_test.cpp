@@ -62,9 +62,7 @@ TEST_F(FindPlanetTest, EnterGoesToTheTypedNameAlthoughCompletionsAreOffered) {
   QTest::keyClick(&completions, Qt::Key_Return);
   EXPECT_EQ(driver.Text("PlanetList"), "Beta");
   EXPECT_TRUE(dialog.isVisible());
-  for (const QWidget* other : {dialog.Command1, dialog.Command2}) {
-    EXPECT_GT(other->geometry().left(), dialog.PlanetList->geometry().right());
-  }
+  EXPECT_GT(dialog.Command1->x(), dialog.PlanetList->geometry().right());
 }
 
 TEST_F(FindPlanetTest, ListsThePlanetsOfTheGameOnScreenAtEachOpening) {

@@ -7,6 +7,7 @@
 #include "support/game_folder.h"
 #include "support/scripted_prompts.h"
 #include "support/window_driver.h"
+#include "ui/details_panel.h"
 #include "ui/main_window.h"
 #include "ui/map_panel.h"
 
@@ -30,6 +31,12 @@ class MainWindowTest : public testing::Test {
   }
 
   void Load() { LoadGame(driver, "Demo.MAP"); }
+  void OpenTools() { window.Detail->setCurrentWidget(window.Detail->Tools); }
+  // Gives the keyboard back to the window, which a hidden dialog has kept.
+  void Activate() {
+    window.activateWindow();
+    QApplication::processEvents();
+  }
 
   // The pixel of the map where a place in game coordinates is shown.
   QPoint At(GamePoint place) {

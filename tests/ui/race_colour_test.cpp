@@ -49,7 +49,7 @@ TEST_F(RaceColourTest, DarkColoursAreRefusedAndClosingStoresNothing) {
 TEST_F(RaceColourTest, FrameOfTheFocusIsSeenWholeAboveTheNextSwatch) {
   const QWidget& swatch = driver.Find("RaceC(0)");
   const QPoint belowRight(swatch.geometry().right(), driver.Find("RaceC(1)").y() - 1);
-  QApplication::setActiveWindow(&window);  // the hidden dialog has kept the focus here
+  Activate();
   driver.Find("RaceC(0)").setFocus();
   const QImage shown = swatch.parentWidget()->grab().toImage();
   EXPECT_EQ(shown.pixel(swatch.pos()), QColor(Qt::white).rgb());
