@@ -148,7 +148,8 @@ void Main::ConnectParts() {
   connect(RaceLegend, &Legend::Chosen, this, &Main::RaceC_Click);
   const auto focusMap = [this] { Map->Universe->setFocus(); };
   connect(Detail->Minerals, &MineralsTab::ChartsSwitched, this, focusMap);
-  connect(Detail->Tools, &DrawingTools::ChosenByMouse, this, focusMap);
+  // A button that lost the focus before it saw the click would not be chosen.
+  connect(Detail->Tools, &DrawingTools::ChosenByMouse, this, focusMap, Qt::QueuedConnection);
 }
 
 // No overlay may change in the middle of a zoom.

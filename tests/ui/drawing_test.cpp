@@ -11,7 +11,10 @@ namespace {
 
 class DrawingTest : public LoadedGameTest {
  protected:
-  DrawingTest() { OpenTools(); }
+  DrawingTest() {
+    OpenTools();
+    Activate();
+  }
 
   QPlainTextEdit& Plot() { return driver.Find<QPlainTextEdit>("PlotBox"); }
   std::string Layer() { return Plot().toPlainText().toStdString(); }

@@ -109,6 +109,7 @@ TEST_F(LoadedGameTest, ZoomsByABoxAndScrollsUntilTheButtonIsReleased) {
   EXPECT_EQ(window.Map->State().View.ViewYMin, yMin) << "keys of the chooser and the tools";
   EXPECT_EQ(window.focusWidget(), &driver.Find("Draw(1)"));
   driver.Click("DColour(1)");
+  QApplication::processEvents();
   QTest::keyClick(window.focusWidget(), Qt::Key_Down);
   EXPECT_EQ(window.Map->State().View.ViewYMin, yMin + 1) << "the map has the focus again";
   EXPECT_FALSE(Map() == full);
