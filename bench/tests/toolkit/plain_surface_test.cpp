@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
+#include <initializer_list>
 #include <random>
 #include <string>
 #include <tuple>
@@ -106,6 +107,28 @@ TEST(PictureText, LooksAsIfItWereLaidOutEachTime) {
       EXPECT_EQ(print(fast, points, text), print(plain, points, text)) << text;
       EXPECT_TRUE(fast.Picture() == plain.Picture()) << text << " in " << points << " points";
     }
+  }
+}
+
+// Characters are kept one by one, so how they follow each other must not matter.
+TEST(PictureText, OfAnyPlainCharactersLooksAsIfItWereLaidOutEachTime) {
+  PictureSurface fast(kSize, 1, kUnits);
+  reference::PlainSurface plain(kSize, 1, kUnits);
+  std::mt19937 dice(1);
+  const auto below = [&dice](int limit) { return static_cast<int>(dice() % std::uint32_t(limit)); };
+  for (int i = 0; i < 1500; ++i) {
+    std::string text;
+    for (int length = below(12); length > 0; --length) text += static_cast<char>(' ' + below(95));
+    if (i % 9 == 0) text += "\u00c5\u00fc\u0416";
+    const double points = 1 + below(47);  // outlines of larger ones depend on the place
+    const SurfacePoint at = {below(150) - 40.0, below(130) - 40.0};
+    for (DrawingSurface* const surface : std::initializer_list<DrawingSurface*>{&fast, &plain}) {
+      if (i % 20 == 0) surface->Clear();
+      surface->SetFontSize(points);
+      surface->Print(at, text);
+    }
+    ASSERT_EQ(fast.TextWidth(text), plain.TextWidth(text)) << text;
+    ASSERT_TRUE(fast.Picture() == plain.Picture()) << text << " in " << points << " points";
   }
 }
 

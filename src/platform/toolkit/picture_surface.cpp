@@ -1,6 +1,5 @@
 #include "platform/toolkit/picture_surface.h"
 
-#include <QFont>
 #include <QGlyphRun>
 #include <QPainter>
 #include <algorithm>
@@ -93,13 +92,15 @@ void PictureSurface::Circle(SurfacePoint centre, double radius, Colour colour) {
 
 void PictureSurface::Print(SurfacePoint topLeft, std::string_view text) {
   const QPointF at = DevicePoint(topLeft);
-  const TextLayout& layout = Texts().Of(text);
+  SizedFont& font = texts_.FontOf(fontPoints_, picture_);
   // A position that is no number fails here as well.
-  const bool isInPicture = at.x() < picture_.width() && at.y() < picture_.height() &&
-                           at.x() > -layout.Width && at.y() > -layout.Height;
-  if (!isInPicture) return;
+  const bool mayBeInPicture = at.x() < picture_.width() && at.y() < picture_.height() &&
+                              at.y() > -font.Height && at.x() > -font.MostWidth(text);
+  if (!mayBeInPicture) return;
+  const TextLayout& layout = texts_.Of(font, text);
+  if (!(at.x() > -layout.Width)) return;
   const QPointF corner(std::floor(at.x() + 0.5), std::floor(at.y() + 0.5));
-  if (!layout.Runs.empty()) {
+  if (layout.Glyphs.isEmpty()) {
     PixelCanvas canvas(Pixels(), deviceSize_, DrawMode::Copy);
     canvas.Runs({static_cast<int>(corner.x()), static_cast<int>(corner.y())}, layout.Runs,
                 foreColour_);
@@ -113,7 +114,7 @@ void PictureSurface::Print(SurfacePoint topLeft, std::string_view text) {
 }
 
 double PictureSurface::TextWidth(std::string_view text) const {
-  return Texts().Of(text).Width / pixelsPerUnitX_;
+  return texts_.Of(texts_.FontOf(fontPoints_, picture_), text).Width / pixelsPerUnitX_;
 }
 
 QRgb* PictureSurface::Pixels() { return reinterpret_cast<QRgb*>(picture_.bits()); }
@@ -130,19 +131,7 @@ void PictureSurface::MakePicture() {
   pixelsPerUnitX_ = deviceSize_.width() / units_.width();
   pixelsPerUnitY_ = deviceSize_.height() / units_.height();
   dot_ = DotMask(DevicePenWidth(), deviceSize_.width());
-  texts_.clear();
-}
-
-TextLayouts& PictureSurface::Texts() const {
-  constexpr std::size_t kMostSizes = 16;  // a map has two or three
-  const auto known = texts_.find(fontPoints_);
-  if (known != texts_.end()) return known->second;
-  if (texts_.size() >= kMostSizes) texts_.clear();
-  QFont font(QStringLiteral("Arial"));
-  font.setPointSizeF(fontPoints_);
-  font.setStyleStrategy(QFont::NoAntialias);  // every pixel in the colour that was asked for
-  font.setHintingPreference(QFont::PreferFullHinting);
-  return texts_.emplace(fontPoints_, QFont(font, &picture_)).first->second;
+  texts_.Clear();
 }
 
 }  // namespace quorvane

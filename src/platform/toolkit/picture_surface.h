@@ -3,7 +3,6 @@
 #include <QImage>
 #include <QSize>
 #include <QSizeF>
-#include <map>
 #include <memory>
 #include <string_view>
 
@@ -63,8 +62,6 @@ class PictureSurface : public DrawingSurface {
   }
   int DevicePenWidth() const;
   void MakePicture();
-  // The texts of the font size.
-  TextLayouts& Texts() const;
 
   QSize size_;        // in pixels of an ordinary screen
   QSize deviceSize_;  // in the picture's pixels
@@ -82,8 +79,7 @@ class PictureSurface : public DrawingSurface {
   QRgb fillColour_ = RgbOf({0, 0, 0});
   QRgb foreColour_ = RgbOf({255, 255, 255});
   double fontPoints_ = 8.25;
-  // For each font size; filled as texts are asked for.
-  mutable std::map<double, TextLayouts> texts_;
+  mutable TextLayouts texts_;  // filled as they are asked for
 };
 
 }  // namespace quorvane
