@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <memory>
 #include <string_view>
 
@@ -56,6 +57,14 @@ class DrawingSurface {
   virtual void SetForeColour(Colour colour) = 0;
   /// In points, above 0.
   virtual void SetFontSize(double points) = 0;
+
+  /// Turns the order of drawing round: until `EndTopDown`, what is drawn goes below all that was
+  /// drawn since. What is covered already costs next to nothing then, however often it is drawn.
+  /// In between, only shapes and texts may be drawn, and these in copy mode.
+  /// @param drawings about how many are to come
+  /// @return false, and nothing changes, for a surface that cannot do so, or when it does not pay
+  virtual bool BeginTopDown(std::size_t /*drawings*/) { return false; }
+  virtual void EndTopDown() {}
 
   /// A filled dot of the pen's width.
   virtual void Point(SurfacePoint at, Colour colour) = 0;

@@ -9,8 +9,10 @@
 #include <random>
 #include <string>
 #include <tuple>
+#include <vector>
 
 #include "platform/toolkit/picture_surface.h"
+#include "render/drawing_layer.h"
 
 namespace quorvane {
 namespace {
@@ -129,6 +131,35 @@ TEST(PictureText, OfAnyPlainCharactersLooksAsIfItWereLaidOutEachTime) {
     }
     ASSERT_EQ(fast.TextWidth(text), plain.TextWidth(text)) << text;
     ASSERT_TRUE(fast.Picture() == plain.Picture()) << text << " in " << points << " points";
+  }
+}
+
+// A layer so long that it is drawn from the top down, and covers most of itself.
+TEST(DrawDrawingLayer, LooksTheSameFromTheTopDown) {
+  std::mt19937 dice(3);
+  const auto below = [&dice](int limit) { return static_cast<int>(dice() % std::uint32_t(limit)); };
+  constexpr DrawingKind kKinds[] = {DrawingKind::Line, DrawingKind::Circle, DrawingKind::Text};
+  for (const double ratio : {0.75, 1.0, 2.0}) {
+    std::vector<DrawingRecord> layer(2000);
+    const int size = 1 + below(300);
+    for (DrawingRecord& record : layer) {
+      record = {.Kind = kKinds[below(3)],
+                .X = 1000 + below(400),
+                .Y = 1000 + below(400),
+                .X2 = 900 + below(600),
+                .Y2 = 900 + below(600),
+                .Radius = below(2) * below(size),
+                .Text = std::string(1 + below(9), static_cast<char>('!' + below(94))),
+                .Size = 1.0 + below(20),
+                .ColourNumber = 1 + below(7)};
+    }
+    MapView view;
+    view.ShowAll(1400);
+    PictureSurface fast({150, 110}, ratio);
+    reference::PlainSurface plain({150, 110}, ratio);
+    DrawDrawingLayer(layer, view, fast);
+    DrawDrawingLayer(layer, view, plain);
+    EXPECT_TRUE(fast.Picture() == plain.Picture()) << "at ratio " << ratio;
   }
 }
 

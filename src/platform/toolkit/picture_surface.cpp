@@ -4,7 +4,6 @@
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
-#include <optional>
 #include <utility>
 
 namespace quorvane {
@@ -14,6 +13,8 @@ namespace {
 constexpr double kOrdinaryDotsPerInch = 96;
 constexpr double kInchesPerMetre = 1 / 0.0254;
 constexpr double kLargestFontPoints = 1000;
+// What a text that is drawn as outlines costs, in parts of a line.
+constexpr int kLargeTextWork = 1000;
 
 class PictureImage : public SurfaceImage {
  public:
@@ -33,6 +34,13 @@ QImage BlankPicture(QSize size, double ratio) {
   picture.setDotsPerMeterX(dotsPerMetre);
   picture.setDotsPerMeterY(dotsPerMetre);
   return picture;
+}
+
+PixelBox PixelsOf(const QRectF& box) {
+  const auto pixel = [](double value) {
+    return static_cast<int>(std::clamp<double>(std::floor(value), -1, kFarthestPixel));
+  };
+  return {pixel(box.left()), pixel(box.top()), pixel(box.right()), pixel(box.bottom())};
 }
 
 }  // namespace
@@ -73,13 +81,32 @@ void PictureSurface::SetFontSize(double points) {
   fontPoints_ = std::clamp(points, 1.0, kLargestFontPoints);
 }
 
+bool PictureSurface::BeginTopDown(std::size_t drawings) {
+  constexpr std::size_t kLeastDrawings = 1000;  // laying the whole over the picture takes its time
+  if (drawings < kLeastDrawings) return false;
+  QImage picture(deviceSize_, QImage::Format_ARGB32);
+  picture.fill(kFreePixel);
+  const auto* const pixels = reinterpret_cast<const QRgb*>(picture.constBits());
+  topDown_ = TopDown{std::move(picture), CoveredTiles(pixels, deviceSize_),
+                     QImage(deviceSize_, QImage::Format_RGB32)};
+  return true;
+}
+
+void PictureSurface::EndTopDown() {
+  const qsizetype count = qsizetype{deviceSize_.width()} * deviceSize_.height();
+  const auto* const above = reinterpret_cast<const QRgb*>(topDown_->Picture.constBits());
+  auto* const below = reinterpret_cast<QRgb*>(picture_.bits());
+  for (qsizetype i = 0; i < count; ++i) below[i] = above[i] == kFreePixel ? below[i] : above[i];
+  topDown_.reset();
+}
+
 void PictureSurface::Point(SurfacePoint at, Colour colour) {
-  Canvas().Dot(at.X * pixelsPerUnitX_, at.Y * pixelsPerUnitY_, dot_, RgbOf(colour));
+  Canvas(pen_.Mode).Dot(at.X * pixelsPerUnitX_, at.Y * pixelsPerUnitY_, dot_, RgbOf(colour));
 }
 
 void PictureSurface::Line(SurfacePoint from, SurfacePoint to, Colour colour) {
   if (pen_.Style == DrawStyle::NoOutline) return;
-  Canvas().Line(DevicePoint(from), DevicePoint(to), dot_, RgbOf(colour));
+  Canvas(pen_.Mode).Line(DevicePoint(from), DevicePoint(to), dot_, RgbOf(colour));
 }
 
 void PictureSurface::Circle(SurfacePoint centre, double radius, Colour colour) {
@@ -87,39 +114,79 @@ void PictureSurface::Circle(SurfacePoint centre, double radius, Colour colour) {
   std::optional<QRgb> fill;
   if (pen_.Style == DrawStyle::Solid) outline = RgbOf(colour);
   if (pen_.Filled) fill = fillColour_;
-  Canvas().Circle(DevicePoint(centre), radius * pixelsPerUnitX_, DevicePenWidth(), outline, fill);
+  Canvas(pen_.Mode).Circle(DevicePoint(centre), radius * pixelsPerUnitX_, DevicePenWidth(), outline,
+                           fill);
 }
 
 void PictureSurface::Print(SurfacePoint topLeft, std::string_view text) {
   const QPointF at = DevicePoint(topLeft);
   SizedFont& font = texts_.FontOf(fontPoints_, picture_);
+  const double mostWidth = font.MostWidth(text);
   // A position that is no number fails here as well.
   const bool mayBeInPicture = at.x() < picture_.width() && at.y() < picture_.height() &&
-                              at.y() > -font.Height && at.x() > -font.MostWidth(text);
+                              at.x() > -mostWidth && at.y() > -font.Height;
   if (!mayBeInPicture) return;
+  const QPointF corner(std::floor(at.x() + 0.5), std::floor(at.y() + 0.5));
+  const bool isPlain = std::isfinite(mostWidth);
+  if (isPlain && IsHidden(font.InkBox(mostWidth).translated(corner))) return;
   const TextLayout& layout = texts_.Of(font, text);
   if (!(at.x() > -layout.Width)) return;
-  const QPointF corner(std::floor(at.x() + 0.5), std::floor(at.y() + 0.5));
+  // Substitute fonts may go anywhere; what is kept of their texts does not.
+  const double margin = layout.Glyphs.isEmpty() ? std::ceil(layout.Height) : kFarthestPixel;
+  const QRectF box = isPlain ? font.InkBox(layout.Width)
+                             : QRectF(0, 0, layout.Width, layout.Height)
+                                   .marginsAdded({margin, margin, margin, margin});
+  if (IsHidden(box.translated(corner))) return;
   if (layout.Glyphs.isEmpty()) {
-    PixelCanvas canvas(Pixels(), deviceSize_, DrawMode::Copy);
-    canvas.Runs({static_cast<int>(corner.x()), static_cast<int>(corner.y())}, layout.Runs,
-                foreColour_);
-    return;
+    const PixelPlace pixel = {static_cast<int>(corner.x()), static_cast<int>(corner.y())};
+    Canvas(DrawMode::Copy).Runs(pixel, layout.Runs, foreColour_);
+  } else if (topDown_) {
+    DrawGlyphsBelow(corner, layout, box.translated(corner));
+  } else {
+    DrawGlyphs(corner, layout, picture_);
   }
-  QPainter painter(&picture_);
+}
+
+void PictureSurface::DrawGlyphs(QPointF corner, const TextLayout& layout, QImage& picture) const {
+  QPainter painter(&picture);
   painter.setPen(QColor(foreColour_));
   for (const QGlyphRun& glyphs : layout.Glyphs) {
     painter.drawGlyphRun(corner + QPointF(0, layout.Drop), glyphs);
   }
 }
 
+void PictureSurface::DrawGlyphsBelow(QPointF corner, const TextLayout& layout, const QRectF& box) {
+  const PixelBox seen = topDown_->Covered.SeenPart(PixelsOf(box));
+  const auto rowOf = [](QImage& picture, int y) {
+    return reinterpret_cast<QRgb*>(picture.scanLine(y));
+  };
+  for (int y = seen.Top; y <= seen.Bottom; ++y) {
+    QRgb* const row = rowOf(topDown_->Glyphs, y);
+    std::fill(row + seen.Left, row + seen.Right + 1, kFreePixel);
+  }
+  DrawGlyphs(corner, layout, topDown_->Glyphs);
+  for (int y = seen.Top; y <= seen.Bottom; ++y) {
+    const QRgb* const glyphs = rowOf(topDown_->Glyphs, y);
+    QRgb* const row = rowOf(topDown_->Picture, y);
+    for (int x = seen.Left; x <= seen.Right; ++x) {
+      row[x] = row[x] == kFreePixel ? glyphs[x] : row[x];
+    }
+  }
+  topDown_->Covered.CountWork(kLargeTextWork);
+}
+
+bool PictureSurface::IsHidden(const QRectF& box) {
+  return topDown_ && topDown_->Covered.Hide(PixelsOf(box));
+}
+
 double PictureSurface::TextWidth(std::string_view text) const {
   return texts_.Of(texts_.FontOf(fontPoints_, picture_), text).Width / pixelsPerUnitX_;
 }
 
-QRgb* PictureSurface::Pixels() { return reinterpret_cast<QRgb*>(picture_.bits()); }
-
-PixelCanvas PictureSurface::Canvas() { return {Pixels(), deviceSize_, pen_.Mode}; }
+PixelCanvas PictureSurface::Canvas(DrawMode mode) {
+  if (!topDown_) return {reinterpret_cast<QRgb*>(picture_.bits()), deviceSize_, mode};
+  return {reinterpret_cast<QRgb*>(topDown_->Picture.bits()), deviceSize_, topDown_->Covered};
+}
 
 int PictureSurface::DevicePenWidth() const { return std::max(qRound(pen_.Width * ratio_), 1); }
 

@@ -1,12 +1,16 @@
 #pragma once
 
 #include <QImage>
+#include <QRectF>
 #include <QSize>
 #include <QSizeF>
+#include <cstddef>
 #include <memory>
+#include <optional>
 #include <string_view>
 
 #include "platform/toolkit/colours.h"
+#include "platform/toolkit/covered_tiles.h"
 #include "platform/toolkit/pixel_canvas.h"
 #include "platform/toolkit/text_layouts.h"
 #include "platform/toolkit/twips.h"
@@ -46,6 +50,9 @@ class PictureSurface : public DrawingSurface {
   void SetForeColour(Colour colour) override { foreColour_ = RgbOf(colour); }
   void SetFontSize(double points) override;
 
+  bool BeginTopDown(std::size_t drawings) override;
+  void EndTopDown() override;
+
   void Point(SurfacePoint at, Colour colour) override;
   void Line(SurfacePoint from, SurfacePoint to, Colour colour) override;
   void Circle(SurfacePoint centre, double radius, Colour colour) override;
@@ -55,8 +62,19 @@ class PictureSurface : public DrawingSurface {
   int WidthInTwips() const override { return TwipsFromPixels(size_.width()); }
 
  private:
-  QRgb* Pixels();
-  PixelCanvas Canvas();
+  // What is drawn from the top down, before it is laid over the picture.
+  struct TopDown {
+    QImage Picture;
+    CoveredTiles Covered;
+    QImage Glyphs;  // of a large text, before they go below the picture
+  };
+
+  PixelCanvas Canvas(DrawMode mode);
+  // Whether nothing in a box of the picture can be seen.
+  bool IsHidden(const QRectF& box);
+  void DrawGlyphs(QPointF corner, const TextLayout& layout, QImage& picture) const;
+  // The same below the picture that is drawn from the top down, when all lies in a box.
+  void DrawGlyphsBelow(QPointF corner, const TextLayout& layout, const QRectF& box);
   QPointF DevicePoint(SurfacePoint point) const {
     return {point.X * pixelsPerUnitX_, point.Y * pixelsPerUnitY_};
   }
@@ -73,6 +91,7 @@ class PictureSurface : public DrawingSurface {
   QImage picture_;
   QImage blank_;
   QImage background_;
+  std::optional<TopDown> topDown_;
 
   Pen pen_;
   DotMask dot_{1, 1};

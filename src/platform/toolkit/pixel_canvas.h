@@ -3,11 +3,15 @@
 #include <QPointF>
 #include <QRgb>
 #include <QSize>
+#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <span>
 #include <vector>
 
+#include "platform/toolkit/covered_tiles.h"
+#include "platform/toolkit/dot_way.h"
 #include "platform/toolkit/line_steps.h"
 #include "render/drawing_surface.h"
 
@@ -38,10 +42,22 @@ class DotMask {
   /// All pixels, counted from the mask's top left corner through the rows of the picture: what
   /// small dots are stamped with. Empty for a large dot, which is filled row by row.
   const std::vector<qsizetype>& Offsets() const { return offsets_; }
+  /// Those of a dot's pixels that the dot before it on a line does not have, when it lies so many
+  /// pixels right and down of that one, each -1 … 1, with some of the others: these lists have one
+  /// length. Empty for a large dot.
+  std::span<const qsizetype> NewOffsets(int right, int down) const {
+    const std::size_t length = newOffsets_.size() / kWays;
+    return {newOffsets_.data() + length * static_cast<std::size_t>(3 * down + right + 4), length};
+  }
 
  private:
+  static constexpr std::size_t kWays = 9;
+
+  bool IsOn(int x, int y) const;
+
   std::vector<PixelSpan> rows_;
   std::vector<qsizetype> offsets_;
+  std::vector<qsizetype> newOffsets_;
 };
 
 /// Draws hard-edged shapes straight into the pixels of an RGB32 picture, whose rows follow each
@@ -52,6 +68,9 @@ class PixelCanvas {
  public:
   PixelCanvas(QRgb* pixels, QSize size, DrawMode mode)
       : pixels_(pixels), width_(size.width()), height_(size.height()), mode_(mode) {}
+  /// For a picture that is drawn from the top down: only free pixels are drawn into.
+  PixelCanvas(QRgb* pixels, QSize size, CoveredTiles& covered)
+      : pixels_(pixels), width_(size.width()), height_(size.height()), covered_(&covered) {}
 
   /// One dot; its mask keeps its shape wherever the dot lies.
   void Dot(double x, double y, const DotMask& mask, QRgb colour);
@@ -66,10 +85,19 @@ class PixelCanvas {
   void Runs(PixelPlace corner, std::span<const PixelRun> runs, QRgb colour);
 
  private:
+  // Calls a function with something that puts the colour into a pixel as the mode says.
+  template <typename Draw>
+  void WithPut(QRgb colour, const Draw& draw);
   // Puts something into each pixel of a line.
   template <typename Put>
   void Follow(const LineSteps& steps, Put put);
+  // The same for the parts of it that are not hidden; the end is the line's or just behind.
+  void FollowSeen(const LineSteps& steps, PixelPlace end, QRgb colour);
   void WideLine(QPointF from, QPointF to, const DotMask& mask, QRgb colour);
+  void Dots(const DotWay& way, int first, int last, const DotMask& mask, QRgb colour);
+  void SeenDots(const DotWay& way, int first, int last, const DotMask& mask, QRgb colour);
+  void FewDots(const DotWay& way, int first, int last, const DotMask& mask, QRgb colour);
+  bool HidesRing(QPointF centre, double outer, double inner, int top, int last) const;
   // Row by row, cut to the picture.
   void FillDot(double left, double top, const DotMask& mask, QRgb colour);
   void Fill(int y, PixelSpan span, QRgb colour);
@@ -79,7 +107,8 @@ class PixelCanvas {
   QRgb* pixels_;
   int width_;
   int height_;
-  DrawMode mode_;
+  DrawMode mode_ = DrawMode::Copy;
+  CoveredTiles* covered_ = nullptr;
 };
 
 }  // namespace quorvane

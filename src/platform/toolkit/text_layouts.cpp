@@ -15,6 +15,10 @@
 namespace quorvane {
 namespace {
 
+// The characters of which a font of Latin letters has all, one after the other.
+constexpr char kFirstPlain = ' ';
+constexpr char kLastPlain = '~';
+constexpr double kExactPoints = 200;
 constexpr QRgb kNoInk = qRgb(0, 0, 0);
 constexpr double kMostInkPixels = 1 << 18;
 constexpr std::size_t kMostFonts = 1024;  // as many as there are whole numbers of points
@@ -23,6 +27,38 @@ constexpr std::size_t kEntryBytes = 200;  // what anything takes that is kept, b
 
 std::size_t BytesOf(const std::vector<PixelRun>& runs) {
   return kEntryBytes + runs.size() * sizeof(PixelRun);
+}
+
+QFont FontFor(double points, const QPaintDevice& picture) {
+  QFont font(QStringLiteral("Arial"));
+  font.setPointSizeF(points);
+  font.setStyleStrategy(QFont::NoAntialias);  // every pixel in the colour that was asked for
+  font.setHintingPreference(QFont::PreferFullHinting);
+  return {font, &picture};
+}
+
+SizedFont Measured(const QFont& font) {
+  const QFontMetricsF metrics(font);
+  // A quarter more, as two characters may be moved apart a little.
+  SizedFont sized = {.Font = font,
+                     .Ascent = metrics.ascent(),
+                     .Height = metrics.height(),
+                     .MostCharacterWidth = 1.25 * metrics.maxWidth() + 1};
+  return sized;
+}
+
+// Finds out where plain characters have pixels.
+void MeasureInk(SizedFont& sized) {
+  const QFontMetricsF metrics(sized.Font);
+  sized.InkTop = sized.Height;
+  for (char sign = kFirstPlain; sign <= kLastPlain; ++sign) {
+    const QChar character = QLatin1Char(sign);
+    const QRectF ink = metrics.boundingRect(character);
+    sized.InkTop = std::min(sized.InkTop, sized.Ascent + ink.top());
+    sized.InkBottom = std::max(sized.InkBottom, sized.Ascent + ink.bottom());
+    const double right = ink.right() - metrics.horizontalAdvance(character);
+    sized.Overhang = std::max({sized.Overhang, -ink.left(), right});
+  }
 }
 
 // The pixels that a text may cover: letters may reach beyond the line that is counted as theirs.
@@ -38,7 +74,7 @@ bool IsTooLarge(const TextLayout& layout) {
 }
 
 void AddRunsOfRow(const QImage& ink, int y, QPoint corner, std::vector<PixelRun>& runs) {
-  const auto* const row = reinterpret_cast<const QRgb*>(ink.constScanLine(y));
+  const auto* const row = reinterpret_cast<const QRgb*>(ink.constScanLine(y - corner.y()));
   const auto* const end = row + ink.width();
   const auto placeOf = [&](const QRgb* pixel) {
     return static_cast<std::int16_t>(pixel - row + corner.x());
@@ -47,21 +83,25 @@ void AddRunsOfRow(const QImage& ink, int y, QPoint corner, std::vector<PixelRun>
   const QRgb* first = std::find_if(row, end, isInk);
   while (first != end) {
     const QRgb* const behind = std::find(first, end, kNoInk);
-    runs.push_back(
-        {static_cast<std::int16_t>(y + corner.y()), placeOf(first), placeOf(behind - 1)});
+    runs.push_back({static_cast<std::int16_t>(y), placeOf(first), placeOf(behind - 1)});
     first = std::find_if(behind, end, isInk);
   }
 }
 
-// The pixels in a box that glyphs cover when they are drawn at a place.
-std::vector<PixelRun> InkOf(const QList<QGlyphRun>& glyphs, QPointF at, const QRect& box) {
+// The pixels in a box that glyphs cover when they are drawn at a place. Only some rows are looked
+// at.
+std::vector<PixelRun> InkOf(const QList<QGlyphRun>& glyphs, QPointF at, const QRect& box, int top,
+                            int bottom) {
   QImage ink(box.size(), QImage::Format_RGB32);
-  ink.fill(kNoInk);
+  for (int y = top; y <= bottom; ++y) {
+    auto* const row = reinterpret_cast<QRgb*>(ink.scanLine(y - box.top()));
+    std::fill(row, row + ink.width(), kNoInk);
+  }
   QPainter painter(&ink);
   painter.setPen(Qt::white);
   for (const QGlyphRun& run : glyphs) painter.drawGlyphRun(at - box.topLeft(), run);
   std::vector<PixelRun> runs;
-  for (int y = 0; y < ink.height(); ++y) AddRunsOfRow(ink, y, box.topLeft(), runs);
+  for (int y = top; y <= bottom; ++y) AddRunsOfRow(ink, y, box.topLeft(), runs);
   return runs;
 }
 
@@ -105,7 +145,7 @@ std::size_t FaceNumber(std::vector<QRawFont>& faces, const QRawFont& face) {
 }  // namespace
 
 double SizedFont::MostWidth(std::string_view text) const {
-  const auto isPlain = [](char sign) { return sign >= ' ' && sign <= '~'; };
+  const auto isPlain = [](char sign) { return sign >= kFirstPlain && sign <= kLastPlain; };
   if (!std::ranges::all_of(text, isPlain)) return std::numeric_limits<double>::infinity();
   return MostCharacterWidth * static_cast<double>(text.size());
 }
@@ -116,19 +156,19 @@ SizedFont& TextLayouts::FontOf(double points, const QPaintDevice& picture) {
   const auto known = fonts_.find(points);
   if (known != fonts_.end()) return known->second;
   if (fonts_.size() >= kMostFonts) Clear();
-  QFont font(QStringLiteral("Arial"));
-  font.setPointSizeF(points);
-  font.setStyleStrategy(QFont::NoAntialias);  // every pixel in the colour that was asked for
-  font.setHintingPreference(QFont::PreferFullHinting);
-  font = QFont(font, &picture);
-  const QFontMetricsF metrics(font);
-  const SizedFont sized = {.Number = static_cast<std::uint32_t>(fonts_.size()),
-                           .Font = font,
-                           .Ascent = metrics.ascent(),
-                           .Height = metrics.height(),
-                           // Twice, as two characters may be moved apart a little.
-                           .MostCharacterWidth = 2 * (metrics.maxWidth() + 1)};
-  return fonts_.emplace(points, sized).first->second;
+  SizedFont font = Measured(FontFor(points, picture));
+  font.Number = static_cast<std::uint32_t>(fonts_.size());
+  if (!exactFont_) {
+    exactFont_ = Measured(FontFor(kExactPoints, picture));
+    MeasureInk(*exactFont_);
+  }
+  // Hinting moves edges to whole pixels.
+  constexpr double kHinting = 2;
+  const double scale = font.Height / exactFont_->Height;
+  font.InkTop = std::floor(exactFont_->InkTop * scale - kHinting);
+  font.InkBottom = std::ceil(exactFont_->InkBottom * scale + kHinting);
+  font.Overhang = std::ceil(exactFont_->Overhang * scale + kHinting);
+  return fonts_.emplace(points, font).first->second;
 }
 
 const TextLayout& TextLayouts::Of(SizedFont& font, std::string_view text) {
@@ -162,14 +202,19 @@ TextLayout TextLayouts::LayOut(SizedFont& font, std::string_view text) {
                        .Height = font.Height,
                        .Runs = {}};
   if (IsTooLarge(result)) return result;
-  result.Runs = RunsOf(result, font);
+  result.Runs = RunsOf(result, font, std::isfinite(font.MostWidth(text)));
   result.Glyphs.clear();
   return result;
 }
 
-TextLayouts::Runs TextLayouts::RunsOf(const TextLayout& layout, SizedFont& font) {
+TextLayouts::Runs TextLayouts::RunsOf(const TextLayout& layout, SizedFont& font, bool isPlain) {
   const QRect box = BoxOf(layout);
-  if (!AreStamps(layout.Glyphs, layout.Drop)) return InkOf(layout.Glyphs, {0, layout.Drop}, box);
+  if (!AreStamps(layout.Glyphs, layout.Drop)) {
+    const QRect inkRows = font.InkBox(0).toAlignedRect();
+    const int top = isPlain ? std::max(inkRows.top(), box.top()) : box.top();
+    const int bottom = isPlain ? std::min(inkRows.bottom(), box.bottom()) : box.bottom();
+    return InkOf(layout.Glyphs, {0, layout.Drop}, box, top, bottom);
+  }
   Runs runs;
   for (const QGlyphRun& glyphs : layout.Glyphs) {
     const std::size_t face = FaceNumber(font.Faces, glyphs.rawFont());
@@ -199,7 +244,7 @@ const TextLayouts::Runs& TextLayouts::Character(const SizedFont& font, std::size
   const int margin = 2 + static_cast<int>(font.Height / 8);
   const QRect box = font.Faces[face].boundingRect(glyph).toAlignedRect().adjusted(-margin, -margin,
                                                                                   margin, margin);
-  Runs runs = InkOf({glyphs}, {0, 0}, box);
+  Runs runs = InkOf({glyphs}, {0, 0}, box, box.top(), box.bottom());
   const std::size_t bytes = BytesOf(runs);
   return characters_.Add(key, std::move(runs), bytes);
 }

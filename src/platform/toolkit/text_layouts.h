@@ -5,8 +5,10 @@
 #include <QList>
 #include <QPaintDevice>
 #include <QRawFont>
+#include <QRectF>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -39,11 +41,20 @@ struct SizedFont {
   double Height = 0;
   /// More than any of its own characters takes.
   double MostCharacterWidth = 0;
+  /// Between which heights below a line's top its plain letters, digits and signs have pixels, and
+  /// how far they may reach beyond the line's ends.
+  double InkTop = 0;
+  double InkBottom = 0;
+  double Overhang = 0;
   /// Where the characters of its texts were taken from: itself, and fonts that have what it lacks.
   std::vector<QRawFont> Faces;
 
   /// A width that no line of this text exceeds; infinite when only its layout can tell.
   double MostWidth(std::string_view text) const;
+  /// The box around all pixels of such a text, counted from its top left corner.
+  QRectF InkBox(double width) const {
+    return {QPointF(-Overhang, InkTop), QPointF(width + Overhang, InkBottom)};
+  }
 };
 
 /// The layouts of the texts that were asked for. A map prints the same names at every redraw, and
@@ -71,11 +82,12 @@ class TextLayouts {
   using Runs = std::vector<PixelRun>;
 
   TextLayout LayOut(SizedFont& font, std::string_view text);
-  Runs RunsOf(const TextLayout& layout, SizedFont& font);
+  Runs RunsOf(const TextLayout& layout, SizedFont& font, bool isPlain);
   // The pixels of a character whose origin lies so far below the top of a pixel.
   const Runs& Character(const SizedFont& font, std::size_t face, quint32 glyph, double down);
 
   std::unordered_map<double, SizedFont> fonts_;
+  std::optional<SizedFont> exactFont_;  // large enough to measure characters well
   // By the numbers of font, face and glyph, and by the place in a pixel.
   RecentCache<std::uint64_t, Runs> characters_;
   // By text and number of the font.
