@@ -69,6 +69,12 @@ class DrawingSurface {
   /// A filled dot of the pen's width.
   virtual void Point(SurfacePoint at, Colour colour) = 0;
   virtual void Line(SurfacePoint from, SurfacePoint to, Colour colour) = 0;
+  /// The same, telling whether it pays to draw the line from its other end as well.
+  /// @return true when that has no pixel that could be seen once this is drawn above it
+  virtual bool LineHidesItsReverse(SurfacePoint from, SurfacePoint to, Colour colour) {
+    Line(from, to, colour);
+    return false;
+  }
   /// An outline in the colour, filled as the pen and the fill colour say.
   virtual void Circle(SurfacePoint centre, double radius, Colour colour) = 0;
   /// Text in the fore colour, its top left corner at the position.

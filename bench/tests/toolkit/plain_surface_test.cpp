@@ -13,6 +13,7 @@
 
 #include "platform/toolkit/picture_surface.h"
 #include "render/drawing_layer.h"
+#include "render/stargate_overlay.h"
 
 namespace quorvane {
 namespace {
@@ -160,6 +161,32 @@ TEST(DrawDrawingLayer, LooksTheSameFromTheTopDown) {
     DrawDrawingLayer(layer, view, fast);
     DrawDrawingLayer(layer, view, plain);
     EXPECT_TRUE(fast.Picture() == plain.Picture()) << "at ratio " << ratio;
+  }
+}
+
+// Many links are the same from both ends, lie partly outside, or end between two pixels.
+TEST(DrawStargates, LooksTheSameFromTheTopDown) {
+  std::mt19937 dice(1);
+  const auto below = [&dice](int limit) { return static_cast<int>(dice() % std::uint32_t(limit)); };
+  for (int round = 0; round < 24; ++round) {
+    const int grid = round % 2 == 0 ? 1 : 20;
+    GameSession game;
+    game.CreatePlanetTable(50);
+    for (int number = 1; number <= 50; ++number) {
+      PlanetRecord& planet = game.Planet(number);
+      planet[PlanetField::X] = grid * below(500 / grid);
+      planet[PlanetField::Y] = grid * below(500 / grid);
+      planet[PlanetField::GateRange] = 20 + below(round % 3 == 0 ? 600 : 100);
+    }
+    MapView view;
+    view.ShowAll(1501);
+    if (round % 5 == 0) view.ShowWindow(100, 150, 250);
+    const double ratio = 1 + 0.25 * (round % 6);
+    PictureSurface fast({167, 167}, ratio);
+    reference::PlainSurface plain({167, 167}, ratio);
+    DrawStargates(game, view, fast, round % 4 != 0);
+    DrawStargates(game, view, plain, round % 4 != 0);
+    EXPECT_TRUE(fast.Picture() == plain.Picture()) << "round " << round << ", ratio " << ratio;
   }
 }
 

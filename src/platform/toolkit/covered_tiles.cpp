@@ -18,7 +18,7 @@ CoveredTiles::CoveredTiles(const QRgb* pixels, QSize picture)
       rows_(TilesOver(picture.height())),
       covered_(static_cast<std::size_t>(columns_) * rows_),
       freeTiles_(static_cast<std::size_t>(columns_ + 1) * (rows_ + 1)),
-      worthLooking_(2 * columns_ * rows_) {
+      worthLooking_(columns_ * rows_ / 2) {
   for (int row = 0; row <= rows_; ++row) {
     for (int column = 0; column <= columns_; ++column) {
       freeTiles_[static_cast<std::size_t>(row * (columns_ + 1) + column)] = row * column;

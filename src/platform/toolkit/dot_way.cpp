@@ -28,7 +28,7 @@ PixelPlace DotWay::Corner(int dot) const {
 
 // The same as above, in a way that lets the processor compute several values at once: numbers above
 // 0 are rounded down by leaving their fractions out.
-void DotWay::Corners(int first, std::span<int> columns, std::span<int> rows) const {
+bool DotWay::Corners(int first, std::span<int> columns, std::span<int> rows) const {
   const double fromX = from_.x();
   const double fromY = from_.y();
   const double wayX = way_.x();
@@ -38,11 +38,22 @@ void DotWay::Corners(int first, std::span<int> columns, std::span<int> rows) con
   const int count = static_cast<int>(columns.size());
   int* const column = columns.data();
   int* const row = rows.data();
+  // Fractions in so many parts are far coarser than what rounding may change in a position.
+  constexpr int kParts = 1 << 20;
+  int least = kParts;
+  int most = 0;
   for (int i = 0; i < count; ++i) {
     const double fraction = (first + i) / steps;
-    column[i] = static_cast<int>(fromX + wayX * fraction - margin);
-    row[i] = static_cast<int>(fromY + wayY * fraction - margin);
+    const double x = fromX + wayX * fraction - margin;
+    const double y = fromY + wayY * fraction - margin;
+    column[i] = static_cast<int>(x);
+    row[i] = static_cast<int>(y);
+    const int xParts = static_cast<int>((x - column[i]) * kParts);
+    const int yParts = static_cast<int>((y - row[i]) * kParts);
+    least = std::min(least, std::min(xParts, yParts));
+    most = std::max(most, std::max(xParts, yParts));
   }
+  return least > 0 && most < kParts - 1;
 }
 
 }  // namespace quorvane

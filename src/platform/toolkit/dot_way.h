@@ -23,7 +23,9 @@ class DotWay {
   PixelPlace Corner(int dot) const;
   /// Where the corners of many dots lie, the first of them having this number; all lie right of and
   /// below the picture's edges. Both have one size.
-  void Corners(int first, std::span<int> columns, std::span<int> rows) const;
+  /// @return whether they are the same for certain when the line is counted from its other end: no
+  ///         dot lies so near to the border of two pixels that rounding may decide
+  bool Corners(int first, std::span<int> columns, std::span<int> rows) const;
 
  private:
   QPointF from_;

@@ -105,8 +105,12 @@ void PictureSurface::Point(SurfacePoint at, Colour colour) {
 }
 
 void PictureSurface::Line(SurfacePoint from, SurfacePoint to, Colour colour) {
-  if (pen_.Style == DrawStyle::NoOutline) return;
-  Canvas(pen_.Mode).Line(DevicePoint(from), DevicePoint(to), dot_, RgbOf(colour));
+  LineHidesItsReverse(from, to, colour);
+}
+
+bool PictureSurface::LineHidesItsReverse(SurfacePoint from, SurfacePoint to, Colour colour) {
+  if (pen_.Style == DrawStyle::NoOutline) return true;
+  return Canvas(pen_.Mode).Line(DevicePoint(from), DevicePoint(to), dot_, RgbOf(colour));
 }
 
 void PictureSurface::Circle(SurfacePoint centre, double radius, Colour colour) {

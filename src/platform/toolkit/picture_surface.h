@@ -55,6 +55,7 @@ class PictureSurface : public DrawingSurface {
 
   void Point(SurfacePoint at, Colour colour) override;
   void Line(SurfacePoint from, SurfacePoint to, Colour colour) override;
+  bool LineHidesItsReverse(SurfacePoint from, SurfacePoint to, Colour colour) override;
   void Circle(SurfacePoint centre, double radius, Colour colour) override;
   void Print(SurfacePoint topLeft, std::string_view text) override;
   double TextWidth(std::string_view text) const override;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <type_traits>
 
 namespace quorvane {
 namespace {
@@ -95,7 +96,7 @@ DotMask::DotMask(int diameter, int pictureWidth) {
   for (int y = 0; y < diameter; ++y) {
     for (int x = rows_[y].First; x <= rows_[y].Last; ++x) {
       offsets_.push_back(static_cast<qsizetype>(y) * pictureWidth + x);
-      for (int way = 0; way < 9; ++way) {
+      for (int way = 0; way < kWays; ++way) {
         if (!IsOn(x + way % 3 - 1, y + way / 3 - 1)) newOffsets[way].push_back(offsets_.back());
       }
     }
@@ -126,7 +127,9 @@ inline PixelSpan PixelCanvas::SpanWithin(QPointF centre, double radius, int y) c
 template <typename Draw>
 void PixelCanvas::WithPut(QRgb colour, const Draw& draw) {
   if (covered_ != nullptr) {
-    draw([colour](QRgb& pixel) { pixel = pixel == kFreePixel ? colour : pixel; });
+    // Without a branch, as the processor could not foresee it.
+    static_assert(kFreePixel == 0);
+    draw([colour](QRgb& pixel) { pixel |= colour & (QRgb{pixel != kFreePixel} - 1); });
   } else if (mode_ == DrawMode::Merge) {
     draw([colour](QRgb& pixel) { pixel |= colour; });
   } else {
@@ -172,20 +175,24 @@ void PixelCanvas::FillDot(double left, double top, const DotMask& mask, QRgb col
   }
 }
 
-void PixelCanvas::Line(QPointF from, QPointF to, const DotMask& mask, QRgb colour) {
+bool PixelCanvas::Line(QPointF from, QPointF to, const DotMask& mask, QRgb colour) {
   const bool isNear = IsNear(from) && IsNear(to);
-  if (!isNear && !PullIn(from, to)) return;
-  if (mask.Diameter() > 1) {
-    WideLine(from, to, mask, colour);
-    return;
+  if (!isNear && !PullIn(from, to)) return true;
+  if (covered_ != nullptr) {
+    const int reach = mask.Diameter();
+    const auto [left, top, right, bottom] = BoxAround(PixelAt(from), PixelAt(to));
+    if (covered_->Hide({left - reach, top - reach, right + reach, bottom + reach})) return isNear;
   }
+  // The way that a far end is pulled in depends on which one is first.
+  if (mask.Diameter() > 1) return WideLine(from, to, mask, colour) && isNear;
   const LineSteps steps = StepsInside(PixelAt(from), PixelAt(to), {width_, height_});
-  if (steps.Count == 0) return;
+  if (steps.Count == 0) return isNear;
   if (covered_ != nullptr) {
     FollowSeen(steps, LastPixelOf(steps), colour);
-    return;
+  } else {
+    WithPut(colour, [&](const auto& put) { Follow(steps, put); });
   }
-  WithPut(colour, [&](const auto& put) { Follow(steps, put); });
+  return isNear;
 }
 
 void PixelCanvas::FollowSeen(const LineSteps& steps, PixelPlace end, QRgb colour) {
@@ -221,47 +228,48 @@ void PixelCanvas::Follow(const LineSteps& steps, Put put) {
   }
 }
 
-void PixelCanvas::WideLine(QPointF from, QPointF to, const DotMask& mask, QRgb colour) {
+bool PixelCanvas::WideLine(QPointF from, QPointF to, const DotMask& mask, QRgb colour) {
   const double margin = mask.Diameter();
   double start = 0;
   double end = 1;
-  CutLine(from.x(), to.x(), -margin, width_ + margin, start, end);
-  CutLine(from.y(), to.y(), -margin, height_ + margin, start, end);
-  if (!(start <= end)) return;
+  if (!IsInside(from) || !IsInside(to)) {
+    CutLine(from.x(), to.x(), -margin, width_ + margin, start, end);
+    CutLine(from.y(), to.y(), -margin, height_ + margin, start, end);
+    if (!(start <= end)) return true;
+  }
   // Counted over the whole line, so that its dots are the same however much of it lies outside.
   const DotWay way(from, to, mask.Diameter());
   const int first = static_cast<int>(start * way.Last());
   const int last = static_cast<int>(end * way.Last());
-  if (covered_ != nullptr) {
-    SeenDots(way, first, last, mask, colour);
-  } else {
-    Dots(way, first, last, mask, colour);
-  }
+  return covered_ != nullptr ? SeenDots(way, first, last, mask, colour)
+                             : Dots(way, first, last, mask, colour);
 }
 
-void PixelCanvas::SeenDots(const DotWay& way, int first, int last, const DotMask& mask,
+bool PixelCanvas::SeenDots(const DotWay& way, int first, int last, const DotMask& mask,
                            QRgb colour) {
-  PixelBox box = BoxAround(way.Corner(first), way.Corner(last));
-  box.Right += mask.Diameter() - 1;
-  box.Bottom += mask.Diameter() - 1;
-  if (covered_->Hide(box)) return;
+  // One pixel more all around, where the line from the other end may have its dots.
+  const auto [left, top, right, bottom] = BoxAround(way.Corner(first), way.Corner(last));
+  const int diameter = mask.Diameter();
+  if (covered_->Hide({left - 1, top - 1, right + diameter, bottom + diameter})) return true;
   if (last - first < kShortPart) {
-    covered_->CountWork(mask.Diameter());
-    Dots(way, first, last, mask, colour);
-    return;
+    covered_->CountWork(diameter);
+    return Dots(way, first, last, mask, colour);
   }
   const int middle = first + (last - first) / 2;
-  SeenDots(way, first, middle, mask, colour);
-  SeenDots(way, middle + 1, last, mask, colour);
+  const bool isAlike = SeenDots(way, first, middle, mask, colour);
+  return SeenDots(way, middle + 1, last, mask, colour) && isAlike;
 }
 
-void PixelCanvas::Dots(const DotWay& way, int first, int last, const DotMask& mask, QRgb colour) {
+bool PixelCanvas::Dots(const DotWay& way, int first, int last, const DotMask& mask, QRgb colour) {
+  bool isAlike = true;
   for (; first <= last; first += kDotsAtOnce) {
-    FewDots(way, first, std::min(last, first + kDotsAtOnce - 1), mask, colour);
+    const int end = std::min(last, first + kDotsAtOnce - 1);
+    isAlike = FewDots(way, first, end, mask, colour) && isAlike;
   }
+  return isAlike;
 }
 
-void PixelCanvas::FewDots(const DotWay& way, int first, int last, const DotMask& mask,
+bool PixelCanvas::FewDots(const DotWay& way, int first, int last, const DotMask& mask,
                           QRgb colour) {
   const int diameter = mask.Diameter();
   const PixelBox corners = BoxAround(way.Corner(first), way.Corner(last));
@@ -269,22 +277,35 @@ void PixelCanvas::FewDots(const DotWay& way, int first, int last, const DotMask&
                         corners.Right <= width_ - diameter && corners.Bottom <= height_ - diameter;
   if (!areWhole || diameter > kLargestStamp) {
     for (int i = first; i <= last; ++i) Dot(way.Centre(i).x(), way.Centre(i).y(), mask, colour);
-    return;
+    return false;
   }
   std::array<int, kDotsAtOnce> columns;
   std::array<int, kDotsAtOnce> rows;
   const auto count = static_cast<std::size_t>(last - first + 1);
-  way.Corners(first, {columns.data(), count}, {rows.data(), count});
-  WithPut(colour, [&](const auto& put) {
-    QRgb* corner = pixels_ + static_cast<qsizetype>(rows[0]) * width_ + columns[0];
-    for (const qsizetype offset : mask.Offsets()) put(corner[offset]);
+  const bool isAlike = way.Corners(first, {columns.data(), count}, {rows.data(), count});
+  QRgb* const corner = pixels_ + static_cast<qsizetype>(rows[0]) * width_ + columns[0];
+  const int length = static_cast<int>(mask.NewOffsets().size()) / DotMask::kWays;
+  const qsizetype* const straight = mask.NewOffsets().data() + 4 * length;
+  const auto stamp = [&](const auto& put, auto newPixels) {
+    QRgb* dot = corner;
+    for (const qsizetype offset : mask.Offsets()) put(dot[offset]);
     for (std::size_t i = 1; i < count; ++i) {
       const int right = columns[i] - columns[i - 1];
       const int down = rows[i] - rows[i - 1];
-      corner += static_cast<qsizetype>(down) * width_ + right;
-      for (const qsizetype offset : mask.NewOffsets(right, down)) put(corner[offset]);
+      const qsizetype* const offsets = straight + (3 * down + right) * newPixels;
+      dot += static_cast<qsizetype>(down) * width_ + right;
+      for (int k = 0; k < newPixels; ++k) put(dot[offsets[k]]);
+    }
+  };
+  WithPut(colour, [&](const auto& put) {
+    // Lines of two pixels are the most frequent ones; a number that the compiler knows is quicker.
+    if (length == 3) {
+      stamp(put, std::integral_constant<int, 3>());
+    } else {
+      stamp(put, length);
     }
   });
+  return isAlike;
 }
 
 void PixelCanvas::Circle(QPointF centre, double radius, double outlineWidth,

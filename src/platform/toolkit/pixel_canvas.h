@@ -42,17 +42,14 @@ class DotMask {
   /// All pixels, counted from the mask's top left corner through the rows of the picture: what
   /// small dots are stamped with. Empty for a large dot, which is filled row by row.
   const std::vector<qsizetype>& Offsets() const { return offsets_; }
-  /// Those of a dot's pixels that the dot before it on a line does not have, when it lies so many
-  /// pixels right and down of that one, each -1 … 1, with some of the others: these lists have one
-  /// length. Empty for a large dot.
-  std::span<const qsizetype> NewOffsets(int right, int down) const {
-    const std::size_t length = newOffsets_.size() / kWays;
-    return {newOffsets_.data() + length * static_cast<std::size_t>(3 * down + right + 4), length};
-  }
+  /// Nine lists of one length, one for each way that a line may take to the next dot, each the
+  /// pixels of a dot that the dot before it does not have, with some of the others. The list for
+  /// so many pixels right and down, each -1 … 1, is number 3 * down + right + 4. Empty for a large
+  /// dot.
+  const std::vector<qsizetype>& NewOffsets() const { return newOffsets_; }
+  static constexpr int kWays = 9;
 
  private:
-  static constexpr std::size_t kWays = 9;
-
   bool IsOn(int x, int y) const;
 
   std::vector<PixelSpan> rows_;
@@ -76,7 +73,9 @@ class PixelCanvas {
   void Dot(double x, double y, const DotMask& mask, QRgb colour);
   /// A line with round ends, as wide as the mask; for a mask of one pixel, `LineSteps` says which
   /// pixels it has. A line to something infinite draws nothing.
-  void Line(QPointF from, QPointF to, const DotMask& mask, QRgb colour);
+  /// @return whether the line from its other end has no pixel that this has not and that is free in
+  ///         a picture drawn from the top down; false when in doubt
+  bool Line(QPointF from, QPointF to, const DotMask& mask, QRgb colour);
   /// A circle with an outline centred on the radius and a filled inside, either of which may be
   /// missing. However small it is, unless it is nothing, it shows at least one pixel.
   void Circle(QPointF centre, double radius, double outlineWidth, std::optional<QRgb> outline,
@@ -93,10 +92,14 @@ class PixelCanvas {
   void Follow(const LineSteps& steps, Put put);
   // The same for the parts of it that are not hidden; the end is the line's or just behind.
   void FollowSeen(const LineSteps& steps, PixelPlace end, QRgb colour);
-  void WideLine(QPointF from, QPointF to, const DotMask& mask, QRgb colour);
-  void Dots(const DotWay& way, int first, int last, const DotMask& mask, QRgb colour);
-  void SeenDots(const DotWay& way, int first, int last, const DotMask& mask, QRgb colour);
-  void FewDots(const DotWay& way, int first, int last, const DotMask& mask, QRgb colour);
+  bool IsInside(QPointF place) const {
+    return place.x() >= 0 && place.y() >= 0 && place.x() <= width_ && place.y() <= height_;
+  }
+  // These four tell what `Line` does.
+  bool WideLine(QPointF from, QPointF to, const DotMask& mask, QRgb colour);
+  bool Dots(const DotWay& way, int first, int last, const DotMask& mask, QRgb colour);
+  bool SeenDots(const DotWay& way, int first, int last, const DotMask& mask, QRgb colour);
+  bool FewDots(const DotWay& way, int first, int last, const DotMask& mask, QRgb colour);
   bool HidesRing(QPointF centre, double outer, double inner, int top, int last) const;
   // Row by row, cut to the picture.
   void FillDot(double left, double top, const DotMask& mask, QRgb colour);
