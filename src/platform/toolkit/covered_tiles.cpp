@@ -16,13 +16,12 @@ CoveredTiles::CoveredTiles(const QRgb* pixels, QSize picture)
       picture_(picture),
       columns_(TilesOver(picture.width())),
       rows_(TilesOver(picture.height())),
-      covered_(static_cast<std::size_t>(columns_) * rows_),
-      freeTiles_(static_cast<std::size_t>(columns_ + 1) * (rows_ + 1)),
+      covered_(static_cast<std::size_t>(columns_ * rows_)),
+      freeTiles_(static_cast<std::size_t>((columns_ + 1) * (rows_ + 1))),
       worthLooking_(columns_ * rows_ / 2) {
-  for (int row = 0; row <= rows_; ++row) {
-    for (int column = 0; column <= columns_; ++column) {
-      freeTiles_[static_cast<std::size_t>(row * (columns_ + 1) + column)] = row * column;
-    }
+  for (int corner = 0; int& count : freeTiles_) {
+    count = (corner / (columns_ + 1)) * (corner % (columns_ + 1));
+    ++corner;
   }
 }
 

@@ -94,10 +94,13 @@ DotMask::DotMask(int diameter, int pictureWidth) {
   if (diameter > kLargestStamp) return;
   std::array<std::vector<qsizetype>, kWays> newOffsets;
   for (int y = 0; y < diameter; ++y) {
-    for (int x = rows_[y].First; x <= rows_[y].Last; ++x) {
+    for (int x = 0; x < diameter; ++x) {
+      if (!IsOn(x, y)) continue;
       offsets_.push_back(static_cast<qsizetype>(y) * pictureWidth + x);
-      for (int way = 0; way < kWays; ++way) {
-        if (!IsOn(x + way % 3 - 1, y + way / 3 - 1)) newOffsets[way].push_back(offsets_.back());
+      int way = 0;
+      for (std::vector<qsizetype>& offsets : newOffsets) {
+        if (!IsOn(x + way % 3 - 1, y + way / 3 - 1)) offsets.push_back(offsets_.back());
+        ++way;
       }
     }
   }
@@ -110,7 +113,9 @@ DotMask::DotMask(int diameter, int pictureWidth) {
 }
 
 bool DotMask::IsOn(int x, int y) const {
-  return y >= 0 && y < Diameter() && x >= rows_[y].First && x <= rows_[y].Last;
+  if (y < 0 || y >= Diameter()) return false;
+  const PixelSpan row = rows_[static_cast<std::size_t>(y)];
+  return x >= row.First && x <= row.Last;
 }
 
 // Inline: a redraw fills several hundred thousand rows of a few pixels.
