@@ -20,6 +20,7 @@ constexpr Colour kArrowheadColour = {0, 200, 0};
 constexpr Colour kSafeColour = kGreen;
 constexpr double kStrokeLength = 5;  // light years
 constexpr int kArrowheads = 2;       // at one and two thirds of a link
+constexpr std::size_t kStrokes = 4;  // two for each of them
 constexpr double kFullComponent = 255;
 
 struct Stroke {
@@ -29,7 +30,7 @@ struct Stroke {
 
 // What is drawn for a link.
 struct Link {
-  std::array<Stroke, 2 * kArrowheads> Arrowheads;
+  std::array<Stroke, kStrokes> Arrowheads;
   Stroke Line;
   Colour LineColour;
   GateReach Reach = GateReach::None;
@@ -61,8 +62,7 @@ double Third(double from, double to, int thirds) {
 
 // Two arrowheads that point from the sending gate to the receiving one: their strokes leave the
 // mark backwards, at 45 degrees on either side of the link.
-std::array<Stroke, 2 * kArrowheads> ArrowheadsOf(StoredPoint from, StoredPoint to,
-                                                 const MapView& view) {
+std::array<Stroke, kStrokes> ArrowheadsOf(StoredPoint from, StoredPoint to, const MapView& view) {
   using std::numbers::pi;
   const bool isVertical = from.X == to.X;
   const bool isUpwards = to.Y < from.Y;
@@ -74,7 +74,7 @@ std::array<Stroke, 2 * kArrowheads> ArrowheadsOf(StoredPoint from, StoredPoint t
   const double b = pi / 4 - theta;
   const StoredPoint first = {sign * lengthOf(std::cos(a)), -sign * lengthOf(std::sin(a))};
   const StoredPoint second = {-sign * lengthOf(std::cos(b)), sign * lengthOf(std::sin(b))};
-  std::array<Stroke, 2 * kArrowheads> strokes;
+  std::array<Stroke, kStrokes> strokes;
   auto* stroke = strokes.begin();
   for (int mark = 1; mark <= kArrowheads; ++mark) {
     const StoredPoint at = {Third(from.X, to.X, mark), Third(from.Y, to.Y, mark)};

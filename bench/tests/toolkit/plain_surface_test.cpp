@@ -150,7 +150,7 @@ TEST(DrawDrawingLayer, LooksTheSameFromTheTopDown) {
                 .X2 = 900 + below(600),
                 .Y2 = 900 + below(600),
                 .Radius = below(2) * below(size),
-                .Text = std::string(1 + below(9), static_cast<char>('!' + below(94))),
+                .Text = std::string(std::size_t{5}, static_cast<char>('!' + below(94))),
                 .Size = 1.0 + below(20),
                 .ColourNumber = 1 + below(7)};
     }

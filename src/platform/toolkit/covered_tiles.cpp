@@ -1,6 +1,7 @@
 #include "platform/toolkit/covered_tiles.h"
 
 #include <algorithm>
+#include <cstddef>
 
 namespace quorvane {
 namespace {
@@ -29,8 +30,8 @@ bool CoveredTiles::Hide(const PixelBox& box) {
   if (work_ > worthLooking_) LookAgain();
   const auto [left, top, right, bottom] = CutToPicture(box);
   if (left > right || top > bottom) return true;
-  const int* const above = freeTiles_.data() + (top / kTile) * (columns_ + 1);
-  const int* const below = freeTiles_.data() + (bottom / kTile + 1) * (columns_ + 1);
+  const int* const above = freeTiles_.data() + std::ptrdiff_t{top / kTile} * (columns_ + 1);
+  const int* const below = freeTiles_.data() + std::ptrdiff_t{bottom / kTile + 1} * (columns_ + 1);
   const int before = left / kTile;
   const int behind = right / kTile + 1;
   return below[behind] - below[before] - above[behind] + above[before] == 0;
@@ -58,16 +59,19 @@ PixelBox CoveredTiles::CutToPicture(const PixelBox& box) const {
 
 void CoveredTiles::LookAgain() {
   work_ = 0;
+  std::size_t tile = 0;
+  auto corner = freeTiles_.begin() + 1;  // to the right of the tile and above it
   for (int row = 0; row < rows_; ++row) {
     int freeInRow = 0;
     for (int column = 0; column < columns_; ++column) {
-      const auto tile = static_cast<std::size_t>(row * columns_ + column);
       // What is covered stays so.
       if (!covered_[tile]) covered_[tile] = IsCovered(column, row);
       if (!covered_[tile]) ++freeInRow;
-      const auto corner = static_cast<std::size_t>(row * (columns_ + 1) + column + 1);
-      freeTiles_[corner + static_cast<std::size_t>(columns_ + 1)] = freeTiles_[corner] + freeInRow;
+      corner[columns_ + 1] = *corner + freeInRow;
+      ++corner;
+      ++tile;
     }
+    ++corner;
   }
 }
 

@@ -286,18 +286,18 @@ bool PixelCanvas::FewDots(const DotWay& way, int first, int last, const DotMask&
   }
   std::array<int, kDotsAtOnce> columns;
   std::array<int, kDotsAtOnce> rows;
-  const auto count = static_cast<std::size_t>(last - first + 1);
+  const std::size_t count = static_cast<std::size_t>(last) - static_cast<std::size_t>(first) + 1;
   const bool isAlike = way.Corners(first, {columns.data(), count}, {rows.data(), count});
   QRgb* const corner = pixels_ + static_cast<qsizetype>(rows[0]) * width_ + columns[0];
   const int length = static_cast<int>(mask.NewOffsets().size()) / DotMask::kWays;
-  const qsizetype* const straight = mask.NewOffsets().data() + 4 * length;
+  const qsizetype* const straight = mask.NewOffsets().data() + qsizetype{4} * length;
   const auto stamp = [&](const auto& put, auto newPixels) {
     QRgb* dot = corner;
     for (const qsizetype offset : mask.Offsets()) put(dot[offset]);
     for (std::size_t i = 1; i < count; ++i) {
       const int right = columns[i] - columns[i - 1];
       const int down = rows[i] - rows[i - 1];
-      const qsizetype* const offsets = straight + (3 * down + right) * newPixels;
+      const qsizetype* const offsets = straight + qsizetype{3 * down + right} * newPixels;
       dot += static_cast<qsizetype>(down) * width_ + right;
       for (int k = 0; k < newPixels; ++k) put(dot[offsets[k]]);
     }

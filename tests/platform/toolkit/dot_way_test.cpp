@@ -20,7 +20,7 @@ TEST(DotWay, KnowsWhenTheDotsAreTheSameFromTheOtherEnd) {
     const QPointF to = place();
     const DotWay there(from, to, 2);
     const DotWay back(to, from, 2);
-    const auto count = static_cast<std::size_t>(there.Last() + 1);
+    const auto count = static_cast<std::size_t>(there.Last()) + 1;
     std::vector<int> columns(count), rows(count), columnsBack(count), rowsBack(count);
     const bool isSure = there.Corners(0, columns, rows);
     back.Corners(0, columnsBack, rowsBack);
