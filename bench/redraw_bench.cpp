@@ -5,6 +5,7 @@
 
 #include <QGuiApplication>
 #include <QImage>
+#include <cstdint>
 #include <cstdio>
 #include <memory>
 #include <random>
@@ -32,8 +33,11 @@ constexpr int kPicks = 1000;
 template <typename Surface>
 class Map {
  public:
-  Map(const GameSession& session, const OverlaySwitches& switches)
-      : session_(session), switches_(switches) {
+  Map(const GameSession& session, const OverlaySwitches& switches, double ratio)
+      : session_(session),
+        switches_(switches),
+        universe_(kMapSize, ratio),
+        universe2_(kMapSize, ratio) {
     view_.ShowAll(session_.UniverseExtent);
   }
 
@@ -46,8 +50,8 @@ class Map {
   GameSession session_;
   MapView view_;
   OverlaySwitches switches_;
-  Surface universe_{kMapSize};
-  Surface universe2_{kMapSize};
+  Surface universe_;
+  Surface universe2_;
 };
 
 // Everything but the stargates.
@@ -63,9 +67,9 @@ OverlaySwitches EverythingOn(const GameSession& session) {
   return switches;
 }
 
-OverlaySwitches StargateNetworkOn() {
+OverlaySwitches OnlyOn(OverlayKind overlay) {
   OverlaySwitches switches;
-  switches.Set(OverlayKind::CompleteStargateNetwork, true);
+  switches.Set(overlay, true);
   return switches;
 }
 
@@ -77,6 +81,56 @@ GameSession WithGatesEverywhere(GameSession session) {
   for (int gate = 0; gate < kGates; ++gate) {
     const int number = 1 + gate * session.PlanetCount / kGates;
     session.Planet(number)[PlanetField::GateRange] = kUnlimitedGate;
+  }
+  return session;
+}
+
+// A game of so many planets all over 2000 light years, each with a stargate of an ordinary range.
+GameSession WithOrdinaryGates(int count) {
+  GameSession session;
+  session.UniverseExtent = 3000;
+  session.CreatePlanetTable(count);
+  std::mt19937 dice(1);
+  for (int number = 1; number <= count; ++number) {
+    PlanetRecord& planet = session.Planet(number);
+    planet[PlanetField::X] = static_cast<double>(dice() % 2000);
+    planet[PlanetField::Y] = static_cast<double>(dice() % 2000);
+    planet[PlanetField::GateRange] = 300;
+  }
+  return session;
+}
+
+// Which records a drawing layer has.
+enum class Drawings { Texts, Lines, Circles };
+
+// A game with a drawing layer of so many bytes all over the map. No two texts are alike, and they
+// come in 60 sizes.
+GameSession WithDrawings(Drawings kind, std::size_t bytes) {
+  GameSession session;
+  session.UniverseExtent = 3000;
+  session.CreatePlanetTable(1);
+  std::mt19937 dice(1);
+  const auto below = [&dice](int limit) { return static_cast<int>(dice() % std::uint32_t(limit)); };
+  for (std::size_t written = 0; written < bytes;) {
+    DrawingRecord record = {.X = 1000 + below(2000),
+                            .Y = 1000 + below(2000),
+                            .X2 = 1000 + below(2000),
+                            .Y2 = 1000 + below(2000),
+                            .Radius = 100 + below(900),
+                            .ColourNumber = 1 + below(7)};
+    written += 25;  // of a line
+    if (kind == Drawings::Circles) {
+      record.Kind = DrawingKind::Circle;
+      written -= 6;
+    } else if (kind == Drawings::Texts) {
+      record.Kind = DrawingKind::Text;
+      for (int length = 4 + below(24); length > 0; --length) {
+        record.Text += static_cast<char>('A' + below(58));
+      }
+      record.Size = 6 + 0.65 * below(60);
+      written += record.Text.size() - 6;
+    }
+    session.DrawingLayer.push_back(record);
   }
   return session;
 }
@@ -95,15 +149,23 @@ void Register(const std::string& name, Run run, double targetMilliseconds = 0) {
 
 // @return false when the two surfaces do not show the same
 bool RegisterRedraw(const std::string& name, const GameSession& session,
-                    const OverlaySwitches& switches, double targetMilliseconds) {
-  const auto fast = std::make_shared<Map<PictureSurface>>(session, switches);
-  const auto plain = std::make_shared<Map<reference::PlainSurface>>(session, switches);
+                    const OverlaySwitches& switches, double targetMilliseconds, double ratio = 1) {
+  const auto fast = std::make_shared<Map<PictureSurface>>(session, switches, ratio);
+  const auto plain = std::make_shared<Map<reference::PlainSurface>>(session, switches, ratio);
   fast->Redraw();
   plain->Redraw();
   Register(
       "fast/" + name, [fast] { fast->Redraw(); }, targetMilliseconds);
   Register("plain/" + name, [plain] { plain->Redraw(); });
   return fast->Picture() == plain->Picture();
+}
+
+// For what would take a plain version minutes.
+void RegisterLongLayer(const std::string& name, Drawings kind, double ratio) {
+  const auto map = std::make_shared<Map<PictureSurface>>(WithDrawings(kind, 8'000'000),
+                                                         OnlyOn(OverlayKind::QvlDrawing), ratio);
+  Register(
+      "fast/8 MB of " + name, [map] { map->Redraw(); }, 1500);
 }
 
 // @return false when the two ways find different planets
@@ -133,9 +195,19 @@ bool RegisterPicks(const InfluenceGameShape& shape, double targetMilliseconds) {
 }
 
 bool RegisterAll(const GameSession& session) {
+  const GameSession gates = WithGatesEverywhere(session);
+  const OverlaySwitches network = OnlyOn(OverlayKind::CompleteStargateNetwork);
+  const OverlaySwitches safe = OnlyOn(OverlayKind::SafeStargateDistances);
+  const OverlaySwitches drawing = OnlyOn(OverlayKind::QvlDrawing);
+  RegisterLongLayer("drawn texts", Drawings::Texts, 1);
+  RegisterLongLayer("drawn lines, double density", Drawings::Lines, 2);
+  RegisterLongLayer("drawn circles, double density", Drawings::Circles, 2);
   return RegisterRedraw("full redraw", session, EverythingOn(session), 25) &&
-         RegisterRedraw("240 stargates, all links", WithGatesEverywhere(session),
-                        StargateNetworkOn(), 80) &&
+         RegisterRedraw("240 stargates, all links", gates, network, 80) &&
+         RegisterRedraw("240 stargates, double density", gates, network, 80, 2) &&
+         RegisterRedraw("4000 stargates of 300 light years", WithOrdinaryGates(4000), safe, 500) &&
+         RegisterRedraw("100 KB of drawn texts", WithDrawings(Drawings::Texts, 100'000), drawing,
+                        20) &&
          RegisterPicks(kHugeGame, 10) && RegisterPicks(kVastGame, 60);
 }
 

@@ -87,19 +87,18 @@ std::vector<std::string> HabTexts(const GameSession& session, int planet) {
 }
 
 StargateDetails DescribeStargate(const GameSession& session, int planet) {
-  const PlanetRecord& sender = session.Planet(planet);
-  const std::int32_t range = GateRangeOf(sender);
+  const Gate sender = GateOf(session.Planet(planet));
   StargateDetails details;
-  if (range < 1) {
+  if (sender.Range < 1) {
     details.Type = "None Detected";
     return details;
   }
-  details.Type = GateLimitsText(sender);
+  details.Type = GateLimitsText(session.Planet(planet));
   for (int other = 1; other <= session.PlanetCount; ++other) {
     const PlanetRecord& receiver = session.Planet(other);
     if (other == planet || !(receiver[Field::GateRange].Number() > 0)) continue;
-    const std::int32_t distance = GateDistance(sender, receiver);
-    const GateReach reach = ReachOf(range, distance);
+    const std::int32_t distance = GateDistance(sender, GateOf(receiver));
+    const GateReach reach = ReachOf(sender.Range, distance);
     if (reach == GateReach::None) continue;
     auto& list = reach == GateReach::Safe ? details.Safe : details.Dangerous;
     list.push_back(receiver.Name() + "  (" + NumberText(distance) + " l.y.)");

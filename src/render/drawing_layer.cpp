@@ -1,5 +1,6 @@
 #include "render/drawing_layer.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "model/game_session.h"
@@ -78,7 +79,13 @@ void DrawShape(const MapShape& shape, DrawingSurface& surface) {
 void DrawDrawingLayer(std::span<const DrawingRecord> layer, const MapView& view,
                       DrawingSurface& surface) {
   surface.SetPen(kDrawingPen);
-  for (const DrawingRecord& record : layer) DrawShape(ShapeOf(record, view), surface);
+  const auto draw = [&](const DrawingRecord& record) { DrawShape(ShapeOf(record, view), surface); };
+  if (!surface.BeginTopDown(layer.size())) {
+    std::ranges::for_each(layer, draw);
+    return;
+  }
+  std::ranges::for_each(layer.rbegin(), layer.rend(), draw);
+  surface.EndTopDown();
 }
 
 }  // namespace quorvane

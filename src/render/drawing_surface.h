@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <memory>
 #include <string_view>
 
@@ -57,9 +58,26 @@ class DrawingSurface {
   /// In points, above 0.
   virtual void SetFontSize(double points) = 0;
 
+  /// Whether the drawing has been given up, and nothing more will be seen of it.
+  virtual bool IsStopped() const { return false; }
+
+  /// Turns the order of drawing round: until `EndTopDown`, what is drawn goes below all that was
+  /// drawn since. What is covered already costs next to nothing then, however often it is drawn.
+  /// In between, only shapes and texts may be drawn, and these in copy mode.
+  /// @param drawings about how many are to come
+  /// @return false, and nothing changes, for a surface that cannot do so, or when it does not pay
+  virtual bool BeginTopDown(std::size_t /*drawings*/) { return false; }
+  virtual void EndTopDown() {}
+
   /// A filled square of the pen's width, so that neighbouring points can close an area.
   virtual void Point(SurfacePoint at, Colour colour) = 0;
   virtual void Line(SurfacePoint from, SurfacePoint to, Colour colour) = 0;
+  /// The same, telling whether it pays to draw the line from its other end as well.
+  /// @return true when that has no pixel that could be seen once this is drawn above it
+  virtual bool LineHidesItsReverse(SurfacePoint from, SurfacePoint to, Colour colour) {
+    Line(from, to, colour);
+    return false;
+  }
   /// An outline in the colour, filled as the pen and the fill colour say.
   virtual void Circle(SurfacePoint centre, double radius, Colour colour) = 0;
   /// Text in the fore colour, its top left corner at the position.

@@ -23,6 +23,10 @@ void StoppableSurface::Line(SurfacePoint from, SurfacePoint to, Colour colour) {
   if (GoesOn()) surface_.Line(from, to, colour);
 }
 
+bool StoppableSurface::LineHidesItsReverse(SurfacePoint from, SurfacePoint to, Colour colour) {
+  return !GoesOn() || surface_.LineHidesItsReverse(from, to, colour);
+}
+
 void StoppableSurface::Circle(SurfacePoint centre, double radius, Colour colour) {
   if (GoesOn()) surface_.Circle(centre, radius, colour);
 }

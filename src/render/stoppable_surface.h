@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <memory>
 #include <string_view>
 
@@ -9,13 +10,14 @@
 namespace quorvane {
 
 /// A surface that lets the user give a redraw up: it passes everything on to another one until the
-/// step is stopped, and draws nothing from then on. So no overlay has to ask.
+/// step is stopped, and draws nothing from then on. So only an overlay that has to think long about
+/// each drawing needs to ask.
 class StoppableSurface : public DrawingSurface {
  public:
   StoppableSurface(DrawingSurface& surface, const Progress& progress)
       : surface_(surface), progress_(progress) {}
 
-  bool IsStopped() const { return isStopped_; }
+  bool IsStopped() const override { return isStopped_; }
 
   void Clear() override { surface_.Clear(); }
   void SetBackground(std::shared_ptr<const SurfaceImage> image) override;
@@ -27,8 +29,12 @@ class StoppableSurface : public DrawingSurface {
   void SetForeColour(Colour colour) override { surface_.SetForeColour(colour); }
   void SetFontSize(double points) override { surface_.SetFontSize(points); }
 
+  bool BeginTopDown(std::size_t drawings) override { return surface_.BeginTopDown(drawings); }
+  void EndTopDown() override { surface_.EndTopDown(); }
+
   void Point(SurfacePoint at, Colour colour) override;
   void Line(SurfacePoint from, SurfacePoint to, Colour colour) override;
+  bool LineHidesItsReverse(SurfacePoint from, SurfacePoint to, Colour colour) override;
   void Circle(SurfacePoint centre, double radius, Colour colour) override;
   void Print(SurfacePoint topLeft, std::string_view text) override;
   double TextWidth(std::string_view text) const override;

@@ -5,11 +5,15 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
+#include <initializer_list>
 #include <random>
 #include <string>
 #include <tuple>
+#include <vector>
 
 #include "platform/toolkit/picture_surface.h"
+#include "render/drawing_layer.h"
+#include "render/stargate_overlay.h"
 
 namespace quorvane {
 namespace {
@@ -118,6 +122,83 @@ TEST(PictureText, LooksAsIfItWereLaidOutEachTime) {
       EXPECT_EQ(print(fast, points, text), print(plain, points, text)) << text;
       EXPECT_TRUE(fast.Picture() == plain.Picture()) << text << " in " << points << " points";
     }
+  }
+}
+
+// Characters are kept one by one, so how they follow each other must not matter.
+TEST(PictureText, OfAnyPlainCharactersLooksAsIfItWereLaidOutEachTime) {
+  PictureSurface fast(kSize, 1, kUnits);
+  reference::PlainSurface plain(kSize, 1, kUnits);
+  std::mt19937 dice(1);
+  const auto below = [&dice](int limit) { return static_cast<int>(dice() % std::uint32_t(limit)); };
+  for (int i = 0; i < 1500; ++i) {
+    std::string text;
+    for (int length = below(12); length > 0; --length) text += static_cast<char>(' ' + below(95));
+    if (i % 9 == 0) text += "\u00c5\u00fc\u0416";
+    const double points = 1 + below(47);  // outlines of larger ones depend on the place
+    const SurfacePoint at = {below(150) - 40.0, below(130) - 40.0};
+    for (DrawingSurface* const surface : std::initializer_list<DrawingSurface*>{&fast, &plain}) {
+      if (i % 20 == 0) surface->Clear();
+      surface->SetFontSize(points);
+      surface->Print(at, text);
+    }
+    ASSERT_EQ(fast.TextWidth(text), plain.TextWidth(text)) << text;
+    ASSERT_TRUE(fast.Picture() == plain.Picture()) << text << " in " << points << " points";
+  }
+}
+
+// A layer so long that it is drawn from the top down, and covers most of itself.
+TEST(DrawDrawingLayer, LooksTheSameFromTheTopDown) {
+  std::mt19937 dice(3);
+  const auto below = [&dice](int limit) { return static_cast<int>(dice() % std::uint32_t(limit)); };
+  constexpr DrawingKind kKinds[] = {DrawingKind::Line, DrawingKind::Circle, DrawingKind::Text};
+  for (const double ratio : {0.75, 1.0, 2.0}) {
+    std::vector<DrawingRecord> layer(2000);
+    const int size = 1 + below(300);
+    for (DrawingRecord& record : layer) {
+      record = {.Kind = kKinds[below(3)],
+                .X = 1000 + below(400),
+                .Y = 1000 + below(400),
+                .X2 = 900 + below(600),
+                .Y2 = 900 + below(600),
+                .Radius = below(2) * below(size),
+                .Text = std::string(std::size_t{5}, static_cast<char>('!' + below(94))),
+                .Size = 1.0 + below(20),
+                .ColourNumber = 1 + below(7)};
+    }
+    MapView view;
+    view.ShowAll(1400);
+    PictureSurface fast({150, 110}, ratio);
+    reference::PlainSurface plain({150, 110}, ratio);
+    DrawDrawingLayer(layer, view, fast);
+    DrawDrawingLayer(layer, view, plain);
+    EXPECT_TRUE(fast.Picture() == plain.Picture()) << "at ratio " << ratio;
+  }
+}
+
+// Many links are the same from both ends, lie partly outside, or end between two pixels.
+TEST(DrawStargates, LooksTheSameFromTheTopDown) {
+  std::mt19937 dice(1);
+  const auto below = [&dice](int limit) { return static_cast<int>(dice() % std::uint32_t(limit)); };
+  for (int round = 0; round < 24; ++round) {
+    const int grid = round % 2 == 0 ? 1 : 20;
+    GameSession game;
+    game.CreatePlanetTable(50);
+    for (int number = 1; number <= 50; ++number) {
+      PlanetRecord& planet = game.Planet(number);
+      planet[PlanetField::X] = grid * below(500 / grid);
+      planet[PlanetField::Y] = grid * below(500 / grid);
+      planet[PlanetField::GateRange] = 20 + below(round % 3 == 0 ? 600 : 100);
+    }
+    MapView view;
+    view.ShowAll(1501);
+    if (round % 5 == 0) view.ShowWindow(100, 150, 250);
+    const double ratio = 1 + 0.25 * (round % 6);
+    PictureSurface fast({167, 167}, ratio);
+    reference::PlainSurface plain({167, 167}, ratio);
+    DrawStargates(game, view, fast, round % 4 != 0);
+    DrawStargates(game, view, plain, round % 4 != 0);
+    EXPECT_TRUE(fast.Picture() == plain.Picture()) << "round " << round << ", ratio " << ratio;
   }
 }
 

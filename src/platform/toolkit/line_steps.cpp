@@ -35,7 +35,6 @@ struct Course {
   std::int64_t Rise = 0;
   std::int64_t Bias = 0;
 
-  std::int64_t Dividend(std::int64_t step) const { return 2 * step * Rise + Bias; }
   // The first step from which on the line is so far across. For a rise above 0.
   std::int64_t FirstStepAt(std::int64_t across) const {
     return DivideUp(2 * across * Length - Bias, 2 * Rise);
@@ -49,6 +48,17 @@ Range StepsInside(const Course& course, Range along, Range across) {
           std::min(steps.Last, course.FirstStepAt(across.Last + 1) - 1)};
 }
 
+// Moves the start of a line so many steps along.
+void GoAlong(LineSteps& line, std::int64_t step) {
+  if (step == 0) return;
+  const std::int64_t dividend = step * line.Gain + line.Balance + line.Turn;
+  const int along = static_cast<int>(step);
+  const int across = static_cast<int>(dividend / line.Turn);
+  line.Start.X += line.Right * (line.IsSteep ? across : along);
+  line.Start.Y += line.Down * (line.IsSteep ? along : across);
+  line.Balance = static_cast<int>(dividend % line.Turn) - line.Turn;
+}
+
 // Drops the pixels that lie outside the picture from a whole line.
 void CutTo(QSize picture, LineSteps& line) {
   const Course course = {line.Turn / 2, line.Gain / 2, line.Balance + line.Turn};
@@ -57,14 +67,7 @@ void CutTo(QSize picture, LineSteps& line) {
   if (line.IsSteep) std::swap(along, across);
   const Range steps = StepsInside(course, along, across);
   line.Count = static_cast<int>(std::max<std::int64_t>(steps.Last - steps.First + 1, 0));
-  if (line.Count == 0 || steps.First == 0) return;
-
-  const std::int64_t dividend = course.Dividend(steps.First);
-  const int wayAlong = static_cast<int>(steps.First);
-  const int wayAcross = static_cast<int>(dividend / line.Turn);
-  line.Start.X += line.Right * (line.IsSteep ? wayAcross : wayAlong);
-  line.Start.Y += line.Down * (line.IsSteep ? wayAlong : wayAcross);
-  line.Balance = static_cast<int>(dividend % line.Turn) - line.Turn;
+  if (line.Count > 0) GoAlong(line, steps.First);
 }
 
 }  // namespace
@@ -89,5 +92,14 @@ LineSteps StepsInside(PixelPlace from, PixelPlace to, QSize picture) {
   if (!IsInside(from, picture) || !IsInside(to, picture)) CutTo(picture, line);
   return line;
 }
+
+LineSteps PartFrom(const LineSteps& line, int step) {
+  LineSteps part = line;
+  GoAlong(part, step);
+  part.Count -= step;
+  return part;
+}
+
+PixelPlace LastPixelOf(const LineSteps& line) { return PartFrom(line, line.Count - 1).Start; }
 
 }  // namespace quorvane

@@ -40,4 +40,9 @@ struct LineSteps {
 /// The way from one pixel to another; no coordinate is beyond `kFarthestPixel` in either direction.
 LineSteps StepsInside(PixelPlace from, PixelPlace to, QSize picture);
 
+/// A line without so many of its first pixels; it has more.
+LineSteps PartFrom(const LineSteps& line, int step);
+/// The pixel where a line of some pixels ends.
+PixelPlace LastPixelOf(const LineSteps& line);
+
 }  // namespace quorvane

@@ -1,13 +1,16 @@
 #pragma once
 
 #include <QImage>
+#include <QRectF>
 #include <QSize>
 #include <QSizeF>
-#include <map>
+#include <cstddef>
 #include <memory>
+#include <optional>
 #include <string_view>
 
 #include "platform/toolkit/colours.h"
+#include "platform/toolkit/covered_tiles.h"
 #include "platform/toolkit/pixel_canvas.h"
 #include "platform/toolkit/text_layouts.h"
 #include "platform/toolkit/twips.h"
@@ -47,8 +50,12 @@ class PictureSurface : public DrawingSurface {
   void SetForeColour(Colour colour) override { foreColour_ = RgbOf(colour); }
   void SetFontSize(double points) override;
 
+  bool BeginTopDown(std::size_t drawings) override;
+  void EndTopDown() override;
+
   void Point(SurfacePoint at, Colour colour) override;
   void Line(SurfacePoint from, SurfacePoint to, Colour colour) override;
+  bool LineHidesItsReverse(SurfacePoint from, SurfacePoint to, Colour colour) override;
   void Circle(SurfacePoint centre, double radius, Colour colour) override;
   void Print(SurfacePoint topLeft, std::string_view text) override;
   double TextWidth(std::string_view text) const override;
@@ -57,16 +64,25 @@ class PictureSurface : public DrawingSurface {
   int WidthToCover(double distance) const override;
 
  private:
-  QRgb* Pixels();
-  PixelCanvas Canvas();
+  // What is drawn from the top down, before it is laid over the picture.
+  struct TopDown {
+    QImage Picture;
+    CoveredTiles Covered;
+    QImage Glyphs;  // of a large text, before they go below the picture
+  };
+
+  PixelCanvas Canvas(DrawMode mode);
+  // Whether nothing in a box of the picture can be seen.
+  bool IsHidden(const QRectF& box);
+  void DrawGlyphs(QPointF corner, const TextLayout& layout, QImage& picture) const;
+  // The same below the picture that is drawn from the top down, when all lies in a box.
+  void DrawGlyphsBelow(QPointF corner, const TextLayout& layout, const QRectF& box);
   QPointF DevicePoint(SurfacePoint point) const {
     return {point.X * pixelsPerUnitX_, point.Y * pixelsPerUnitY_};
   }
   int DevicePenWidth() const;
   void MakePicture();
   void MakeDots();
-  // The texts of the font size.
-  TextLayouts& Texts() const;
 
   QSize size_;        // in pixels of an ordinary screen
   QSize deviceSize_;  // in the picture's pixels
@@ -78,6 +94,7 @@ class PictureSurface : public DrawingSurface {
   QImage picture_;
   QImage blank_;
   QImage background_;
+  std::optional<TopDown> topDown_;
 
   Pen pen_;
   // As wide as the pen: points close an area, the round dots of lines meet at every angle.
@@ -86,8 +103,7 @@ class PictureSurface : public DrawingSurface {
   QRgb fillColour_ = RgbOf({0, 0, 0});
   QRgb foreColour_ = RgbOf({255, 255, 255});
   double fontPoints_ = 8.25;
-  // For each font size; filled as texts are asked for.
-  mutable std::map<double, TextLayouts> texts_;
+  mutable TextLayouts texts_;  // filled as they are asked for
 };
 
 }  // namespace quorvane

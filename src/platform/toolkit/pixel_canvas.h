@@ -3,11 +3,15 @@
 #include <QPointF>
 #include <QRgb>
 #include <QSize>
+#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <span>
 #include <vector>
 
+#include "platform/toolkit/covered_tiles.h"
+#include "platform/toolkit/dot_way.h"
 #include "platform/toolkit/line_steps.h"
 #include "render/drawing_surface.h"
 
@@ -41,10 +45,19 @@ class DotMask {
   /// All pixels, counted from the mask's top left corner through the rows of the picture: what
   /// small dots are stamped with. Empty for a large dot, which is filled row by row.
   const std::vector<qsizetype>& Offsets() const { return offsets_; }
+  /// Nine lists of one length, one for each way that a line may take to the next dot, each the
+  /// pixels of a dot that the dot before it does not have, with some of the others. The list for
+  /// so many pixels right and down, each -1 … 1, is number 3 * down + right + 4. Empty for a large
+  /// dot.
+  const std::vector<qsizetype>& NewOffsets() const { return newOffsets_; }
+  static constexpr int kWays = 9;
 
  private:
+  bool IsOn(int x, int y) const;
+
   std::vector<PixelSpan> rows_;
   std::vector<qsizetype> offsets_;
+  std::vector<qsizetype> newOffsets_;
 };
 
 /// Draws hard-edged shapes straight into the pixels of an RGB32 picture, whose rows follow each
@@ -55,12 +68,17 @@ class PixelCanvas {
  public:
   PixelCanvas(QRgb* pixels, QSize size, DrawMode mode)
       : pixels_(pixels), width_(size.width()), height_(size.height()), mode_(mode) {}
+  /// For a picture that is drawn from the top down: only free pixels are drawn into.
+  PixelCanvas(QRgb* pixels, QSize size, CoveredTiles& covered)
+      : pixels_(pixels), width_(size.width()), height_(size.height()), covered_(&covered) {}
 
   /// One dot; its mask keeps its shape wherever the dot lies.
   void Dot(double x, double y, const DotMask& mask, QRgb colour);
   /// A line with round ends, as wide as the mask; for a mask of one pixel, `LineSteps` says which
   /// pixels it has. A line to something infinite draws nothing.
-  void Line(QPointF from, QPointF to, const DotMask& mask, QRgb colour);
+  /// @return whether the line from its other end has no pixel that this has not and that is free in
+  ///         a picture drawn from the top down; false when in doubt
+  bool Line(QPointF from, QPointF to, const DotMask& mask, QRgb colour);
   /// A circle with an outline centred on the radius and a filled inside, either of which may be
   /// missing. However small it is, unless it is nothing, it shows at least one pixel.
   void Circle(QPointF centre, double radius, double outlineWidth, std::optional<QRgb> outline,
@@ -69,10 +87,23 @@ class PixelCanvas {
   void Runs(PixelPlace corner, std::span<const PixelRun> runs, QRgb colour);
 
  private:
+  // Calls a function with something that puts the colour into a pixel as the mode says.
+  template <typename Draw>
+  void WithPut(QRgb colour, const Draw& draw);
   // Puts something into each pixel of a line.
   template <typename Put>
   void Follow(const LineSteps& steps, Put put);
-  void WideLine(QPointF from, QPointF to, const DotMask& mask, QRgb colour);
+  // The same for the parts of it that are not hidden; the end is the line's or just behind.
+  void FollowSeen(const LineSteps& steps, PixelPlace end, QRgb colour);
+  bool IsInside(QPointF place) const {
+    return place.x() >= 0 && place.y() >= 0 && place.x() <= width_ && place.y() <= height_;
+  }
+  // These four tell what `Line` does.
+  bool WideLine(QPointF from, QPointF to, const DotMask& mask, QRgb colour);
+  bool Dots(const DotWay& way, int first, int last, const DotMask& mask, QRgb colour);
+  bool SeenDots(const DotWay& way, int first, int last, const DotMask& mask, QRgb colour);
+  bool FewDots(const DotWay& way, int first, int last, const DotMask& mask, QRgb colour);
+  bool HidesRing(QPointF centre, double outer, double inner, int top, int last) const;
   // Row by row, cut to the picture.
   void FillDot(double left, double top, const DotMask& mask, QRgb colour);
   void Fill(int y, PixelSpan span, QRgb colour);
@@ -82,7 +113,8 @@ class PixelCanvas {
   QRgb* pixels_;
   int width_;
   int height_;
-  DrawMode mode_;
+  DrawMode mode_ = DrawMode::Copy;
+  CoveredTiles* covered_ = nullptr;
 };
 
 }  // namespace quorvane

@@ -3,87 +3,250 @@
 #include <QFontMetricsF>
 #include <QImage>
 #include <QPainter>
+#include <QRect>
 #include <QString>
 #include <QTextLayout>
 #include <QTextOption>
 #include <algorithm>
 #include <cmath>
+#include <limits>
+#include <utility>
 
 namespace quorvane {
 namespace {
 
+// The characters of which a font of Latin letters has all, one after the other.
+constexpr char kFirstPlain = ' ';
+constexpr char kLastPlain = '~';
+constexpr double kExactPoints = 200;
 constexpr QRgb kNoInk = qRgb(0, 0, 0);
 constexpr double kMostInkPixels = 1 << 18;
+constexpr std::size_t kMostFonts = 1024;  // as many as there are whole numbers of points
+constexpr std::size_t kMostBytes = std::size_t{32} << 20;  // of characters, and of layouts
+constexpr std::size_t kEntryBytes = 200;  // what anything takes that is kept, beside its pixels
 
-// A picture of the text, whose top left corner lies `margin` pixels inside.
-QImage InkOf(const TextLayout& layout, int margin) {
-  const int width = static_cast<int>(std::ceil(layout.Width));
-  const int height = static_cast<int>(std::ceil(layout.Height));
-  QImage ink(width + 2 * margin, height + 2 * margin, QImage::Format_RGB32);
-  ink.fill(kNoInk);
-  QPainter painter(&ink);
-  painter.setPen(Qt::white);
-  for (const QGlyphRun& glyphs : layout.Glyphs) {
-    painter.drawGlyphRun(QPointF(margin, margin + layout.Drop), glyphs);
-  }
-  return ink;
+std::size_t BytesOf(const std::vector<PixelRun>& runs) {
+  return kEntryBytes + runs.size() * sizeof(PixelRun);
 }
 
-void AddRunsOfRow(const QImage& ink, int y, int margin, std::vector<PixelRun>& runs) {
-  const auto* const row = reinterpret_cast<const QRgb*>(ink.constScanLine(y));
+QFont FontFor(double points, const QPaintDevice& picture) {
+  QFont font(QStringLiteral("Arial"));
+  font.setPointSizeF(points);
+  font.setStyleStrategy(QFont::NoAntialias);  // every pixel in the colour that was asked for
+  font.setHintingPreference(QFont::PreferFullHinting);
+  return {font, &picture};
+}
+
+SizedFont Measured(const QFont& font) {
+  const QFontMetricsF metrics(font);
+  // A quarter more, as two characters may be moved apart a little.
+  SizedFont sized = {.Font = font,
+                     .Ascent = metrics.ascent(),
+                     .Height = metrics.height(),
+                     .MostCharacterWidth = 1.25 * metrics.maxWidth() + 1};
+  return sized;
+}
+
+// Finds out where plain characters have pixels.
+void MeasureInk(SizedFont& sized) {
+  const QFontMetricsF metrics(sized.Font);
+  sized.InkTop = sized.Height;
+  for (char sign = kFirstPlain; sign <= kLastPlain; ++sign) {
+    const QChar character = QLatin1Char(sign);
+    const QRectF ink = metrics.boundingRect(character);
+    sized.InkTop = std::min(sized.InkTop, sized.Ascent + ink.top());
+    sized.InkBottom = std::max(sized.InkBottom, sized.Ascent + ink.bottom());
+    const double right = ink.right() - metrics.horizontalAdvance(character);
+    sized.Overhang = std::max({sized.Overhang, -ink.left(), right});
+  }
+}
+
+// The pixels that a text may cover: letters may reach beyond the line that is counted as theirs.
+QRect BoxOf(const TextLayout& layout) {
+  const int margin = static_cast<int>(std::ceil(layout.Height));
+  const QSizeF size(std::ceil(layout.Width), margin);
+  return QRect({0, 0}, size.toSize()).adjusted(-margin, -margin, margin, margin);
+}
+
+bool IsTooLarge(const TextLayout& layout) {
+  const double margin = std::ceil(layout.Height);
+  return (layout.Width + 2 * margin) * 3 * margin > kMostInkPixels;
+}
+
+void AddRunsOfRow(const QImage& ink, int y, QPoint corner, std::vector<PixelRun>& runs) {
+  const auto* const row = reinterpret_cast<const QRgb*>(ink.constScanLine(y - corner.y()));
   const auto* const end = row + ink.width();
-  const auto placeOf = [=](const QRgb* pixel) {
-    return static_cast<std::int16_t>(pixel - row - margin);
+  const auto placeOf = [&](const QRgb* pixel) {
+    return static_cast<std::int16_t>(pixel - row + corner.x());
   };
   const auto isInk = [](QRgb pixel) { return pixel != kNoInk; };
   const QRgb* first = std::find_if(row, end, isInk);
   while (first != end) {
     const QRgb* const behind = std::find(first, end, kNoInk);
-    runs.push_back({static_cast<std::int16_t>(y - margin), placeOf(first), placeOf(behind - 1)});
+    runs.push_back({static_cast<std::int16_t>(y), placeOf(first), placeOf(behind - 1)});
     first = std::find_if(behind, end, isInk);
   }
 }
 
-// The pixels that a text covers when its top left corner is that of a pixel.
-std::vector<PixelRun> RunsOf(const TextLayout& layout) {
-  // Letters may reach beyond the line that is counted as theirs.
-  const int margin = static_cast<int>(std::ceil(layout.Height));
-  const double area = (layout.Width + 2 * margin) * 3 * margin;
+// The pixels in a box that glyphs cover when they are drawn at a place. Only some rows are looked
+// at.
+std::vector<PixelRun> InkOf(const QList<QGlyphRun>& glyphs, QPointF at, const QRect& box, int top,
+                            int bottom) {
+  QImage ink(box.size(), QImage::Format_RGB32);
+  for (int y = top; y <= bottom; ++y) {
+    auto* const row = reinterpret_cast<QRgb*>(ink.scanLine(y - box.top()));
+    std::fill(row, row + ink.width(), kNoInk);
+  }
+  QPainter painter(&ink);
+  painter.setPen(Qt::white);
+  for (const QGlyphRun& run : glyphs) painter.drawGlyphRun(at - box.topLeft(), run);
   std::vector<PixelRun> runs;
-  if (layout.Glyphs.isEmpty() || area > kMostInkPixels) return runs;
-  const QImage ink = InkOf(layout, margin);
-  for (int y = 0; y < ink.height(); ++y) AddRunsOfRow(ink, y, margin, runs);
+  for (int y = top; y <= bottom; ++y) AddRunsOfRow(ink, y, box.topLeft(), runs);
   return runs;
 }
 
-TextLayout LayOut(std::string_view text, const QFont& font) {
+// Adds the pixels of a character, moved and cut to the box.
+void AddMoved(const std::vector<PixelRun>& character, QPoint by, const QRect& box,
+              std::vector<PixelRun>& runs) {
+  for (const PixelRun& run : character) {
+    const int y = run.Y + by.y();
+    const int first = std::max(run.First + by.x(), box.left());
+    const int last = std::min(run.Last + by.x(), box.right());
+    if (y < box.top() || y > box.bottom() || first > last) continue;
+    runs.push_back({static_cast<std::int16_t>(y), static_cast<std::int16_t>(first),
+                    static_cast<std::int16_t>(last)});
+  }
+}
+
+// Characters may lie anywhere in the height, but are kept for so many steps of a pixel only.
+constexpr int kSteps = 64;
+
+// Whether glyphs have the same pixels wherever they lie, so that these are worth keeping. From this
+// size on glyphs are drawn as outlines, whose edges depend a little on the place in the picture.
+bool AreStamps(const QList<QGlyphRun>& glyphs, double drop) {
+  constexpr double kFirstOutlineSize = 64;  // pixels
+  const auto isWhole = [](double value) { return value == std::floor(value); };
+  const auto liesOnStep = [&](QPointF at) {
+    return isWhole(at.x()) && isWhole((at.y() + drop) * kSteps);
+  };
+  return std::ranges::all_of(glyphs, [&](const QGlyphRun& run) {
+    return run.rawFont().pixelSize() < kFirstOutlineSize &&
+           std::ranges::all_of(run.positions(), liesOnStep);
+  });
+}
+
+std::size_t FaceNumber(std::vector<QRawFont>& faces, const QRawFont& face) {
+  const auto known = std::ranges::find(faces, face);
+  const auto number = static_cast<std::size_t>(known - faces.begin());
+  if (known == faces.end()) faces.push_back(face);
+  return number;
+}
+
+}  // namespace
+
+double SizedFont::MostWidth(std::string_view text) const {
+  const auto isPlain = [](char sign) { return sign >= kFirstPlain && sign <= kLastPlain; };
+  if (!std::ranges::all_of(text, isPlain)) return std::numeric_limits<double>::infinity();
+  return MostCharacterWidth * static_cast<double>(text.size());
+}
+
+TextLayouts::TextLayouts() : characters_(kMostBytes), layouts_(kMostBytes) {}
+
+SizedFont& TextLayouts::FontOf(double points, const QPaintDevice& picture) {
+  const auto known = fonts_.find(points);
+  if (known != fonts_.end()) return known->second;
+  if (fonts_.size() >= kMostFonts) Clear();
+  SizedFont font = Measured(FontFor(points, picture));
+  font.Number = static_cast<std::uint32_t>(fonts_.size());
+  if (!exactFont_) {
+    exactFont_ = Measured(FontFor(kExactPoints, picture));
+    MeasureInk(*exactFont_);
+  }
+  // Hinting moves edges to whole pixels.
+  constexpr double kHinting = 2;
+  const double scale = font.Height / exactFont_->Height;
+  font.InkTop = std::floor(exactFont_->InkTop * scale - kHinting);
+  font.InkBottom = std::ceil(exactFont_->InkBottom * scale + kHinting);
+  font.Overhang = std::ceil(exactFont_->Overhang * scale + kHinting);
+  return fonts_.emplace(points, font).first->second;
+}
+
+const TextLayout& TextLayouts::Of(SizedFont& font, std::string_view text) {
+  text = text.substr(0, kLongestText);
+  key_.assign(text).append(reinterpret_cast<const char*>(&font.Number), sizeof font.Number);
+  if (const TextLayout* const known = layouts_.Find(key_)) return *known;
+  TextLayout layout = LayOut(font, text);
+  const std::size_t bytes = key_.size() + BytesOf(layout.Runs);
+  return layouts_.Add(key_, std::move(layout), bytes);
+}
+
+void TextLayouts::Clear() {
+  fonts_.clear();
+  characters_.Clear();
+  layouts_.Clear();
+}
+
+TextLayout TextLayouts::LayOut(SizedFont& font, std::string_view text) {
   QTextOption options;
   options.setWrapMode(QTextOption::NoWrap);
-  QTextLayout layout(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())), font);
+  QTextLayout layout(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())),
+                     font.Font);
   layout.setTextOption(options);
   layout.setCacheEnabled(true);  // or the glyphs would be found a second time for `glyphRuns`
   layout.beginLayout();
   const QTextLine line = layout.createLine();
   layout.endLayout();
-  const QFontMetricsF metrics(font);
   TextLayout result = {.Glyphs = layout.glyphRuns(),
-                       .Drop = metrics.ascent() - line.ascent(),
+                       .Drop = font.Ascent - line.ascent(),
                        .Width = line.horizontalAdvance(),
-                       .Height = metrics.height(),
+                       .Height = font.Height,
                        .Runs = {}};
-  result.Runs = RunsOf(result);
-  if (!result.Runs.empty()) result.Glyphs.clear();
+  if (IsTooLarge(result)) return result;
+  result.Runs = RunsOf(result, font, std::isfinite(font.MostWidth(text)));
+  result.Glyphs.clear();
   return result;
 }
 
-}  // namespace
+TextLayouts::Runs TextLayouts::RunsOf(const TextLayout& layout, SizedFont& font, bool isPlain) {
+  const QRect box = BoxOf(layout);
+  if (!AreStamps(layout.Glyphs, layout.Drop)) {
+    const QRect inkRows = font.InkBox(0).toAlignedRect();
+    const int top = isPlain ? std::max(inkRows.top(), box.top()) : box.top();
+    const int bottom = isPlain ? std::min(inkRows.bottom(), box.bottom()) : box.bottom();
+    return InkOf(layout.Glyphs, {0, layout.Drop}, box, top, bottom);
+  }
+  Runs runs;
+  for (const QGlyphRun& glyphs : layout.Glyphs) {
+    const std::size_t face = FaceNumber(font.Faces, glyphs.rawFont());
+    const QList<quint32> indexes = glyphs.glyphIndexes();
+    const QList<QPointF> places = glyphs.positions();
+    for (qsizetype i = 0; i < indexes.size(); ++i) {
+      const double y = places[i].y() + layout.Drop;
+      const QPoint pixel(static_cast<int>(places[i].x()), static_cast<int>(std::floor(y)));
+      AddMoved(Character(font, face, indexes[i], y - pixel.y()), pixel, box, runs);
+    }
+  }
+  return runs;
+}
 
-const TextLayout& TextLayouts::Of(std::string_view text) {
-  text = text.substr(0, kLongestText);
-  const auto known = layouts_.find(text);
-  if (known != layouts_.end()) return known->second;
-  if (layouts_.size() >= kMostTexts) layouts_.clear();
-  return layouts_.emplace(text, LayOut(text, font_)).first->second;
+const TextLayouts::Runs& TextLayouts::Character(const SizedFont& font, std::size_t face,
+                                                quint32 glyph, double down) {
+  std::uint64_t key = font.Number;
+  key = key << 12 | face;
+  key = key << 6 | static_cast<std::uint64_t>(down * kSteps);
+  key = key << 32 | glyph;
+  if (const Runs* const known = characters_.Find(key)) return *known;
+  QGlyphRun glyphs;
+  glyphs.setRawFont(font.Faces[face]);
+  glyphs.setGlyphIndexes({glyph});
+  glyphs.setPositions({QPointF(0, down)});
+  // Full hinting may move the edges a little.
+  const int margin = 2 + static_cast<int>(font.Height / 8);
+  const QRect box = font.Faces[face].boundingRect(glyph).toAlignedRect().adjusted(-margin, -margin,
+                                                                                  margin, margin);
+  Runs runs = InkOf({glyphs}, {0, 0}, box, box.top(), box.bottom());
+  const std::size_t bytes = BytesOf(runs);
+  return characters_.Add(key, std::move(runs), bytes);
 }
 
 }  // namespace quorvane

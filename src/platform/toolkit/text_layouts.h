@@ -3,14 +3,19 @@
 #include <QFont>
 #include <QGlyphRun>
 #include <QList>
+#include <QPaintDevice>
+#include <QRawFont>
+#include <QRectF>
 #include <cstddef>
-#include <functional>
+#include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
 #include <vector>
 
 #include "platform/toolkit/pixel_canvas.h"
+#include "platform/toolkit/recent_cache.h"
 
 namespace quorvane {
 
@@ -23,38 +28,71 @@ struct TextLayout {
   double Drop = 0;
   double Width = 0;
   double Height = 0;
-  /// The pixels that the text covers when its top left corner is that of a pixel.
+  /// The pixels that the text covers when its top left corner is that of a pixel. None lies farther
+  /// outside the text's box than this is high.
   std::vector<PixelRun> Runs;
 };
 
-/// The layouts of the texts that were asked for in a font. Finding out which glyphs a text needs
-/// and which pixels they cover takes many times longer than colouring these, and a map prints the
-/// same names at every redraw. Needs a running QGuiApplication when a layout is asked for.
+/// A font of one size, with what all its texts have in common.
+struct SizedFont {
+  std::uint32_t Number = 0;  // counted from 0
+  QFont Font;
+  double Ascent = 0;
+  double Height = 0;
+  /// More than any of its own characters takes.
+  double MostCharacterWidth = 0;
+  /// Between which heights below a line's top its plain letters, digits and signs have pixels, and
+  /// how far they may reach beyond the line's ends.
+  double InkTop = 0;
+  double InkBottom = 0;
+  double Overhang = 0;
+  /// Where the characters of its texts were taken from: itself, and fonts that have what it lacks.
+  std::vector<QRawFont> Faces;
+
+  /// A width that no line of this text exceeds; infinite when only its layout can tell.
+  double MostWidth(std::string_view text) const;
+  /// The box around all pixels of such a text, counted from its top left corner.
+  QRectF InkBox(double width) const {
+    return {QPointF(-Overhang, InkTop), QPointF(width + Overhang, InkBottom)};
+  }
+};
+
+/// The layouts of the texts that were asked for. A map prints the same names at every redraw, and
+/// finding out where a text's characters go takes several times longer than colouring its pixels;
+/// finding out which pixels a character has takes longer still. Needs a running QGuiApplication
+/// when a font is asked for.
 class TextLayouts {
  public:
-  /// How many texts are kept, a multiple of what a map shows; the next one starts anew.
-  static constexpr std::size_t kMostTexts = 8192;
+  TextLayouts();
+
   /// How many bytes of a text are drawn, more than any screen has room for: laying out a text of
   /// megabytes, as a damaged file may hold it, would take minutes.
   static constexpr std::size_t kLongestText = 8192;
 
-  /// @param font with the dots per inch of the picture to be drawn in
-  explicit TextLayouts(const QFont& font) : font_(font) {}
-
+  /// The font of a size, in points, for pictures with the dots per inch of this one.
+  /// @return a font that stays until this is called again
+  SizedFont& FontOf(double points, const QPaintDevice& picture);
   /// @param text  UTF-8; line breaks and TABs in it are drawn like any other character
   /// @return a layout that stays until this is called again
-  const TextLayout& Of(std::string_view text);
+  const TextLayout& Of(SizedFont& font, std::string_view text);
+  /// Forgets all, for a picture with other dots per inch.
+  void Clear();
 
  private:
-  struct TextHash {
-    using is_transparent = void;  // NOLINT(readability-identifier-naming): the library's name
-    std::size_t operator()(std::string_view text) const {
-      return std::hash<std::string_view>()(text);
-    }
-  };
+  using Runs = std::vector<PixelRun>;
 
-  QFont font_;
-  std::unordered_map<std::string, TextLayout, TextHash, std::equal_to<>> layouts_;
+  TextLayout LayOut(SizedFont& font, std::string_view text);
+  Runs RunsOf(const TextLayout& layout, SizedFont& font, bool isPlain);
+  // The pixels of a character whose origin lies so far below the top of a pixel.
+  const Runs& Character(const SizedFont& font, std::size_t face, quint32 glyph, double down);
+
+  std::unordered_map<double, SizedFont> fonts_;
+  std::optional<SizedFont> exactFont_;  // large enough to measure characters well
+  // By the numbers of font, face and glyph, and by the place in a pixel.
+  RecentCache<std::uint64_t, Runs> characters_;
+  // By text and number of the font.
+  RecentCache<std::string, TextLayout> layouts_;
+  std::string key_;
 };
 
 }  // namespace quorvane
