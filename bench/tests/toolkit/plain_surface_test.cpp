@@ -166,6 +166,8 @@ TEST(DrawDrawingLayer, LooksTheSameFromTheTopDown) {
                 .Size = 1.0 + below(20),
                 .ColourNumber = 1 + below(7)};
     }
+    for (std::size_t i = 0; i < layer.size(); i += 4) layer[i].Text += "\u00c5\u00ad\u0163";
+    for (std::size_t i = 0; i < layer.size(); i += 9) layer[i].Text += "\u0416";
     MapView view;
     view.ShowAll(1400);
     PictureSurface fast({150, 110}, ratio);

@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <utility>
 
 namespace quorvane {
@@ -125,21 +126,23 @@ void PictureSurface::Circle(SurfacePoint centre, double radius, Colour colour) {
 void PictureSurface::Print(SurfacePoint topLeft, std::string_view text) {
   const QPointF at = DevicePoint(topLeft);
   SizedFont& font = texts_.FontOf(fontPoints_, picture_);
-  const double mostWidth = font.MostWidth(text);
+  const InkRange* const ink = font.InkOf(text);
+  const double mostWidth = ink != nullptr
+                               ? font.MostCharacterWidth * static_cast<double>(text.size())
+                               : std::numeric_limits<double>::infinity();
   // A position that is no number fails here as well.
   const bool mayBeInPicture = at.x() < picture_.width() && at.y() < picture_.height() &&
                               at.x() > -mostWidth && at.y() > -font.Height;
-  if (!mayBeInPicture) return;
   const QPointF corner(std::floor(at.x() + 0.5), std::floor(at.y() + 0.5));
-  const bool isPlain = std::isfinite(mostWidth);
-  if (isPlain && IsHidden(font.InkBox(mostWidth).translated(corner))) return;
+  if (!mayBeInPicture) return;
+  if (ink != nullptr && IsHidden(ink->Box(mostWidth).translated(corner))) return;
   const TextLayout& layout = texts_.Of(font, text);
   if (!(at.x() > -layout.Width)) return;
-  // Substitute fonts may go anywhere; what is kept of their texts does not.
+  // Other characters may reach anywhere; what is kept of their texts does not.
   const double margin = layout.Glyphs.isEmpty() ? std::ceil(layout.Height) : kFarthestPixel;
-  const QRectF box = isPlain ? font.InkBox(layout.Width)
-                             : QRectF(0, 0, layout.Width, layout.Height)
-                                   .marginsAdded({margin, margin, margin, margin});
+  const QRectF box = ink != nullptr ? ink->Box(layout.Width)
+                                    : QRectF(0, 0, layout.Width, layout.Height)
+                                          .marginsAdded({margin, margin, margin, margin});
   if (IsHidden(box.translated(corner))) return;
   if (layout.Glyphs.isEmpty()) {
     const PixelPlace pixel = {static_cast<int>(corner.x()), static_cast<int>(corner.y())};

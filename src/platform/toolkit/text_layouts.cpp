@@ -9,15 +9,39 @@
 #include <QTextOption>
 #include <algorithm>
 #include <cmath>
-#include <limits>
 #include <utility>
 
 namespace quorvane {
 namespace {
 
-// The characters of which a font of Latin letters has all, one after the other.
-constexpr char kFirstPlain = ' ';
-constexpr char kLastPlain = '~';
+// Latin letters, digits and signs follow each other without a change of direction or height in a
+// font that has them: those of ASCII, and those with accents from U+00A1 to U+017F.
+constexpr char32_t kFirstPlain = U' ';
+constexpr char32_t kLastPlain = U'~';
+constexpr char32_t kFirstAccented = U'\u00a1';
+constexpr char32_t kLastAccented = U'\u017f';
+constexpr char32_t kSoftHyphen = U'\u00ad';  // has no width of its own
+
+bool IsPlain(char sign) { return sign >= ' ' && sign <= '~'; }
+
+// Whether a text starts with the two bytes of an accented character.
+bool StartsAccented(std::string_view text) {
+  if (text.size() < 2) return false;
+  const auto first = static_cast<unsigned char>(text[0]);
+  const auto second = static_cast<unsigned char>(text[1]);
+  if ((first & 0xe0U) != 0xc0 || (second & 0xc0U) != 0x80) return false;
+  const char32_t character = (first & 0x1fU) << 6 | (second & 0x3fU);
+  return character >= kFirstAccented && character <= kLastAccented && character != kSoftHyphen;
+}
+
+bool IsLatin(std::string_view text) {
+  while (!text.empty()) {
+    if (!IsPlain(text.front()) && !StartsAccented(text)) return false;
+    text.remove_prefix(IsPlain(text.front()) ? 1 : 2);
+  }
+  return true;
+}
+
 constexpr double kExactPoints = 200;
 constexpr QRgb kNoInk = qRgb(0, 0, 0);
 constexpr double kMostInkPixels = 1 << 18;
@@ -47,18 +71,34 @@ SizedFont Measured(const QFont& font) {
   return sized;
 }
 
-// Finds out where plain characters have pixels.
-void MeasureInk(SizedFont& sized) {
-  const QFontMetricsF metrics(sized.Font);
-  sized.InkTop = sized.Height;
-  for (char sign = kFirstPlain; sign <= kLastPlain; ++sign) {
-    const QChar character = QLatin1Char(sign);
+// Widens a range to all pixels of the characters first … last. False when the font lacks one.
+bool Include(char32_t first, char32_t last, const SizedFont& font, InkRange& range) {
+  const QFontMetricsF metrics(font.Font);
+  bool hasAll = true;
+  for (char32_t sign = first; sign <= last; ++sign) {
+    const QChar character(static_cast<char16_t>(sign));
+    hasAll = hasAll && metrics.inFont(character);
     const QRectF ink = metrics.boundingRect(character);
-    sized.InkTop = std::min(sized.InkTop, sized.Ascent + ink.top());
-    sized.InkBottom = std::max(sized.InkBottom, sized.Ascent + ink.bottom());
+    range.Top = std::min(range.Top, font.Ascent + ink.top());
+    range.Bottom = std::max(range.Bottom, font.Ascent + ink.bottom());
     const double right = ink.right() - metrics.horizontalAdvance(character);
-    sized.Overhang = std::max({sized.Overhang, -ink.left(), right});
+    range.Overhang = std::max({range.Overhang, -ink.left(), right});
   }
+  return hasAll;
+}
+
+void MeasureInk(SizedFont& font) {
+  font.PlainInk.Top = font.Height;
+  font.HasLatin = Include(kFirstPlain, kLastPlain, font, font.PlainInk);
+  font.AccentedInk = font.PlainInk;
+  font.HasLatin = Include(kFirstAccented, kLastAccented, font, font.AccentedInk) && font.HasLatin;
+}
+
+// The same range in a font of another size.
+InkRange Scaled(const InkRange& range, double scale) {
+  constexpr double kHinting = 2;  // moves edges to whole pixels
+  return {std::floor(range.Top * scale - kHinting), std::ceil(range.Bottom * scale + kHinting),
+          std::ceil(range.Overhang * scale + kHinting)};
 }
 
 // The pixels that a text may cover: letters may reach beyond the line that is counted as theirs.
@@ -144,10 +184,10 @@ std::size_t FaceNumber(std::vector<QRawFont>& faces, const QRawFont& face) {
 
 }  // namespace
 
-double SizedFont::MostWidth(std::string_view text) const {
-  const auto isPlain = [](char sign) { return sign >= kFirstPlain && sign <= kLastPlain; };
-  if (!std::ranges::all_of(text, isPlain)) return std::numeric_limits<double>::infinity();
-  return MostCharacterWidth * static_cast<double>(text.size());
+const InkRange* SizedFont::InkOf(std::string_view text) const {
+  if (!HasLatin) return nullptr;
+  if (std::ranges::all_of(text, IsPlain)) return &PlainInk;
+  return IsLatin(text) ? &AccentedInk : nullptr;
 }
 
 TextLayouts::TextLayouts() : characters_(kMostBytes), layouts_(kMostBytes) {}
@@ -162,12 +202,10 @@ SizedFont& TextLayouts::FontOf(double points, const QPaintDevice& picture) {
     exactFont_ = Measured(FontFor(kExactPoints, picture));
     MeasureInk(*exactFont_);
   }
-  // Hinting moves edges to whole pixels.
-  constexpr double kHinting = 2;
   const double scale = font.Height / exactFont_->Height;
-  font.InkTop = std::floor(exactFont_->InkTop * scale - kHinting);
-  font.InkBottom = std::ceil(exactFont_->InkBottom * scale + kHinting);
-  font.Overhang = std::ceil(exactFont_->Overhang * scale + kHinting);
+  font.HasLatin = exactFont_->HasLatin;
+  font.PlainInk = Scaled(exactFont_->PlainInk, scale);
+  font.AccentedInk = Scaled(exactFont_->AccentedInk, scale);
   return fonts_.emplace(points, font).first->second;
 }
 
@@ -202,17 +240,18 @@ TextLayout TextLayouts::LayOut(SizedFont& font, std::string_view text) {
                        .Height = font.Height,
                        .Runs = {}};
   if (IsTooLarge(result)) return result;
-  result.Runs = RunsOf(result, font, std::isfinite(font.MostWidth(text)));
+  result.Runs = RunsOf(result, font, font.InkOf(text));
   result.Glyphs.clear();
   return result;
 }
 
-TextLayouts::Runs TextLayouts::RunsOf(const TextLayout& layout, SizedFont& font, bool isPlain) {
+TextLayouts::Runs TextLayouts::RunsOf(const TextLayout& layout, SizedFont& font,
+                                      const InkRange* ink) {
   const QRect box = BoxOf(layout);
   if (!AreStamps(layout.Glyphs, layout.Drop)) {
-    const QRect inkRows = font.InkBox(0).toAlignedRect();
-    const int top = isPlain ? std::max(inkRows.top(), box.top()) : box.top();
-    const int bottom = isPlain ? std::min(inkRows.bottom(), box.bottom()) : box.bottom();
+    const QRect rows = ink != nullptr ? ink->Box(0).toAlignedRect() : box;
+    const int top = std::max(rows.top(), box.top());
+    const int bottom = std::min(rows.bottom(), box.bottom());
     return InkOf(layout.Glyphs, {0, layout.Drop}, box, top, bottom);
   }
   Runs runs;

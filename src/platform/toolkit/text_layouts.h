@@ -33,6 +33,20 @@ struct TextLayout {
   std::vector<PixelRun> Runs;
 };
 
+/// Where the characters of some alphabet have pixels in a font.
+struct InkRange {
+  /// Between which heights below a line's top.
+  double Top = 0;
+  double Bottom = 0;
+  /// How far beyond the line's ends.
+  double Overhang = 0;
+
+  /// The box around all pixels of a line, counted from its top left corner.
+  QRectF Box(double width) const {
+    return {QPointF(-Overhang, Top), QPointF(width + Overhang, Bottom)};
+  }
+};
+
 /// A font of one size, with what all its texts have in common.
 struct SizedFont {
   std::uint32_t Number = 0;  // counted from 0
@@ -41,20 +55,16 @@ struct SizedFont {
   double Height = 0;
   /// More than any of its own characters takes.
   double MostCharacterWidth = 0;
-  /// Between which heights below a line's top its plain letters, digits and signs have pixels, and
-  /// how far they may reach beyond the line's ends.
-  double InkTop = 0;
-  double InkBottom = 0;
-  double Overhang = 0;
+  /// Whether it has all Latin letters, with and without accents, digits and signs.
+  bool HasLatin = false;
+  InkRange PlainInk;
+  InkRange AccentedInk;
   /// Where the characters of its texts were taken from: itself, and fonts that have what it lacks.
   std::vector<QRawFont> Faces;
 
-  /// A width that no line of this text exceeds; infinite when only its layout can tell.
-  double MostWidth(std::string_view text) const;
-  /// The box around all pixels of such a text, counted from its top left corner.
-  QRectF InkBox(double width) const {
-    return {QPointF(-Overhang, InkTop), QPointF(width + Overhang, InkBottom)};
-  }
+  /// Where a text has its pixels; nullptr when only its layout can tell, as it has characters of
+  /// other kinds.
+  const InkRange* InkOf(std::string_view text) const;
 };
 
 /// The layouts of the texts that were asked for. A map prints the same names at every redraw, and
@@ -82,7 +92,8 @@ class TextLayouts {
   using Runs = std::vector<PixelRun>;
 
   TextLayout LayOut(SizedFont& font, std::string_view text);
-  Runs RunsOf(const TextLayout& layout, SizedFont& font, bool isPlain);
+  // @param ink  nullptr when not known
+  Runs RunsOf(const TextLayout& layout, SizedFont& font, const InkRange* ink);
   // The pixels of a character whose origin lies so far below the top of a pixel.
   const Runs& Character(const SizedFont& font, std::size_t face, quint32 glyph, double down);
 
