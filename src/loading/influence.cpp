@@ -22,8 +22,8 @@ namespace {
 constexpr std::size_t kPlanetsBetweenQuestions = 50'000;
 
 // Every planet with a sphere and an owner, in map order.
-std::vector<RadiatingPlanet> ListPlanets(const GameSession& session) {
-  std::vector<RadiatingPlanet> planets;
+InfluenceList ListPlanets(const GameSession& session) {
+  InfluenceList planets;
   std::map<int, ShareKind> kinds;  // by radius
   for (int i = 1; i <= session.PlanetCount; ++i) {
     const PlanetRecord& planet = session.Planet(i);
@@ -105,7 +105,7 @@ class InfluenceRun {
 
   GameSession& session_;
   InfluenceRule rule_;
-  std::vector<RadiatingPlanet> planets_;
+  InfluenceList planets_;
   std::vector<float> lines_;
   InfluenceStrip strip_;
   InfluenceSums sums_;

@@ -59,7 +59,7 @@ class InfluenceStrip {
   float tilesPerLightYear_;
   std::vector<std::size_t> nearNumbers_;
   std::vector<NearPlanet> nearPlanets_;
-  std::vector<RadiatingPlanet> planetsForTile_;
+  InfluenceList planetsForTile_;
   // For each tile; room for whole blocks.
   std::size_t tileCount_;
   std::vector<float> first_;

@@ -49,7 +49,7 @@ class InfluenceSums {
   // What is to be added: numbers for all points of an owner, steps, and other planets.
   std::array<int, kMaxPlayers + 1> constants_ = {};
   std::vector<ShareStep> steps_;
-  std::vector<RadiatingPlanet> others_;
+  InfluenceList others_;
   TileSums sums_;
   TileHolders holders_;
 };

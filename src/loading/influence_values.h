@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <cstdint>
+#include <vector>
 
 namespace quorvane {
 
@@ -34,6 +35,9 @@ struct RadiatingPlanet {
   std::int16_t Owner = 0;  // 1 … 16
   ShareKind Kind = ShareKind::Simple;
 };
+
+/// Planets that radiate, in map order: where exact halves meet, the order decides the rounding.
+using InfluenceList = std::vector<RadiatingPlanet>;
 
 /// The rule of influence for one `SoiSetting`, S.
 struct InfluenceRule {
