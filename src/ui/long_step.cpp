@@ -11,20 +11,19 @@ namespace {
 
 constexpr qint64 kPatience = 100;  // milliseconds
 
+// What begins something. What ends it is let through: a button that was pressed before would stay
+// so.
 bool IsInput(QEvent::Type type) {
   switch (type) {
     case QEvent::KeyPress:
-    case QEvent::KeyRelease:
     case QEvent::Shortcut:
     case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonRelease:
     case QEvent::MouseButtonDblClick:
     case QEvent::MouseMove:
     case QEvent::Wheel:
     case QEvent::ContextMenu:
     case QEvent::TouchBegin:
     case QEvent::TouchUpdate:
-    case QEvent::TouchEnd:
     case QEvent::NativeGesture:
     case QEvent::Close:
       return true;
