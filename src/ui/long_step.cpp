@@ -34,7 +34,11 @@ bool IsInput(QEvent::Type type) {
 
 }  // namespace
 
-LongStep::LongStep(QProgressBar& bar) : bar_(bar), value_(bar.value()), maximum_(bar.maximum()) {
+LongStep::LongStep(QProgressBar& bar)
+    : bar_(bar),
+      modal_(QApplication::activeModalWidget()),
+      value_(bar.value()),
+      maximum_(bar.maximum()) {
   sinceAnswer_.start();
 }
 
@@ -78,7 +82,9 @@ bool LongStep::Answer() {
 }
 
 bool LongStep::eventFilter(QObject* target, QEvent* event) {
-  if (!IsInput(event->type())) return QObject::eventFilter(target, event);
+  // Assistive technology may open a dialog meanwhile, which has to be closed again.
+  const bool isForDialog = QApplication::activeModalWidget() != modal_;
+  if (isForDialog || !IsInput(event->type())) return QObject::eventFilter(target, event);
   if (event->type() == QEvent::KeyPress) {
     isStopped_ = isStopped_ || static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape;
   } else if (event->type() == QEvent::Close) {

@@ -8,6 +8,7 @@
 #include "model/progress.h"
 
 class QProgressBar;
+class QWidget;
 
 namespace quorvane {
 
@@ -37,6 +38,7 @@ class LongStep : public QObject {
   bool Answer();
 
   QProgressBar& bar_;
+  const QWidget* modal_;  // the dialog, if any, that the step runs for
   int value_;
   int maximum_;
   bool isTold_ = false;  // how far the step is, since the windows answered last

@@ -59,6 +59,7 @@ void ShowInFront(QWidget& window) {
 }  // namespace
 
 void Main::mnuMap_Click() {
+  if (redraw_ != nullptr) return;  // the game must stay while it is drawn
   if (openFile_ == nullptr || openFile_->IsDiscarded()) {
     openFile_ = std::make_unique<OpenFile>(open_, prompts_, this);
   }
