@@ -59,6 +59,7 @@ class ToolTipFilter : public QObject {
 QString PlainToolTip(const QString& text) { return AsItStands(InShortLines(text)); }
 
 void SetPlainToolTip(QWidget& widget, const QString& text) {
+  if (widget.property(kWholeTip) == text) return;  // the map's is set with every move of the mouse
   static ToolTipFilter filter;
   widget.setToolTip(AsItStands(text));
   widget.setProperty(kWholeTip, text);
