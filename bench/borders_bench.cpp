@@ -8,11 +8,11 @@
 #include <memory>
 #include <string>
 
-#include "loading/influence.h"
-#include "platform/toolkit/picture_surface.h"
+#include "influence/compute_influence.h"
+#include "map/draw_overlays.h"
+#include "paint/picture_surface.h"
 #include "ratio_reporter.h"
 #include "reference/plain_borders.h"
-#include "render/draw_overlays.h"
 #include "synthetic_game.h"
 
 namespace quorvane {

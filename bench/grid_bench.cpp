@@ -8,7 +8,7 @@
 #include <memory>
 #include <numeric>
 
-#include "platform/toolkit/colours.h"
+#include "paint/colours.h"
 #include "ratio_reporter.h"
 #include "reference/plain_grid.h"
 #include "synthetic_game.h"

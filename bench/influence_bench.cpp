@@ -5,7 +5,7 @@
 #include <string>
 #include <utility>
 
-#include "loading/influence.h"
+#include "influence/compute_influence.h"
 #include "ratio_reporter.h"
 #include "reference/plain_influence.h"
 #include "synthetic_game.h"

@@ -8,10 +8,10 @@
 #include <utility>
 #include <vector>
 
+#include "files/files.h"
 #include "game_on_disk.h"
 #include "loading/load_game.h"
 #include "loading/report_merge.h"
-#include "platform/files/files.h"
 #include "ratio_reporter.h"
 #include "reference/plain_merge.h"
 

@@ -14,12 +14,12 @@
 
 #include "game_on_disk.h"
 #include "loading/load_game.h"
-#include "platform/toolkit/picture_surface.h"
+#include "map/draw_overlays.h"
+#include "map/planet_pick.h"
+#include "paint/picture_surface.h"
 #include "ratio_reporter.h"
 #include "reference/plain_pick.h"
 #include "reference/plain_surface.h"
-#include "render/draw_overlays.h"
-#include "render/planet_pick.h"
 #include "synthetic_game.h"
 
 namespace quorvane {

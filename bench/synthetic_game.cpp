@@ -7,7 +7,7 @@
 #include <random>
 #include <vector>
 
-#include "loading/sphere_of_influence.h"
+#include "rules/sphere_of_influence.h"
 
 namespace quorvane {
 namespace {

@@ -5,12 +5,12 @@
 #include <optional>
 #include <vector>
 
-#include "analysis/empire_data.h"
-#include "analysis/estimated_hab.h"
+#include "formats/dialog_files.h"
+#include "formats/drawing_file.h"
+#include "formats/empire_data_file.h"
+#include "formats/race_colour_file.h"
 #include "fuzz_support.h"
-#include "loading/dialog_files.h"
-#include "loading/drawing_file.h"
-#include "loading/race_colour_file.h"
+#include "rules/estimated_hab.h"
 
 namespace quorvane::fuzz {
 namespace {

@@ -5,9 +5,9 @@
 
 #include "fuzz_support.h"
 #include "loading/load_game.h"
-#include "loading/open_checks.h"
 #include "loading/report_finder.h"
 #include "model/rounding.h"
+#include "screens/open_checks.h"
 
 namespace quorvane::fuzz {
 namespace {

@@ -2,9 +2,9 @@
 // message that names the file.
 #include <limits>
 
+#include "formats/settings_file.h"
+#include "formats/universe_map.h"
 #include "fuzz_support.h"
-#include "loading/map_file.h"
-#include "loading/settings_file.h"
 
 namespace quorvane::fuzz {
 namespace {

@@ -2,11 +2,11 @@
 // own report, then as another one. Planets of one name always know the same.
 #include <cmath>
 
+#include "formats/report_file.h"
 #include "fuzz_support.h"
-#include "loading/player_statistics.h"
-#include "loading/report_file.h"
 #include "loading/report_merge.h"
 #include "model/text.h"
+#include "rules/player_statistics.h"
 
 namespace quorvane::fuzz {
 namespace {

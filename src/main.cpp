@@ -6,8 +6,8 @@
 #include <QTimer>
 #include <QWindow>
 
+#include "formats/settings_file.h"
 #include "loading/example_games.h"
-#include "loading/settings_file.h"
 #include "ui/accessible_roles.h"
 #include "ui/icons.h"
 #include "ui/main_window.h"

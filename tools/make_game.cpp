@@ -7,9 +7,9 @@
 #include <string_view>
 #include <system_error>
 
+#include "files/files.h"
 #include "generator/game_generator.h"
 #include "make_game_options.h"
-#include "platform/files/files.h"
 
 namespace quorvane::generator {
 namespace {

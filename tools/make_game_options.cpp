@@ -5,7 +5,7 @@
 #include <optional>
 #include <system_error>
 
-#include "platform/files/files.h"
+#include "files/files.h"
 
 namespace quorvane::generator {
 

@@ -12,7 +12,7 @@
 #include <algorithm>
 #include <iostream>
 
-#include "render/planets_in_view.h"
+#include "map/planets_in_view.h"
 #include "ui/details_panel.h"
 #include "ui/empire_stat.h"
 #include "ui/grid.h"

@@ -2,8 +2,8 @@
 
 #include <QImage>
 
+#include "map/map_view.h"
 #include "model/game_session.h"
-#include "render/map_view.h"
 
 namespace quorvane::reference {
 

@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <vector>
 
-#include "analysis/planet_grid.h"
+#include "screens/planet_grid.h"
 
 namespace quorvane::reference {
 

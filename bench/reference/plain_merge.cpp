@@ -6,9 +6,9 @@
 #include <string_view>
 #include <vector>
 
+#include "files/files.h"
 #include "model/rounding.h"
 #include "model/text.h"
-#include "platform/files/files.h"
 
 namespace quorvane::reference {
 namespace {

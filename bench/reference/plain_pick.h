@@ -1,7 +1,7 @@
 #pragma once
 
+#include "map/map_view.h"
 #include "model/game_session.h"
-#include "render/map_view.h"
 
 namespace quorvane::reference {
 

@@ -9,7 +9,7 @@
 #include <cstdlib>
 #include <utility>
 
-#include "platform/toolkit/colours.h"
+#include "paint/colours.h"
 
 namespace quorvane::reference {
 namespace {

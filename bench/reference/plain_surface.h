@@ -7,7 +7,7 @@
 #include <memory>
 #include <string_view>
 
-#include "render/drawing_surface.h"
+#include "map/drawing_surface.h"
 
 namespace quorvane::reference {
 

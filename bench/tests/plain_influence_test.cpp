@@ -6,7 +6,7 @@
 
 #include <utility>
 
-#include "loading/influence.h"
+#include "influence/compute_influence.h"
 #include "synthetic_game.h"
 
 namespace quorvane {

@@ -3,15 +3,15 @@
 #include <cmath>
 #include <utility>
 
-#include "analysis/empire_data.h"
-#include "analysis/race_ranges.h"
-#include "loading/drawing_file.h"
-#include "loading/influence.h"
-#include "loading/map_file.h"
-#include "loading/player_statistics.h"
-#include "loading/race_colour_file.h"
+#include "files/files.h"
+#include "formats/drawing_file.h"
+#include "formats/empire_data_file.h"
+#include "formats/race_colour_file.h"
+#include "formats/universe_map.h"
+#include "influence/compute_influence.h"
 #include "loading/report_merge.h"
-#include "platform/files/files.h"
+#include "rules/player_statistics.h"
+#include "rules/race_ranges.h"
 
 namespace quorvane {
 namespace {

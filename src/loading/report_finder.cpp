@@ -4,7 +4,7 @@
 #include <optional>
 #include <vector>
 
-#include "platform/files/files.h"
+#include "files/files.h"
 
 namespace quorvane {
 namespace {

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <utility>
 
-#include "loading/report_file.h"
-#include "loading/sphere_of_influence.h"
+#include "formats/report_file.h"
+#include "rules/sphere_of_influence.h"
 
 namespace quorvane {
 namespace {

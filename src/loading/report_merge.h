@@ -5,8 +5,8 @@
 #include <string_view>
 #include <vector>
 
+#include "formats/report_line.h"
 #include "loading/planet_index.h"
-#include "loading/report_line.h"
 #include "model/game_session.h"
 
 namespace quorvane {

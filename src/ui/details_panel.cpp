@@ -4,7 +4,7 @@
 #include <QVBoxLayout>
 #include <span>
 
-#include "analysis/planet_details.h"
+#include "screens/planet_details.h"
 #include "ui/controls.h"
 #include "ui/texts.h"
 

@@ -5,8 +5,8 @@
 #include <string>
 #include <utility>
 
-#include "loading/drawing_file.h"
-#include "platform/files/files.h"
+#include "files/files.h"
+#include "formats/drawing_file.h"
 #include "ui/drawing_tools.h"
 #include "ui/map_panel.h"
 #include "ui/texts.h"

@@ -3,10 +3,10 @@
 #include <QObject>
 #include <vector>
 
+#include "map/drawing_layer.h"
 #include "model/drawing_record.h"
 #include "model/game_session.h"
-#include "platform/toolkit/picture_shapes.h"
-#include "render/drawing_layer.h"
+#include "paint/picture_shapes.h"
 #include "ui/prompts.h"
 
 namespace quorvane {

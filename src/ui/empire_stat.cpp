@@ -6,9 +6,9 @@
 #include <QScopedValueRollback>
 #include <QVBoxLayout>
 
-#include "analysis/empire_data.h"
-#include "analysis/race_ranges.h"
+#include "formats/empire_data_file.h"
 #include "model/text.h"
+#include "rules/race_ranges.h"
 #include "ui/controls.h"
 #include "ui/texts.h"
 

@@ -3,8 +3,8 @@
 #include <QWidget>
 #include <array>
 
-#include "analysis/empire_statistics.h"
 #include "model/player_record.h"
+#include "screens/empire_statistics.h"
 #include "ui/elided_label.h"
 
 namespace quorvane {

@@ -8,7 +8,7 @@
 #include <QLineEdit>
 #include <QShowEvent>
 
-#include "analysis/find_planet.h"
+#include "screens/planet_search.h"
 #include "ui/controls.h"
 #include "ui/texts.h"
 

@@ -10,8 +10,8 @@
 #include <QToolTip>
 #include <algorithm>
 
-#include "analysis/planet_grid.h"
-#include "platform/toolkit/twips.h"
+#include "paint/twips.h"
+#include "screens/planet_grid.h"
 #include "ui/grid_heading.h"
 #include "ui/grid_model.h"
 #include "ui/show_hide.h"

@@ -3,7 +3,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 
-#include "platform/toolkit/twips.h"
+#include "paint/twips.h"
 
 namespace quorvane {
 namespace {

@@ -4,7 +4,7 @@
 #include <numeric>
 #include <utility>
 
-#include "platform/toolkit/colours.h"
+#include "paint/colours.h"
 #include "ui/controls.h"
 #include "ui/texts.h"
 

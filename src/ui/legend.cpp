@@ -3,8 +3,8 @@
 #include <QKeyEvent>
 #include <QPainter>
 
-#include "platform/toolkit/twips.h"
-#include "render/swatch.h"
+#include "map/swatch.h"
+#include "paint/twips.h"
 #include "ui/controls.h"
 #include "ui/pixel_rect.h"
 #include "ui/texts.h"

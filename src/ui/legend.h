@@ -6,8 +6,8 @@
 #include <optional>
 
 #include "model/game_session.h"
-#include "platform/toolkit/picture_box.h"
-#include "render/main_layout.h"
+#include "paint/picture_box.h"
+#include "screens/main_layout.h"
 
 namespace quorvane {
 

@@ -16,8 +16,8 @@
 #include <utility>
 
 #include "loading/load_game.h"
-#include "platform/toolkit/twips.h"
-#include "render/main_layout.h"
+#include "paint/twips.h"
+#include "screens/main_layout.h"
 #include "ui/controls.h"
 #include "ui/details_panel.h"
 #include "ui/drawing_board.h"

@@ -7,10 +7,10 @@
 #include <filesystem>
 #include <memory>
 
+#include "map/map_view.h"
+#include "map/overlay_kind.h"
 #include "model/game_session.h"
 #include "model/result.h"
-#include "render/map_view.h"
-#include "render/overlay_kind.h"
 #include "ui/main_menu.h"
 #include "ui/open_file.h"
 #include "ui/prompts.h"

@@ -9,13 +9,13 @@
 #include <utility>
 #include <vector>
 
-#include "analysis/empire_data.h"
-#include "analysis/find_planet.h"
+#include "formats/empire_data_file.h"
+#include "formats/map_picture_file.h"
+#include "formats/race_colour_file.h"
 #include "loading/load_game.h"
-#include "loading/map_picture_file.h"
-#include "loading/race_colour_file.h"
 #include "model/text.h"
-#include "platform/toolkit/picture_file.h"
+#include "paint/picture_file.h"
+#include "screens/planet_search.h"
 #include "ui/about.h"
 #include "ui/details_panel.h"
 #include "ui/drawing_board.h"

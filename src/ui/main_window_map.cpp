@@ -2,9 +2,9 @@
 #include <QScopedValueRollback>
 #include <string>
 
-#include "analysis/find_planet.h"
-#include "analysis/race_colour.h"
-#include "render/planet_pick.h"
+#include "map/planet_pick.h"
+#include "rules/colour_slots.h"
+#include "screens/planet_search.h"
 #include "ui/controls.h"
 #include "ui/details_panel.h"
 #include "ui/drawing_board.h"

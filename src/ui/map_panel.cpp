@@ -8,9 +8,9 @@
 #include <optional>
 #include <utility>
 
-#include "render/draw_overlays.h"
-#include "render/selection_marker.h"
-#include "render/zoom_box.h"
+#include "map/draw_overlays.h"
+#include "map/selection_marker.h"
+#include "map/zoom_box.h"
 
 namespace quorvane {
 namespace {

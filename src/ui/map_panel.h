@@ -4,13 +4,13 @@
 #include <QTimer>
 #include <span>
 
+#include "map/map_state.h"
+#include "map/overlay_kind.h"
 #include "model/drawing_record.h"
 #include "model/game_session.h"
 #include "model/progress.h"
-#include "platform/toolkit/picture_box.h"
-#include "platform/toolkit/picture_shapes.h"
-#include "render/map_state.h"
-#include "render/overlay_kind.h"
+#include "paint/picture_box.h"
+#include "paint/picture_shapes.h"
 
 namespace quorvane {
 

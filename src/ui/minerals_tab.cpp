@@ -2,10 +2,10 @@
 
 #include <QGridLayout>
 
-#include "platform/toolkit/colours.h"
-#include "platform/toolkit/twips.h"
-#include "render/mineral_charts.h"
-#include "render/palette.h"
+#include "map/palette.h"
+#include "paint/colours.h"
+#include "paint/twips.h"
+#include "screens/mineral_charts.h"
 #include "ui/controls.h"
 #include "ui/pixel_rect.h"
 

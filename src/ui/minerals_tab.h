@@ -6,7 +6,7 @@
 #include <array>
 
 #include "model/planet_record.h"
-#include "platform/toolkit/pie_chart.h"
+#include "paint/pie_chart.h"
 
 namespace quorvane {
 

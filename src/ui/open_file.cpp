@@ -6,10 +6,10 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
-#include "loading/dialog_files.h"
-#include "loading/open_checks.h"
+#include "files/files.h"
+#include "formats/dialog_files.h"
 #include "loading/report_finder.h"
-#include "platform/files/files.h"
+#include "screens/open_checks.h"
 #include "ui/controls.h"
 #include "ui/file_chooser.h"
 #include "ui/icons.h"

@@ -2,7 +2,7 @@
 
 #include <QMenu>
 
-#include "render/main_layout.h"
+#include "screens/main_layout.h"
 #include "ui/icons.h"
 #include "ui/pixel_rect.h"
 #include "ui/texts.h"

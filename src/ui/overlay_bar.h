@@ -4,7 +4,7 @@
 #include <QToolButton>
 #include <array>
 
-#include "render/overlay_kind.h"
+#include "map/overlay_kind.h"
 
 class QMenu;
 

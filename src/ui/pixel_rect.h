@@ -2,8 +2,8 @@
 
 #include <QRect>
 
-#include "platform/toolkit/twips.h"
-#include "render/main_layout.h"
+#include "paint/twips.h"
+#include "screens/main_layout.h"
 
 namespace quorvane {
 

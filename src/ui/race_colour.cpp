@@ -4,10 +4,10 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
-#include "analysis/race_colour.h"
-#include "platform/toolkit/twips.h"
-#include "render/palette.h"
-#include "render/swatch.h"
+#include "map/palette.h"
+#include "map/swatch.h"
+#include "paint/twips.h"
+#include "rules/colour_slots.h"
 #include "ui/controls.h"
 #include "ui/texts.h"
 

@@ -6,7 +6,7 @@
 #include <QSlider>
 
 #include "model/game_session.h"
-#include "platform/toolkit/picture_box.h"
+#include "paint/picture_box.h"
 
 class QGridLayout;
 

@@ -8,7 +8,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "analysis/empire_statistics.h"
+#include "screens/empire_statistics.h"
 #include "ui/controls.h"
 #include "ui/texts.h"
 

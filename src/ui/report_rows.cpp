@@ -3,8 +3,8 @@
 #include <QButtonGroup>
 #include <QGridLayout>
 
-#include "loading/open_checks.h"
 #include "loading/report_finder.h"
+#include "screens/open_checks.h"
 #include "ui/texts.h"
 
 namespace quorvane {

@@ -6,7 +6,7 @@
 #include <QWidget>
 #include <array>
 
-#include "loading/dialog_files.h"
+#include "formats/dialog_files.h"
 #include "model/game_choice.h"
 
 namespace quorvane {

@@ -4,7 +4,7 @@
 #include <QScopedValueRollback>
 #include <QVBoxLayout>
 
-#include "analysis/planet_grid.h"
+#include "screens/planet_grid.h"
 #include "ui/controls.h"
 #include "ui/grid.h"
 

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/files/files.h"
+#include "files/files.h"
 
 namespace quorvane {
 

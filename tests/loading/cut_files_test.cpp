@@ -3,8 +3,8 @@
 #include <tuple>
 
 #include "loading/load_game.h"
-#include "loading/open_checks.h"
 #include "loading/report_finder.h"
+#include "screens/open_checks.h"
 #include "support/game_folder.h"
 
 namespace quorvane {

@@ -4,10 +4,10 @@
 
 #include <vector>
 
-#include "loading/drawing_file.h"
-#include "loading/open_checks.h"
+#include "files/files.h"
+#include "formats/drawing_file.h"
 #include "loading/report_finder.h"
-#include "platform/files/files.h"
+#include "screens/open_checks.h"
 #include "support/game_folder.h"
 
 namespace quorvane {

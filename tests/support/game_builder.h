@@ -3,8 +3,8 @@
 #include <string_view>
 #include <vector>
 
+#include "map/map_view.h"
 #include "model/game_session.h"
-#include "render/map_view.h"
 
 namespace quorvane {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "render/map_view.h"
+#include "map/map_view.h"
 
 namespace quorvane {
 

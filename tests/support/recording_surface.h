@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-#include "render/drawing_surface.h"
+#include "map/drawing_surface.h"
 
 namespace quorvane {
 

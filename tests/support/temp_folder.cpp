@@ -4,7 +4,7 @@
 #include <iterator>
 #include <random>
 
-#include "platform/files/files.h"
+#include "files/files.h"
 
 namespace quorvane {
 

@@ -8,7 +8,7 @@
 #include <QToolTip>
 #include <tuple>
 
-#include "platform/toolkit/twips.h"
+#include "paint/twips.h"
 #include "support/game_builder.h"
 #include "support/window_driver.h"
 #include "ui/show_hide.h"

@@ -3,7 +3,7 @@
 #include <tuple>
 #include <utility>
 
-#include "platform/toolkit/twips.h"
+#include "paint/twips.h"
 #include "ui/about.h"
 #include "ui/details_panel.h"
 #include "ui/drawing_tools.h"

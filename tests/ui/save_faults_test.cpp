@@ -1,6 +1,6 @@
 #include <memory>
 
-#include "platform/files/files.h"
+#include "files/files.h"
 #include "support/write_faults.h"
 #include "ui/details_panel.h"
 #include "ui/main_window_fixture.h"

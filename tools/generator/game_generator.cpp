@@ -5,12 +5,12 @@
 #include <system_error>
 #include <utility>
 
+#include "files/files.h"
 #include "generator/companion_writer.h"
 #include "generator/expansion.h"
 #include "generator/intelligence.h"
 #include "generator/planet_names.h"
 #include "generator/report_writer.h"
-#include "platform/files/files.h"
 
 namespace quorvane::generator {
 namespace {

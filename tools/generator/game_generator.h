@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "loading/map_file.h"
+#include "formats/universe_map.h"
 #include "model/game_choice.h"
 #include "model/result.h"
 

@@ -5,10 +5,10 @@
 #include <string>
 #include <vector>
 
+#include "formats/universe_map.h"
 #include "generator/environment.h"
 #include "generator/race.h"
 #include "generator/random.h"
-#include "loading/map_file.h"
 
 namespace quorvane::generator {
 

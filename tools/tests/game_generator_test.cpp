@@ -11,15 +11,15 @@
 #include <tuple>
 #include <vector>
 
-#include "analysis/empire_data.h"
-#include "analysis/estimated_hab.h"
+#include "files/files.h"
+#include "formats/dialog_files.h"
+#include "formats/empire_data_file.h"
 #include "generator/report_writer.h"
-#include "loading/dialog_files.h"
 #include "loading/load_game.h"
 #include "loading/report_finder.h"
 #include "make_game_options.h"
 #include "model/text.h"
-#include "platform/files/files.h"
+#include "rules/estimated_hab.h"
 #include "support/game_builder.h"
 #include "support/temp_folder.h"
 

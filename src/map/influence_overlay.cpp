@@ -1,0 +1,170 @@
+#include "map/influence_overlay.h"
+
+#include <algorithm>
+#include <array>
+#include <optional>
+#include <vector>
+
+#include "model/rounding.h"
+
+namespace quorvane {
+namespace {
+
+constexpr int kFullStrength = 100;  // percent
+constexpr int kColumnsPerProgressStep = 10;
+constexpr double kEdgeDistance = 1.5;  // grid steps on either side of a change of holder
+
+// Where the grid's columns (or rows) are drawn; nothing for those outside the window.
+using GridLines = std::vector<std::optional<double>>;
+
+// `project` gives the picture coordinate of a stored one that is in view.
+template <typename Project>
+GridLines LinesInView(const GameSession& session, const Project& project) {
+  GridLines lines;
+  for (int step = 0; step <= session.InfluenceGrid.Size(); ++step) {
+    lines.push_back(project(ToWhole16(step * session.GridCellSize)));
+  }
+  return lines;
+}
+
+GridLines ColumnsInView(const GameSession& session, const MapView& view) {
+  return LinesInView(session, [&](int x) -> std::optional<double> {
+    if (!view.ContainsX(x)) return std::nullopt;
+    return view.ToSurface({static_cast<double>(x), 0}).X;
+  });
+}
+
+GridLines RowsInView(const GameSession& session, const MapView& view) {
+  return LinesInView(session, [&](int y) -> std::optional<double> {
+    if (!view.ContainsY(y)) return std::nullopt;
+    return view.ToSurface({0, static_cast<double>(y)}).Y;
+  });
+}
+
+// A player's colour at every strength; empty for nobody and for a player without a colour.
+using Shades = std::vector<Colour>;
+
+Shades ShadesOf(const GameSession& session, int player) {
+  const Colour* full = session.ColourOf(player);
+  if (full == nullptr) return {};
+  Shades shades;
+  for (int strength = 0; strength <= kFullStrength; ++strength) {
+    const auto dimmed = [&](int component) { return ToWhole16(strength / 100.0 * component); };
+    shades.push_back({dimmed(full->Red), dimmed(full->Green), dimmed(full->Blue)});
+  }
+  return shades;
+}
+
+using ShadesOfPlayers = std::array<Shades, kMaxPlayers + 1>;
+
+void DrawColumn(const InfluenceGrid& grid, const ShadesOfPlayers& shadesOfPlayers, int gx, double x,
+                const GridLines& rows, DrawingSurface& surface) {
+  for (int gy = 0; gy <= grid.Size(); ++gy) {
+    const std::optional<double>& y = rows[static_cast<std::size_t>(gy)];
+    if (!y) continue;
+    const InfluencePoint& point = grid.At(gx, gy);
+    const Shades& shades = shadesOfPlayers[static_cast<std::size_t>(point.Holder)];
+    if (!shades.empty()) {
+      surface.Point({x, *y}, shades[static_cast<std::size_t>(point.Strength)]);
+    }
+  }
+}
+
+Pen DotPen(const MapView& view, const DrawingSurface& surface, int widthAtFullView) {
+  const int twipsPerUnit = surface.WidthInTwips() / kSurfaceUnits;  // without the fraction
+  const int width = view.IsFull() ? twipsPerUnit + widthAtFullView
+                                  : ToWhole16(view.ZoomFactor() * (twipsPerUnit + 1) / 1.1);
+  return {.Mode = DrawMode::Copy,
+          .Style = DrawStyle::Solid,
+          .Filled = false,
+          .Width = std::max(width, 1)};
+}
+
+// The farthest that two neighbouring lines in view lie apart. They stand at whole light years, so
+// their distances differ.
+double WidestGap(const GridLines& lines) {
+  double gap = 0;
+  for (std::size_t line = 1; line < lines.size(); ++line) {
+    if (lines[line - 1] && lines[line]) gap = std::max(gap, *lines[line] - *lines[line - 1]);
+  }
+  return gap;
+}
+
+// Draws both sides of the line between two neighbouring grid points, where there is one.
+void DrawEdge(const GameSession& session, int holder, int nextHolder, SurfacePoint before,
+              SurfacePoint behind, DrawingSurface& surface) {
+  if (holder == nextHolder) return;
+  if (const Colour* colour = session.ColourOf(holder)) surface.Point(before, *colour);
+  if (const Colour* colour = session.ColourOf(nextHolder)) surface.Point(behind, *colour);
+}
+
+void DrawEdgesBetweenRows(const GameSession& session, const MapView& view, const GridLines& columns,
+                          const GridLines& rows, DrawingSurface& surface) {
+  const InfluenceGrid& grid = session.InfluenceGrid;
+  const auto surfaceY = [&](double gy) { return view.ToSurface({0, gy * session.GridCellSize}).Y; };
+  for (int gx = 0; gx <= grid.Size(); ++gx) {
+    const std::optional<double>& x = columns[static_cast<std::size_t>(gx)];
+    if (!x) continue;
+    for (int gy = 0; gy < grid.Size(); ++gy) {
+      if (!rows[static_cast<std::size_t>(gy)]) continue;
+      DrawEdge(session, grid.At(gx, gy).Holder, grid.At(gx, gy + 1).Holder,
+               {*x, surfaceY(gy - kEdgeDistance)}, {*x, surfaceY(gy + kEdgeDistance)}, surface);
+    }
+  }
+}
+
+void DrawEdgesBetweenColumns(const GameSession& session, const MapView& view,
+                             const GridLines& columns, const GridLines& rows,
+                             DrawingSurface& surface) {
+  const InfluenceGrid& grid = session.InfluenceGrid;
+  const auto surfaceX = [&](double gx) { return view.ToSurface({gx * session.GridCellSize, 0}).X; };
+  for (int gy = 0; gy <= grid.Size(); ++gy) {
+    const std::optional<double>& y = rows[static_cast<std::size_t>(gy)];
+    if (!y) continue;
+    for (int gx = 0; gx < grid.Size(); ++gx) {
+      if (!columns[static_cast<std::size_t>(gx)]) continue;
+      DrawEdge(session, grid.At(gx, gy).Holder, grid.At(gx + 1, gy).Holder,
+               {surfaceX(gx - kEdgeDistance), *y}, {surfaceX(gx + kEdgeDistance), *y}, surface);
+    }
+  }
+}
+
+}  // namespace
+
+bool DrawInfluenceBorders(const GameSession& session, const MapView& view, DrawingSurface& surface,
+                          const Progress& progress) {
+  const InfluenceGrid& grid = session.InfluenceGrid;
+  if (grid.Size() < 0) return true;  // no game is loaded
+  ShadesOfPlayers shadesOfPlayers;
+  for (int player = 0; player <= kMaxPlayers; ++player) {
+    shadesOfPlayers[static_cast<std::size_t>(player)] = ShadesOf(session, player);
+  }
+  const GridLines columns = ColumnsInView(session, view);
+  const GridLines rows = RowsInView(session, view);
+
+  progress.Show(0, grid.Size() + 1);
+  Pen pen = DotPen(view, surface, 2);
+  // The rule leaves gaps at some sizes and zooms; territories are closed areas at all of them.
+  const double gap = std::max(WidestGap(columns), WidestGap(rows));
+  pen.Width = std::max(pen.Width, surface.WidthToCover(gap));
+  surface.SetPen(pen);
+  for (int gx = 0; gx <= grid.Size(); ++gx) {
+    const std::optional<double>& x = columns[static_cast<std::size_t>(gx)];
+    if (x) DrawColumn(grid, shadesOfPlayers, gx, *x, rows, surface);
+    if (gx % kColumnsPerProgressStep != 0) continue;
+    progress.Show(gx, grid.Size() + 1);
+    if (progress.IsStopped()) return false;
+  }
+  progress.Show(grid.Size() + 1, grid.Size() + 1);
+  return true;
+}
+
+void DrawTerritoryEdges(const GameSession& session, const MapView& view, DrawingSurface& surface) {
+  const GridLines columns = ColumnsInView(session, view);
+  const GridLines rows = RowsInView(session, view);
+  surface.SetPen(DotPen(view, surface, 1));
+  DrawEdgesBetweenRows(session, view, columns, rows, surface);
+  DrawEdgesBetweenColumns(session, view, columns, rows, surface);
+}
+
+}  // namespace quorvane

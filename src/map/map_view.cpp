@@ -1,0 +1,43 @@
+#include "map/map_view.h"
+
+#include <cmath>
+
+#include "model/game_session.h"
+#include "model/rounding.h"
+
+namespace quorvane {
+
+void MapView::ShowAll(int universeExtent) {
+  UniverseExtent = universeExtent;
+  ViewXMin = 0;
+  ViewYMin = 0;
+  ViewXMax = universeExtent;
+  ViewYMax = universeExtent;
+  MapScale = universeExtent > kUniverseOrigin ? kMapUnits / (universeExtent - kUniverseOrigin) : 0;
+}
+
+void MapView::ShowWindow(int xMin, int yMin, int width) {
+  ViewXMin = xMin;
+  ViewYMin = yMin;
+  ViewXMax = xMin + width;
+  ViewYMax = yMin + width;
+  MapScale = kMapUnits / (ViewXMax - ViewXMin);
+}
+
+GamePoint MapView::ToGame(SurfacePoint point) const {
+  return {std::floor(point.X / MapScale) + ViewXMin + kUniverseOrigin,
+          (UniverseExtent - ViewYMin) - std::floor(point.Y / MapScale)};
+}
+
+int MapView::ZoomFactor() const {
+  const int width = ViewXMax - ViewXMin;
+  return width > 0 ? UniverseExtent / width : 1;
+}
+
+int MapView::DotSize() const {
+  if (ViewXMax - ViewXMin >= UniverseExtent) return 1;
+  const int size = ToWhole16(ZoomFactor() / 2.0);
+  return size == 0 ? 1 : size;
+}
+
+}  // namespace quorvane

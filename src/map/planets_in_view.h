@@ -1,0 +1,26 @@
+#pragma once
+
+#include <vector>
+
+#include "map/map_view.h"
+#include "model/game_session.h"
+
+namespace quorvane {
+
+/// A planet that the map shows, and where it is drawn.
+struct PlanetInView {
+  const PlanetRecord& Planet;
+  SurfacePoint At;
+};
+
+/// Where a planet is drawn, whether or not the view shows that place.
+inline SurfacePoint PositionOf(const PlanetRecord& planet, const MapView& view) {
+  return view.ToSurface(
+      {.X = static_cast<double>(planet.X()), .Y = static_cast<double>(planet.Y())});
+}
+
+/// The planets strictly inside the view's window, in planet order. They refer to the session's
+/// records.
+std::vector<PlanetInView> PlanetsInView(const GameSession& session, const MapView& view);
+
+}  // namespace quorvane

@@ -1,0 +1,80 @@
+#include "map/population_overlay.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "map/discs.h"
+#include "map/planets_in_view.h"
+#include "model/rounding.h"
+
+namespace quorvane {
+namespace {
+
+constexpr Pen kPopulationPen = {
+    .Mode = DrawMode::Copy, .Style = DrawStyle::Solid, .Filled = true, .Width = 1};
+constexpr double kRadius = 50;
+constexpr double kFullRed = 255;
+constexpr double kPeoplePerShade = 4878.0488;  // of red
+constexpr double kStarbaseShades = 50;
+// What lives on a planet of 100 % when it is full.
+constexpr double kLargestPopulation = 1'000'000;
+// A planet of 0 … 5 % holds as much as one of 5 %.
+constexpr double kLeastHab = 5;
+constexpr double kOrbitalPopulation = 3'000'000;
+constexpr double kFewMines = 10;
+
+// The colour between green (0) and red (255).
+Colour GreenToRed(double red) {
+  red = std::min(red, kFullRed);
+  return RoundedColour(red, kFullRed - red, 0);
+}
+
+// The share of its possible population that a planet has, in whole percent; below 0 where the
+// habitability is.
+double PercentFull(const PlanetRecord& planet) {
+  const auto number = [&](PlanetField field) { return planet[field].Number(); };
+  const double hab = number(PlanetField::HabValue);
+  const bool isPoor = hab >= 0 && hab <= kLeastHab;
+  const double possible = (isPoor ? kLeastHab : hab) / 100 * kLargestPopulation;
+  double fullness = planet.Population() / possible;
+  // Ironium without mines is mined from orbit, by a race that lives there.
+  if (number(PlanetField::IronMR) > 0 && number(PlanetField::Mines) < kFewMines &&
+      planet.Starbase() != kNoStarbase && hab > 0) {
+    fullness = planet.Population() / kOrbitalPopulation;
+  }
+  return std::floor(fullness * 100);
+}
+
+Colour GrowthColour(const PlanetRecord& planet) {
+  const double percent = PercentFull(planet);
+  if (percent < 0) {
+    const double hab = std::fabs(planet[PlanetField::HabValue].Number());
+    return RoundedColour(kFullRed - TimesHundredths(hab, 565), 0, kFullRed);
+  }
+  return GreenToRed(RoundHalfEven(percent / 100 * kFullRed));
+}
+
+}  // namespace
+
+void DrawDifficultyOfAttack(const GameSession& session, const MapView& view,
+                            DrawingSurface& surface) {
+  surface.SetPen(kPopulationPen);
+  for (const auto& [planet, at] : PlanetsInView(session, view)) {
+    if (!(planet.Population() > 0)) continue;
+    double red = std::floor(planet.Population() / kPeoplePerShade);
+    if (planet.HasStarbase()) red += kStarbaseShades;
+    DrawDisc(surface, at, kRadius, GreenToRed(red));
+  }
+}
+
+void DrawGrowth(const GameSession& session, const MapView& view, DrawingSurface& surface) {
+  surface.SetPen(kPopulationPen);
+  for (const auto& [planet, at] : PlanetsInView(session, view)) {
+    const bool isProductive =
+        planet.Population() > 0 && planet[PlanetField::Resources].Number() > 0;
+    if (!isProductive || planet.Owner() != session.MyRaceName) continue;
+    DrawDisc(surface, at, kRadius, GrowthColour(planet));
+  }
+}
+
+}  // namespace quorvane

@@ -1,0 +1,74 @@
+#include "paint/picture_shapes.h"
+
+#include <QEvent>
+#include <QPainter>
+
+#include "paint/picture_box.h"
+
+namespace quorvane {
+
+PictureShape::PictureShape(PictureBox& picture, const char* name)
+    : QWidget(&picture), picture_(picture) {
+  setObjectName(name);
+  setAttribute(Qt::WA_TransparentForMouseEvents);
+  hide();
+  picture.installEventFilter(this);
+}
+
+void PictureShape::SetLineColour(Colour colour) {
+  colour_ = colour;
+  update();
+}
+
+void PictureShape::AddDarkSides() {
+  hasDarkSides_ = true;
+  Fit();
+}
+
+bool PictureShape::eventFilter(QObject* target, QEvent* event) {
+  if (event->type() == QEvent::Resize) Fit();
+  return QWidget::eventFilter(target, event);
+}
+
+void PictureShape::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.translate(-pos());
+  const QPointF first = picture_.WidgetPoint(First());
+  const QPointF last = picture_.WidgetPoint(Last());
+  if (hasDarkSides_) {
+    constexpr double kLineAndSides = 3;
+    painter.setPen({Qt::black, kLineAndSides, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin});
+    Paint(painter, first, last);
+  }
+  painter.setPen(QColor(RgbOf(colour_)));
+  Paint(painter, first, last);
+}
+
+void PictureShape::Fit() {
+  const QRectF between(picture_.WidgetPoint(First()), picture_.WidgetPoint(Last()));
+  const int rightSide = hasDarkSides_ ? 2 : 1;
+  setGeometry(between.normalized().toAlignedRect().adjusted(-1, -1, rightSide, rightSide));
+  update();
+}
+
+void SquareShape::Place(SurfacePoint topLeft, double side) {
+  topLeft_ = topLeft;
+  side_ = side;
+  Fit();
+}
+
+void SquareShape::Paint(QPainter& painter, QPointF first, QPointF last) const {
+  painter.drawRect(QRectF(first, last));
+}
+
+void LineShape::Place(SurfacePoint from, SurfacePoint to) {
+  from_ = from;
+  to_ = to;
+  Fit();
+}
+
+void LineShape::Paint(QPainter& painter, QPointF first, QPointF last) const {
+  painter.drawLine(first, last);
+}
+
+}  // namespace quorvane

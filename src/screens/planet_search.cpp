@@ -1,0 +1,28 @@
+#include "screens/planet_search.h"
+
+namespace quorvane {
+
+std::vector<std::string> PlanetEntries(const GameSession& session) {
+  std::vector<std::string> entries;
+  for (int number = 1; number <= session.PlanetCount; ++number) {
+    const PlanetRecord& planet = session.Planet(number);
+    const std::string owner = planet.Owner().empty() ? "" : " (" + planet.Owner() + ")";
+    entries.push_back(planet.Name() + owner);
+  }
+  return entries;
+}
+
+int FindPlanetNamed(const GameSession& session, std::string_view name) {
+  for (int number = 1; number <= session.PlanetCount; ++number) {
+    if (session.Planet(number).Name() == name) return number;
+  }
+  return 0;
+}
+
+void SelectPlanet(GameSession& session, int planet) {
+  const bool exists = planet > 0 && planet <= session.PlanetCount;
+  session.SelectedX = exists ? session.Planet(planet).X() : 0;
+  session.SelectedY = exists ? session.Planet(planet).Y() : 0;
+}
+
+}  // namespace quorvane

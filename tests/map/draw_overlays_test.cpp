@@ -1,0 +1,149 @@
+#include "map/draw_overlays.h"
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+#include "support/game_builder.h"
+#include "support/map_views.h"
+#include "support/recording_surface.h"
+
+namespace quorvane {
+namespace {
+
+using Kind = OverlayKind;
+
+std::vector<Kind> AllKinds() {
+  std::vector<Kind> kinds;
+  for (const OverlayTexts& texts : kOverlayTable) kinds.push_back(texts.Kind);
+  return kinds;
+}
+
+OverlaySwitches On(const std::vector<Kind>& kinds) {
+  OverlaySwitches switches;
+  for (const Kind kind : kinds) switches.Set(kind, true);
+  return switches;
+}
+
+TEST(OverlaySwitches, ClearMapLeavesTheZoomAndANewGameTerritoryEdgesAndEmpireExpansion) {
+  OverlaySwitches cleared = On(AllKinds());
+  cleared.ClearMap();
+  EXPECT_EQ(cleared, On({Kind::ZoomIn}));
+  OverlaySwitches begun = On(AllKinds());
+  begun.BeginNewGame();
+  EXPECT_EQ(begun, On({Kind::TerritoryEdges, Kind::EmpireExpansion}));
+  begun.ClearMap();
+  EXPECT_EQ(begun, On({})) << "nothing is switched on";
+}
+
+class DrawOverlaysTest : public testing::Test {
+ protected:
+  DrawOverlaysTest() {
+    session.GridCellSize = 100;
+    session.CreateInfluenceGrid(2);
+    session.InfluenceGrid.At(2, 2) = {1, 100};
+  }
+
+  // Redraws with these overlays on and gives what the map was told.
+  Texts Redraw(const std::vector<Kind>& kinds) {
+    OverlaySwitches switches = On(kinds);
+    switches.RaceName = session.MyRaceName;
+    map.Forget();
+    const Progress progress = {.ShowValue = [this](int, int) { hasProgress = true; },
+                               .AskStopped = [this] { return --questionsLeft < 0; }};
+    isComplete = DrawOverlays({session, view, switches, map, twin, progress});
+    return map.Lines();
+  }
+
+  GameSession session = GameBuilder().Planet("Alpha", {1500, 1500}).OwnedBy("Humanoid").Build();
+  MapView view = FullView();
+  RecordingSurface map, twin;
+  bool hasProgress = false;
+  bool isComplete = false;
+  int questionsLeft = 1000;
+};
+
+TEST_F(DrawOverlaysTest, DrawsFromTheBordersUpToTheTerritoryEdgesWhateverWasSwitchedOnFirst) {
+  const Texts lines = Redraw({Kind::TerritoryEdges, Kind::NamesWhite, Kind::InfluenceBorders});
+  EXPECT_EQ(lines, (Texts{"background none", "clear", "point 2000,2000 #ff0000 copy w2",
+                          "text 4750,5050 \"Alpha\" #ffffff 6pt",  //
+                          "point 2000,2500 #ff0000 copy w1", "point 2500,2000 #ff0000 copy w1"}));
+  EXPECT_TRUE(hasProgress && isComplete);
+}
+
+TEST_F(DrawOverlaysTest, FullViewOfTheBordersIsKeptWithoutTheOverlaysAboveAndUsedAgain) {
+  Redraw({Kind::InfluenceBorders, Kind::Planets});
+  EXPECT_EQ(twin.Lines(), Texts{"background of 1 lines"});
+  EXPECT_EQ(Redraw({Kind::InfluenceBorders}).at(2), "background of 1 lines");
+  EXPECT_EQ(Redraw({}), (Texts{"background none", "clear", "background none", "clear"}));
+}
+
+TEST_F(DrawOverlaysTest, BordersArePaintedAndNotKeptWhileZoomIsPressed) {
+  // There is no zoom box yet, so the view is the full one.
+  Redraw({Kind::InfluenceBorders, Kind::ZoomIn});
+  EXPECT_EQ(twin.Lines(), Texts());
+  EXPECT_EQ(session.BordersCached, 0);
+
+  Redraw({Kind::InfluenceBorders});
+  twin.Forget();
+  view = Zoomed(100, 100, 200);
+  EXPECT_EQ(Redraw({Kind::InfluenceBorders, Kind::ZoomIn}).at(2),
+            "point 5000,5000 #ff0000 copy w9");
+  EXPECT_EQ(twin.Lines(), Texts());
+  EXPECT_EQ(session.BordersCached, 1) << "the picture of the full view";
+}
+
+TEST_F(DrawOverlaysTest, StacksAllOverlaysInOneOrder) {
+  PlanetRecord& planet = session.Planet(1);
+  planet[PlanetField::AgeText] = "Current";
+  planet[PlanetField::HabValue] = "50";
+  planet[PlanetField::Population] = planet[PlanetField::Resources] = 250'000;
+  planet[PlanetField::IronMC] = planet[PlanetField::BoraMC] = planet[PlanetField::GermMC] = 40;
+  session.MyRaceName = "Humanoid";
+  std::string marks;  // at the planet: radius and colour, of the point the colour alone
+  for (const std::string& line : Redraw(AllKinds())) {
+    const std::size_t place = line.find("5000,5000 ");
+    if (place == line.npos) continue;
+    const std::string mark = line.substr(place + 10);
+    marks += mark.substr(0, mark.find(' ', 5)) + "; ";
+  }
+  EXPECT_EQ(marks,
+            // current report, planet, its habitability, owner, difficulty of attack, growth,
+            "#ffff00; r20 #000000; r10 #ffffff; r75 #00ff00; r40 #000000; r30 #000000; "
+            "r50 #33cc00; r50 #807f00; "
+            // estimated habitability, minerals and their average,
+            "r30 #ffff00; r40 #0000ff; r40 #00ff00; r40 #ffff00; r40 #666666; "
+            // report age, terraforming, expansion
+            "r60 #00ff00; r30 #503c3c; r100 #ffe600; ");
+}
+
+TEST_F(DrawOverlaysTest, SingleMineralsTakeTheModeOfTheRedrawBefore) {
+  session.Planet(1)[PlanetField::IronMC] = 40;
+  EXPECT_EQ(Redraw({Kind::IroniumConcentration}).back(),
+            "circle 5000,5000 r40 #0000ff fill #0000ff copy no-outline w1");
+  Redraw({Kind::EstimateHabValues});
+  EXPECT_EQ(Redraw({Kind::IroniumConcentration}).back(),
+            "circle 5000,5000 r40 #0000ff fill #0000ff merge no-outline w1");
+}
+
+TEST_F(DrawOverlaysTest, StoppedRedrawKeepsWhatIsDrawnAndNoHalfPictureOfTheBorders) {
+  questionsLeft = 0;
+  EXPECT_EQ(Redraw({Kind::InfluenceBorders, Kind::Planets}), (Texts{"background none", "clear"}));
+  EXPECT_FALSE(isComplete);
+  EXPECT_EQ(session.BordersCached, 0);
+
+  session.PlanetTable.resize(101, session.Planet(1));
+  session.PlanetCount = 100;
+  questionsLeft = 2;
+  EXPECT_EQ(Redraw({Kind::Planets, Kind::OwnedPlanets}).size(), 4U + 47U);
+  EXPECT_FALSE(isComplete);
+}
+
+TEST_F(DrawOverlaysTest, EveryOverlayBearsAnEmptySession) {
+  session = GameSession();
+  view = MapView();
+  EXPECT_EQ(Redraw(AllKinds()), (Texts{"background none", "clear"}));
+}
+
+}  // namespace
+}  // namespace quorvane
