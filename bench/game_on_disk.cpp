@@ -7,6 +7,7 @@
 #include <string_view>
 #include <system_error>
 
+#include "formats/game_files.h"
 #include "loading/report_finder.h"
 #include "model/text.h"
 

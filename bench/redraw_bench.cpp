@@ -15,7 +15,7 @@
 #include "game_on_disk.h"
 #include "loading/load_game.h"
 #include "map/draw_overlays.h"
-#include "map/planet_pick.h"
+#include "map/planets_in_view.h"
 #include "paint/picture_surface.h"
 #include "ratio_reporter.h"
 #include "reference/plain_pick.h"

@@ -3,6 +3,7 @@
 // read, sets the sphere of influence.
 #include <algorithm>
 
+#include "formats/game_files.h"
 #include "fuzz_support.h"
 #include "loading/load_game.h"
 #include "loading/report_finder.h"

@@ -7,6 +7,7 @@
 #include "loading/report_merge.h"
 #include "model/text.h"
 #include "rules/player_statistics.h"
+#include "rules/scores.h"
 
 namespace quorvane::fuzz {
 namespace {

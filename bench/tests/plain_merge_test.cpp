@@ -11,6 +11,7 @@
 #include <string>
 #include <string_view>
 
+#include "formats/game_files.h"
 #include "generator/damage.h"
 #include "generator/game_generator.h"
 #include "generator/random.h"

@@ -12,6 +12,7 @@
 #include "loading/report_merge.h"
 #include "rules/player_statistics.h"
 #include "rules/race_ranges.h"
+#include "rules/scores.h"
 
 namespace quorvane {
 namespace {
@@ -129,14 +130,6 @@ Result<GameSession> LoadGame(const GameChoice& choice, std::string_view myRaceNa
     return Failure{companions.Message()};
   }
   return session;
-}
-
-std::string MainCaption(std::string_view version, const GameChoice* choice) {
-  std::string caption = "Quorvane for Stars!   Version " + std::string(version);
-  if (choice == nullptr) return caption;
-  caption += "  { " + TextFromPath(choice->MapFilePath.filename());
-  if (choice->GameYear >= 1) caption += "  Year:" + NumberTextWithLeadingBlank(choice->GameYear);
-  return caption + " }";
 }
 
 }  // namespace quorvane

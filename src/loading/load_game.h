@@ -22,7 +22,4 @@ inline constexpr const char* kLoadingStopped = "Loading stopped";
 Result<GameSession> LoadGame(const GameChoice& choice, std::string_view myRaceName,
                              const Progress& progress);
 
-/// The main window's caption: program and version, and for a chosen map its name and game year.
-std::string MainCaption(std::string_view version, const GameChoice* choice);
-
 }  // namespace quorvane

@@ -1,18 +1,16 @@
 #include "loading/report_finder.h"
 
-#include <algorithm>
 #include <optional>
 #include <vector>
 
 #include "files/files.h"
+#include "formats/game_files.h"
 
 namespace quorvane {
 namespace {
 
 namespace fs = std::filesystem;
 using FileNames = std::vector<fs::path>;
-
-constexpr std::size_t kExtensionLength = 4;  // the dot included
 
 std::size_t Index(int row) { return static_cast<std::size_t>(row); }
 
@@ -48,32 +46,6 @@ bool AnyNewReport(const GameChoice& choice, const FileNames& listed) {
 }
 
 }  // namespace
-
-fs::path GameFile(const fs::path& mapFile, const std::string& ending) {
-  fs::path::string_type name = mapFile.filename().native();
-  name.resize(name.size() - std::min(name.size(), kExtensionLength));
-  fs::path file = mapFile.parent_path() / name;
-  file += ending;
-  return file;
-}
-
-fs::path ReportFileName(const GameChoice& choice, int row) {
-  return GameFile(choice.MapFilePath, ".P" + std::to_string(row)).filename();
-}
-
-fs::path OldReportFileName(const GameChoice& choice) {
-  return GameFile(choice.MapFilePath, ".PLA").filename();
-}
-
-void ChooseMap(GameChoice& choice, const fs::path& mapFile) {
-  choice.MapFilePath = mapFile;
-  choice.MapDirectory = mapFile.parent_path();
-  choice.DrawingFilePath = GameFile(mapFile, ".QVL");
-  choice.RaceColourFilePath = GameFile(mapFile, ".QVC");
-  choice.EmpireDataFilePath = GameFile(mapFile, ".QVD");
-  choice.YearsFilePath = GameFile(mapFile, ".YRS");
-  choice.RememberedRaceFilePath = GameFile(mapFile, ".QVR");
-}
 
 bool FindReportFiles(GameChoice& choice, const std::string& gameYear, const AskForNewStyle& ask) {
   const fs::path pattern = GameFile(choice.MapFilePath, ".P").filename();

@@ -3,15 +3,7 @@
 #include <optional>
 
 #include "map/drawing_layer.h"
-#include "map/hab_overlay.h"
-#include "map/influence_overlay.h"
-#include "map/mineral_overlay.h"
-#include "map/names_overlay.h"
-#include "map/planets_overlay.h"
-#include "map/population_overlay.h"
-#include "map/report_age_overlay.h"
-#include "map/scan_overlay.h"
-#include "map/stargate_overlay.h"
+#include "map/overlays.h"
 #include "map/stoppable_surface.h"
 
 namespace quorvane {

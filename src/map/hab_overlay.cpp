@@ -1,11 +1,10 @@
-#include "map/hab_overlay.h"
-
 #include <algorithm>
 #include <cmath>
 #include <limits>
 #include <vector>
 
 #include "map/discs.h"
+#include "map/overlays.h"
 #include "map/palette.h"
 #include "map/planets_in_view.h"
 #include "model/rounding.h"

@@ -1,10 +1,9 @@
-#include "map/influence_overlay.h"
-
 #include <algorithm>
 #include <array>
 #include <optional>
 #include <vector>
 
+#include "map/overlays.h"
 #include "model/rounding.h"
 
 namespace quorvane {

@@ -1,5 +1,7 @@
 #include "map/map_state.h"
 
+#include <cmath>
+
 #include "model/game_session.h"
 #include "model/rounding.h"
 
@@ -54,6 +56,34 @@ bool ScrollView(MapState& state, ScrollKey key, int shiftMask) {
       MoveEdges(view.ViewYMin, view.ViewYMax, step, view.UniverseExtent);
       break;
   }
+  return true;
+}
+
+void StartZoomBox(MapState& state, SurfacePoint corner) {
+  state.BoxXMin = ToWhole16(corner.X / state.View.MapScale);
+  state.BoxYMin = ToWhole16(corner.Y / state.View.MapScale);
+  state.ClickMode = kEndZoomBox;
+}
+
+double ZoomBoxSide(double left, double x) { return std::fabs(x - left); }
+
+bool EndZoomBox(MapState& state, double side) {
+  MapView& view = state.View;
+  const int xMax = ToWhole16(side / view.MapScale + state.BoxXMin);
+  const int yMax = ToWhole16(side / view.MapScale + state.BoxYMin);
+  if (xMax <= state.BoxXMin) return false;
+  view.ViewXMin = state.BoxXMin;
+  view.ViewXMax = xMax;
+  view.ViewYMin = state.BoxYMin;
+  view.ViewYMax = yMax;
+  view.MapScale = kMapUnits / (view.ViewXMax - view.ViewXMin);
+  state.ClickMode = kOrdinaryClick;
+  return true;
+}
+
+bool GiveUpZoomBox(MapState& state) {
+  if (state.ClickMode != kEndZoomBox) return false;
+  state.ClickMode = kStartZoomBox;
   return true;
 }
 

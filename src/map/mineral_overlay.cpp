@@ -1,12 +1,11 @@
-#include "map/mineral_overlay.h"
-
 #include <cmath>
 
 #include "map/discs.h"
+#include "map/overlays.h"
 #include "map/palette.h"
 #include "map/planets_in_view.h"
 #include "model/rounding.h"
-#include "rules/expansion_value.h"
+#include "rules/scores.h"
 
 namespace quorvane {
 namespace {

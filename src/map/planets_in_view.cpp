@@ -1,6 +1,20 @@
 #include "map/planets_in_view.h"
 
+#include <cmath>
+
+#include "model/rounding.h"
+
 namespace quorvane {
+namespace {
+
+constexpr double kPickLightYears = 5;
+
+// Whether a place on the map, rounded as it is for picking, lies within reach.
+bool IsNear(double place, double pointer, double reach) {
+  return std::fabs(RoundHalfEven(place) - pointer) <= reach;
+}
+
+}  // namespace
 
 std::vector<PlanetInView> PlanetsInView(const GameSession& session, const MapView& view) {
   std::vector<PlanetInView> planets;
@@ -10,6 +24,15 @@ std::vector<PlanetInView> PlanetsInView(const GameSession& session, const MapVie
       planets.push_back({planet, PositionOf(planet, view)});
   }
   return planets;
+}
+
+int PlanetAt(const GameSession& session, const MapView& view, SurfacePoint pointer) {
+  const double reach = RoundHalfEven(view.MapScale * kPickLightYears);
+  for (int number = session.PlanetCount; number > 0; --number) {
+    const SurfacePoint place = PositionOf(session.Planet(number), view);
+    if (IsNear(place.X, pointer.X, reach) && IsNear(place.Y, pointer.Y, reach)) return number;
+  }
+  return 0;
 }
 
 }  // namespace quorvane

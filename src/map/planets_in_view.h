@@ -23,4 +23,9 @@ inline SurfacePoint PositionOf(const PlanetRecord& planet, const MapView& view) 
 /// records.
 std::vector<PlanetInView> PlanetsInView(const GameSession& session, const MapView& view);
 
+/// The planet under the pointer: one whose place on the map lies at most 5 light years from it in
+/// either direction, the last such planet where several lie so close.
+/// @return the planet's number, or 0 for deep space
+int PlanetAt(const GameSession& session, const MapView& view, SurfacePoint pointer);
+
 }  // namespace quorvane

@@ -1,20 +1,23 @@
-#include "map/planets_overlay.h"
-
 #include <vector>
 
+#include "map/overlays.h"
 #include "map/palette.h"
 #include "map/planets_in_view.h"
+#include "model/rounding.h"
 
 namespace quorvane {
 namespace {
 
-// Radii in surface units at full view.
+// Radii and distances in surface units at full view.
 constexpr double kPlanetRim = 20;
 constexpr double kPlanetDot = 10;
 constexpr double kOwnedRim = 40;
 constexpr double kStarbaseRim = 80;
 constexpr double kStarbaseRing = 70;
 constexpr double kOwnedDisc = 30;
+constexpr double kNameBelow = 50;
+
+constexpr int kSmallestNameFont = 6;  // points
 
 Pen MarkerPen(const MapView& view) {
   return {
@@ -69,6 +72,18 @@ void DrawOwnedPlanets(const GameSession& session, const MapView& view, DrawingSu
     if (!each.Planet.HasStarbase()) continue;
     surface.SetPen(hollow);
     surface.Circle(each.At, kStarbaseRing * view.DotSize(), kYellow);
+  }
+}
+
+void DrawPlanetNames(const GameSession& session, const MapView& view, DrawingSurface& surface,
+                     bool coloured) {
+  const int dotSize = view.DotSize();
+  surface.SetFontSize(kSmallestNameFont + ToWhole16(dotSize / 2.0));
+  for (const auto& [planet, at] : PlanetsInView(session, view)) {
+    const Colour* ownColour = coloured ? session.ColourOf(planet.OwnerIndex()) : nullptr;
+    surface.SetForeColour(ownColour != nullptr ? *ownColour : kWhite);
+    surface.Print({at.X - surface.TextWidth(planet.Name()) / 2, at.Y + kNameBelow * dotSize},
+                  planet.Name());
   }
 }
 

@@ -1,9 +1,8 @@
-#include "map/population_overlay.h"
-
 #include <algorithm>
 #include <cmath>
 
 #include "map/discs.h"
+#include "map/overlays.h"
 #include "map/planets_in_view.h"
 #include "model/rounding.h"
 

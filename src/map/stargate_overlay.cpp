@@ -1,5 +1,3 @@
-#include "map/stargate_overlay.h"
-
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -9,6 +7,7 @@
 #include <span>
 #include <vector>
 
+#include "map/overlays.h"
 #include "map/palette.h"
 #include "model/rounding.h"
 #include "rules/stargates.h"

@@ -85,13 +85,4 @@ void ConvertTerritories(GameSession& session) {
   }
 }
 
-int PlanetScore(const PlanetRecord& planet) {
-  const double population = planet.Population();
-  const double resources = planet[PlanetField::Resources].Number();
-  const double people = std::min(RoundHalfEven(population / 100000), 6.0);
-  const double starbase = planet.Starbase() != kNoStarbase ? 3 : 0;
-  const double economy = RoundHalfEven(resources > 0 ? resources / 30 : population / 500 / 30);
-  return ToWhole32(people + starbase + economy);
-}
-
 }  // namespace quorvane

@@ -16,8 +16,4 @@ void GatherStatistics(GameSession& session);
 /// Turns the territories from grid points into whole square light years.
 void ConvertTerritories(GameSession& session);
 
-/// The planet's score: up to 6 for population, 3 for a starbase (or for not knowing), and a
-/// thirtieth of its resources, known or guessed from the population.
-int PlanetScore(const PlanetRecord& planet);
-
 }  // namespace quorvane

@@ -9,7 +9,7 @@
 #include "model/rounding.h"
 #include "model/text.h"
 #include "rules/estimated_hab.h"
-#include "rules/expansion_value.h"
+#include "rules/scores.h"
 #include "rules/stargates.h"
 
 namespace quorvane {

@@ -3,7 +3,7 @@
 #include <QKeyEvent>
 #include <QPainter>
 
-#include "map/swatch.h"
+#include "map/discs.h"
 #include "paint/twips.h"
 #include "ui/controls.h"
 #include "ui/pixel_rect.h"

@@ -17,6 +17,7 @@
 
 #include "loading/load_game.h"
 #include "paint/twips.h"
+#include "screens/captions.h"
 #include "screens/main_layout.h"
 #include "ui/controls.h"
 #include "ui/details_panel.h"

@@ -10,11 +10,12 @@
 #include <vector>
 
 #include "formats/empire_data_file.h"
-#include "formats/map_picture_file.h"
+#include "formats/game_files.h"
 #include "formats/race_colour_file.h"
 #include "loading/load_game.h"
 #include "model/text.h"
 #include "paint/picture_file.h"
+#include "screens/captions.h"
 #include "screens/planet_search.h"
 #include "ui/about.h"
 #include "ui/details_panel.h"
@@ -33,17 +34,6 @@
 
 namespace quorvane {
 namespace {
-
-// A damaged report may name thousands of races, more than a message box can show.
-std::string LeftOutMessage(const std::vector<std::string>& owners) {
-  constexpr std::size_t kMostNames = 30;
-  std::string message =
-      "The game has more than 16 races. These are left out of colours and counts:";
-  const std::size_t shown = std::min(owners.size(), kMostNames);
-  for (std::size_t i = 0; i < shown; ++i) message += "\n" + Excerpt(owners[i]);
-  if (owners.size() > shown) message += "\nand " + std::to_string(owners.size() - shown) + " more";
-  return message;
-}
 
 // A window beside the main one, wherever it was left.
 void ShowInFront(QWidget& window) {

@@ -2,8 +2,9 @@
 #include <QScopedValueRollback>
 #include <string>
 
-#include "map/planet_pick.h"
+#include "map/planets_in_view.h"
 #include "rules/colour_slots.h"
+#include "screens/captions.h"
 #include "screens/planet_search.h"
 #include "ui/controls.h"
 #include "ui/details_panel.h"

@@ -9,8 +9,8 @@
 #include <utility>
 
 #include "map/draw_overlays.h"
+#include "map/map_state.h"
 #include "map/selection_marker.h"
-#include "map/zoom_box.h"
 
 namespace quorvane {
 namespace {

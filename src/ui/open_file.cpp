@@ -8,6 +8,7 @@
 
 #include "files/files.h"
 #include "formats/dialog_files.h"
+#include "formats/game_files.h"
 #include "loading/report_finder.h"
 #include "screens/open_checks.h"
 #include "ui/controls.h"

@@ -4,8 +4,8 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include "map/discs.h"
 #include "map/palette.h"
-#include "map/swatch.h"
 #include "paint/twips.h"
 #include "rules/colour_slots.h"
 #include "ui/controls.h"

@@ -3,7 +3,7 @@
 #include <QButtonGroup>
 #include <QGridLayout>
 
-#include "loading/report_finder.h"
+#include "formats/game_files.h"
 #include "screens/open_checks.h"
 #include "ui/texts.h"
 

@@ -2,6 +2,7 @@
 
 #include <tuple>
 
+#include "formats/game_files.h"
 #include "loading/load_game.h"
 #include "loading/report_finder.h"
 #include "screens/open_checks.h"

@@ -6,6 +6,7 @@
 
 #include "files/files.h"
 #include "formats/drawing_file.h"
+#include "formats/game_files.h"
 #include "loading/report_finder.h"
 #include "screens/open_checks.h"
 #include "support/game_folder.h"
@@ -142,13 +143,6 @@ TEST_F(LoadGameTest, NamesTheFileThatBecameEmpty) {
     const std::string message = LoadGame(choice, "", {}).Message();
     EXPECT_NE(message.find(first), message.npos) << message;
   }
-}
-
-TEST(MainCaption, NamesTheMapAndNoUnknownYear) {
-  EXPECT_EQ(MainCaption("1.6.8", nullptr), "Quorvane for Stars!   Version 1.6.8");
-  GameChoice choice;
-  ChooseMap(choice, std::filesystem::path("folder") / "Demo.MAP");
-  EXPECT_EQ(MainCaption("1.6.8", &choice), "Quorvane for Stars!   Version 1.6.8  { Demo.MAP }");
 }
 
 }  // namespace

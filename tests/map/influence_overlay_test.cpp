@@ -1,10 +1,9 @@
-#include "map/influence_overlay.h"
-
 #include <gtest/gtest.h>
 
 #include <tuple>
 #include <utility>
 
+#include "map/overlays.h"
 #include "support/drawn.h"
 
 namespace quorvane {

@@ -5,7 +5,6 @@
 #include <array>
 #include <tuple>
 
-#include "map/zoom_box.h"
 #include "support/map_views.h"
 
 namespace quorvane {

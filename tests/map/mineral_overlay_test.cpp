@@ -1,9 +1,8 @@
-#include "map/mineral_overlay.h"
-
 #include <gtest/gtest.h>
 
 #include <tuple>
 
+#include "map/overlays.h"
 #include "support/drawn.h"
 
 namespace quorvane {

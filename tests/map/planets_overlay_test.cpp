@@ -1,13 +1,9 @@
-#include "map/planets_overlay.h"
-
 #include <gtest/gtest.h>
 
 #include <tuple>
 #include <utility>
 
-#include "map/names_overlay.h"
-#include "map/report_age_overlay.h"
-#include "map/scan_overlay.h"
+#include "map/overlays.h"
 #include "support/drawn.h"
 
 namespace quorvane {

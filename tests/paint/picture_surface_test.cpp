@@ -5,7 +5,7 @@
 #include <limits>
 #include <tuple>
 
-#include "map/influence_overlay.h"
+#include "map/overlays.h"
 #include "support/game_builder.h"
 
 namespace quorvane {

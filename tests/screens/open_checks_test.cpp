@@ -4,6 +4,7 @@
 
 #include <utility>
 
+#include "formats/game_files.h"
 #include "loading/report_finder.h"
 #include "support/temp_folder.h"
 

@@ -14,6 +14,7 @@
 #include "files/files.h"
 #include "formats/dialog_files.h"
 #include "formats/empire_data_file.h"
+#include "formats/game_files.h"
 #include "generator/report_writer.h"
 #include "loading/load_game.h"
 #include "loading/report_finder.h"

@@ -12,7 +12,7 @@
 #include <vector>
 
 #include "map/drawing_layer.h"
-#include "map/stargate_overlay.h"
+#include "map/overlays.h"
 #include "paint/picture_surface.h"
 
 namespace quorvane {

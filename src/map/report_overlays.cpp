@@ -1,8 +1,7 @@
-#include "map/scan_overlay.h"
-
 #include <vector>
 
 #include "map/discs.h"
+#include "map/overlays.h"
 #include "map/palette.h"
 #include "map/planets_in_view.h"
 
@@ -12,6 +11,10 @@ namespace {
 constexpr Colour kScanColour = {96, 0, 0};
 constexpr Colour kPenScanColour = {96, 96, 0};
 constexpr int kCurrentPointWidth = 4;
+
+constexpr double kAgeRadius = 60;
+constexpr double kShadesPerYear = 10;  // of red
+constexpr int kFullRed = 255;
 
 void DrawRanges(const std::vector<PlanetInView>& planets, const MapView& view,
                 DrawingSurface& surface, PlanetField range, Colour colour) {
@@ -36,6 +39,16 @@ void DrawScannedPlanets(const GameSession& session, const MapView& view, Drawing
   surface.SetPen(pen);
   for (const auto& [planet, at] : planets) {
     if (planet.AgeText() == kCurrentAge) surface.Point(at, kYellow);
+  }
+}
+
+void DrawReportAge(const GameSession& session, const MapView& view, DrawingSurface& surface) {
+  surface.SetPen({.Mode = DrawMode::Copy, .Style = DrawStyle::Solid, .Filled = true, .Width = 1});
+  for (const auto& [planet, at] : PlanetsInView(session, view)) {
+    const double years = planet[PlanetField::ReportAge].Number();
+    if (!(years > 0) && planet.AgeText() != kCurrentAge) continue;
+    const int red = RoundedColour(years * kShadesPerYear, 0, 0).Red;
+    DrawDisc(surface, at, kAgeRadius, {red, kFullRed - red, 0});
   }
 }
 

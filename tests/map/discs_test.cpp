@@ -1,4 +1,4 @@
-#include "map/swatch.h"
+#include "map/discs.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "map/planet_pick.h"
+#include "map/planets_in_view.h"
 
 #include <gtest/gtest.h>
 
@@ -26,12 +26,6 @@ TEST(PlanetAt, PicksTheLastPlanetWithinTheSquareOnAllFourEdges) {
   EXPECT_EQ(PlanetAt(session, Zoomed(100, 100, 800), {7438, 5000}), 3);
   EXPECT_EQ(PlanetAt(session, Zoomed(100, 100, 800), {7437.9, 5000}), 0);
   EXPECT_EQ(PlanetAt(GameSession(), MapView(), {1, 1}), 0);
-}
-
-TEST(PointerText, TellsThePlaceInTheGamesCoordinates) {
-  EXPECT_EQ(PointerText(FullView(), {5009.9, 2500}), " X:1500 Y:1750");
-  EXPECT_EQ(PointerText(FullView(), {-1, -1}), " X:999 Y:2001");
-  EXPECT_EQ(PointerText(Zoomed(300, 200, 500), {39.9, 40}), " X:1301 Y:1798");
 }
 
 }  // namespace

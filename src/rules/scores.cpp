@@ -1,0 +1,26 @@
+#include "rules/scores.h"
+
+#include <algorithm>
+
+#include "model/rounding.h"
+
+namespace quorvane {
+
+double ExpansionValue(const PlanetRecord& planet) {
+  const double ironium = planet[PlanetField::IronMC].Number();
+  const double boranium = planet[PlanetField::BoraMC].Number();
+  const double germanium = planet[PlanetField::GermMC].Number();
+  const double habValue = planet[PlanetField::HabValue].Number();
+  return (ironium * 1.5 + boranium + 2 * germanium) / 4.5 * habValue / 100;
+}
+
+int PlanetScore(const PlanetRecord& planet) {
+  const double population = planet.Population();
+  const double resources = planet[PlanetField::Resources].Number();
+  const double people = std::min(RoundHalfEven(population / 100000), 6.0);
+  const double starbase = planet.Starbase() != kNoStarbase ? 3 : 0;
+  const double economy = RoundHalfEven(resources > 0 ? resources / 30 : population / 500 / 30);
+  return ToWhole32(people + starbase + economy);
+}
+
+}  // namespace quorvane
