@@ -9,7 +9,7 @@
 #include <string>
 
 #include "influence/compute_influence.h"
-#include "map/draw_overlays.h"
+#include "map/overlay_stack.h"
 #include "paint/picture_surface.h"
 #include "ratio_reporter.h"
 #include "reference/plain_borders.h"
@@ -27,14 +27,14 @@ struct Map {
       Session.Player(player)[PlayerField::ColourSlot] = player;
     }
     ComputeInfluence(Session, {});
-    View.ShowAll(Session.UniverseExtent);
+    State = FirstMapState(Session);
     Switches.Set(OverlayKind::InfluenceBorders, true);
   }
 
-  void Redraw() { DrawOverlays({Session, View, Switches, Universe, Universe2, {}}); }
+  void Redraw() { DrawOverlayStack({Session, State, Switches, Universe, Universe2, {}}); }
 
   GameSession Session = MakeInfluenceGame(kHugeGame);
-  MapView View;
+  MapState State;
   OverlaySwitches Switches;
   PictureSurface Universe{kMapSize};
   PictureSurface Universe2{kMapSize};
@@ -54,7 +54,7 @@ void Register(const std::string& name, const std::function<void()>& step, double
 void RegisterRedraws() {
   const auto map = std::make_shared<Map>();
   const auto redraw = [map](bool keepsBorders) {
-    if (!keepsBorders) map->Session.BordersCached = 0;
+    if (!keepsBorders) map->State.BordersCached = 0;
     map->Redraw();
     // A picture that is shared with its twin is only copied when the next overlay draws.
     map->Universe.Point({0, 0}, {0, 0, 0});
@@ -63,7 +63,7 @@ void RegisterRedraws() {
     QImage picture(kMapSize, QImage::Format_RGB32);
     picture.fill(Qt::black);
     const int penWidth = map->Universe.WidthInTwips() / kSurfaceUnits + 2;
-    reference::PlainInfluenceBorders(map->Session, map->View, picture, penWidth);
+    reference::PlainInfluenceBorders(map->Session, map->State.View, picture, penWidth);
   };
   Register(
       "fast/first borders, huge", [redraw] { redraw(false); }, 10);

@@ -14,7 +14,7 @@
 
 #include "game_on_disk.h"
 #include "loading/load_game.h"
-#include "map/draw_overlays.h"
+#include "map/overlay_stack.h"
 #include "map/planets_in_view.h"
 #include "paint/picture_surface.h"
 #include "ratio_reporter.h"
@@ -35,20 +35,20 @@ class Map {
  public:
   Map(const GameSession& session, const OverlaySwitches& switches, double ratio)
       : session_(session),
+        state_(FirstMapState(session)),
         switches_(switches),
         universe_(kMapSize, ratio),
-        universe2_(kMapSize, ratio) {
-    view_.ShowAll(session_.UniverseExtent);
-  }
+        universe2_(kMapSize, ratio) {}
 
   void Redraw() {
-    DrawOverlays({session_, view_, switches_, universe_, universe2_, {}, session_.DrawingLayer});
+    DrawOverlayStack(
+        {session_, state_, switches_, universe_, universe2_, {}, session_.DrawingLayer});
   }
   const QImage& Picture() const { return universe_.Picture(); }
 
  private:
   GameSession session_;
-  MapView view_;
+  MapState state_;
   OverlaySwitches switches_;
   Surface universe_;
   Surface universe2_;

@@ -61,7 +61,7 @@ void UseOpenDialog(const ScreenshotJob& job) {
 void ClickPlanet(Main& window, const PlanetRecord& planet) {
   const MapView& view = window.Map->State().View;
   const SurfacePoint at = PositionOf(planet, view);
-  window.Map->Universe_MouseDown(1, 0, at.X, at.Y);
+  emit window.Map->Universe->MouseDown(at);
 }
 
 // The planet with the largest population of the user's own race.
@@ -111,12 +111,12 @@ void TakeDrawings(Main& window, const ScreenshotJob& job) {
   window.findChild<QToolButton*>("OvButt(10)")->setChecked(true);
   window.Detail->Tools->Draw[2]->setChecked(true);
   window.Detail->Tools->DColour[5]->setChecked(true);
-  emit window.Map->Universe->MouseDown(1, 0, 1000, 9000);
-  emit window.Map->Universe->MouseDown(1, 0, 7000, 8000);
-  emit window.Map->Universe->MouseDown(1, 0, 3000, 3000);
-  emit window.Map->Universe->MouseMove(0, 0, 6000, 5000);
+  emit window.Map->Universe->MouseDown({1000, 9000});
+  emit window.Map->Universe->MouseDown({7000, 8000});
+  emit window.Map->Universe->MouseDown({3000, 3000});
+  emit window.Map->Universe->MouseMove({6000, 5000});
   Save(window, job, "main-drawing");
-  emit window.Map->Universe->MouseDown(1, 0, 6000, 5000);
+  emit window.Map->Universe->MouseDown({6000, 5000});
   window.findChild<QToolButton*>("OvButt(10)")->setChecked(false);
 }
 
@@ -190,11 +190,12 @@ void TakePictures(const ScreenshotJob& job) {
 
   window.findChild<QToolButton*>("OvButt(1)")->setChecked(true);
   const SurfacePoint home = PositionOf(HomeWorld(window.Session()), window.Map->State().View);
-  window.Map->Universe_MouseDown(1, 0, std::max(home.X - 1500, 0.0), std::max(home.Y - 1500, 0.0));
-  const SurfacePoint corner = window.Map->ZoomBox->TopLeft();
-  window.Map->ZoomBox->Place(corner, 3000);
+  const SurfacePoint corner = {std::max(home.X - 1500, 0.0), std::max(home.Y - 1500, 0.0)};
+  const SurfacePoint opposite = {corner.X + 3000, corner.Y + 3000};
+  emit window.Map->Universe->MouseDown(corner);
+  emit window.Map->Universe->MouseMove(opposite);
   Save(window, job, "main-zoom-box");
-  window.Map->Universe_MouseDown(1, 0, corner.X + 3000, corner.Y + 3000);
+  emit window.Map->Universe->MouseDown(opposite);
   Save(window, job, "main-zoomed");
   window.resize(1000, 700);
   Save(window, job, "main-1000x700");

@@ -21,7 +21,35 @@ void MoveEdges(int& low, int& high, int step, int universeExtent) {
   high += step;
 }
 
+// Shows the window that the zoom box encloses. Its corners are whole light years.
+bool ShowZoomBox(MapState& state) {
+  MapView& view = state.View;
+  const int xMin = ToWhole16(state.BoxCorner.X / view.MapScale);
+  const int yMin = ToWhole16(state.BoxCorner.Y / view.MapScale);
+  const int xMax = ToWhole16(state.BoxSide / view.MapScale + xMin);
+  const int yMax = ToWhole16(state.BoxSide / view.MapScale + yMin);
+  if (xMax <= xMin) return false;
+  view.ViewXMin = xMin;
+  view.ViewXMax = xMax;
+  view.ViewYMin = yMin;
+  view.ViewYMax = yMax;
+  view.MapScale = kMapUnits / (xMax - xMin);
+  return true;
+}
+
 }  // namespace
+
+MapState FirstMapState(const GameSession& session) {
+  MapState state;
+  state.View.ShowAll(session.UniverseExtent);
+  return state;
+}
+
+void SelectPlanet(MapState& state, const GameSession& session, int planet) {
+  const bool exists = planet > 0 && planet <= session.PlanetCount;
+  state.SelectedX = exists ? session.Planet(planet).X() : 0;
+  state.SelectedY = exists ? session.Planet(planet).Y() : 0;
+}
 
 bool ArmZoom(MapState& state, bool isZoomIn) {
   if (!isZoomIn || state.ZoomArmed != 0) return false;
@@ -35,6 +63,30 @@ bool LeaveZoom(MapState& state, bool isZoomIn) {
   state.View.ShowAll(state.View.UniverseExtent);
   state.ClickMode = kOrdinaryClick;
   state.ZoomArmed = 0;
+  return true;
+}
+
+MapClick ClickMap(MapState& state, SurfacePoint at) {
+  if (state.ClickMode == kOrdinaryClick) return MapClick::Pick;
+  if (state.ClickMode == kStartZoomBox) {
+    state.BoxCorner = at;
+    state.BoxSide = 1;
+    state.ClickMode = kEndZoomBox;
+    return MapClick::BoxStarted;
+  }
+  if (!ShowZoomBox(state)) return MapClick::BoxUnchanged;
+  state.ClickMode = kOrdinaryClick;
+  return MapClick::BoxEnded;
+}
+
+void MovePointer(MapState& state, SurfacePoint at) {
+  if (state.View.MapScale == 0) state.View.MapScale = 1;
+  if (state.ClickMode == kEndZoomBox) state.BoxSide = std::fabs(at.X - state.BoxCorner.X);
+}
+
+bool GiveUpZoomBox(MapState& state) {
+  if (state.ClickMode != kEndZoomBox) return false;
+  state.ClickMode = kStartZoomBox;
   return true;
 }
 
@@ -56,34 +108,6 @@ bool ScrollView(MapState& state, ScrollKey key, int shiftMask) {
       MoveEdges(view.ViewYMin, view.ViewYMax, step, view.UniverseExtent);
       break;
   }
-  return true;
-}
-
-void StartZoomBox(MapState& state, SurfacePoint corner) {
-  state.BoxXMin = ToWhole16(corner.X / state.View.MapScale);
-  state.BoxYMin = ToWhole16(corner.Y / state.View.MapScale);
-  state.ClickMode = kEndZoomBox;
-}
-
-double ZoomBoxSide(double left, double x) { return std::fabs(x - left); }
-
-bool EndZoomBox(MapState& state, double side) {
-  MapView& view = state.View;
-  const int xMax = ToWhole16(side / view.MapScale + state.BoxXMin);
-  const int yMax = ToWhole16(side / view.MapScale + state.BoxYMin);
-  if (xMax <= state.BoxXMin) return false;
-  view.ViewXMin = state.BoxXMin;
-  view.ViewXMax = xMax;
-  view.ViewYMin = state.BoxYMin;
-  view.ViewYMax = yMax;
-  view.MapScale = kMapUnits / (view.ViewXMax - view.ViewXMin);
-  state.ClickMode = kOrdinaryClick;
-  return true;
-}
-
-bool GiveUpZoomBox(MapState& state) {
-  if (state.ClickMode != kEndZoomBox) return false;
-  state.ClickMode = kStartZoomBox;
   return true;
 }
 

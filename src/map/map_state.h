@@ -4,22 +4,38 @@
 
 namespace quorvane {
 
+struct GameSession;
+
 /// `ClickMode`: what the next click on the map does.
 inline constexpr int kOrdinaryClick = 0;
 inline constexpr int kStartZoomBox = 1;
 inline constexpr int kEndZoomBox = 2;
 
-/// The view of the map and how far a zoom has got.
+/// What is shown of a game: which part of the universe, how far a zoom has got, which planet is
+/// selected, and whether there is a picture of the borders that can be used again.
 struct MapState {
   MapView View;
   /// 1 from the moment the Zoom In button was honoured until it is released.
   int ZoomArmed = 0;
   int ClickMode = kOrdinaryClick;
-  /// Where the window of an open zoom box will begin, in stored coordinates. The view is changed
-  /// only once the box is complete.
-  int BoxXMin = 0;
-  int BoxYMin = 0;
+  /// The open zoom box: its top left corner on the picture and its side, in surface units. The view
+  /// is changed only once the box is complete.
+  SurfacePoint BoxCorner;
+  double BoxSide = 0;
+  /// Stored position of the planet picked last; 0, 0: none.
+  int SelectedX = 0;
+  int SelectedY = 0;
+  /// 1 while a finished picture of the influence borders is kept for reuse. Another game, other
+  /// colours and another size of the picture set it to 0.
+  int BordersCached = 0;
 };
+
+/// How every game is shown at first: the whole universe, nothing selected, no borders kept.
+MapState FirstMapState(const GameSession& session);
+
+/// Makes a planet the selected one.
+/// @param planet its number; 0, or one that the game does not have: nothing is selected then
+void SelectPlanet(MapState& state, const GameSession& session, int planet);
 
 /// Honours a Zoom In button that has just been pressed: the next click on the map starts the zoom
 /// box, and until the box is drawn the map keeps what it shows.
@@ -31,17 +47,22 @@ bool ArmZoom(MapState& state, bool isZoomIn);
 /// @return whether the view is now the full one for that reason
 bool LeaveZoom(MapState& state, bool isZoomIn);
 
-/// Starts the zoom box with its top left corner at a point of the full map: the window will begin
-/// there, and the next click ends the box. Until then the map keeps its view.
-void StartZoomBox(MapState& state, SurfacePoint corner);
+/// What a click on the map means.
+enum class MapClick {
+  Pick,          // of the planet that lies there
+  BoxStarted,    // the zoom box has its corner there
+  BoxUnchanged,  // the zoom box encloses less than a light year, and stays
+  BoxEnded,      // the view shows now what the zoom box encloses
+};
 
-/// Side of the zoom box, in surface units, while the pointer is at `x` and the box began at `left`.
-/// The box grows to the right and downwards, whichever way the pointer moves.
-double ZoomBoxSide(double left, double x);
+/// Takes a click, wherever it begins or ends a zoom box. The box's window begins at the place of
+/// the full map that was clicked first.
+MapClick ClickMap(MapState& state, SurfacePoint at);
 
-/// Ends the zoom box: shows the window that it encloses.
-/// @return false, and the box stays, for one that encloses less than a light year
-bool EndZoomBox(MapState& state, double side);
+/// Takes a move of the pointer: an open zoom box grows to the right and downwards, whichever way
+/// the pointer goes. Without a game, and so without a scale, a light year is one unit, so that the
+/// pointer's place can be told.
+void MovePointer(MapState& state, SurfacePoint at);
 
 /// Gives an open zoom box up: the next click starts another one.
 /// @return false when none is open

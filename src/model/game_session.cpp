@@ -4,7 +4,6 @@ namespace quorvane {
 
 void GameSession::Reset() {
   PlanetCount = 0;
-  BordersCached = 0;
   RaceColours = kDefaultRaceColours;
 }
 

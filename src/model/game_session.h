@@ -17,8 +17,9 @@ namespace quorvane {
 /// Where the game's coordinates begin, in both directions.
 inline constexpr int kUniverseOrigin = 1000;
 
-/// Everything about one loaded game. Plain data: loading builds it, analysis and rendering read it,
-/// windows write single fields back.
+/// Everything about one loaded game, and nothing about how it is shown: games of several years can
+/// be in memory at once. Plain data: loading builds it, rules and drawing read it, windows write
+/// single fields back.
 struct GameSession : GameChoice {
   int PlanetCount = 0;
   /// Records 1 … `PlanetCount`, in map order; record 0 is not used.
@@ -38,13 +39,6 @@ struct GameSession : GameChoice {
   /// Highest index of the influence grid: 650, or 649 where the division falls just short.
   int GridSize = 0;
   quorvane::InfluenceGrid InfluenceGrid;
-  /// 1 while a finished picture of the influence borders is kept for reuse.
-  int BordersCached = 0;
-
-  /// Stored position of the planet picked last; 0, 0: none.
-  int SelectedX = 0;
-  int SelectedY = 0;
-
   /// The drawing layer as read from the drawing file.
   std::vector<DrawingRecord> DrawingLayer;
   /// Owners for whom the player table has no place, in map order.
@@ -62,7 +56,7 @@ struct GameSession : GameChoice {
     return PlayerTable.at(static_cast<std::size_t>(number));
   }
 
-  /// Empties the session as every load begins: no planets, default race colours, no cached borders.
+  /// Empties the session as every load begins: no planets, default race colours.
   void Reset();
   /// Creates `count` planet records of empty fields.
   void CreatePlanetTable(int count);

@@ -5,20 +5,6 @@
 #include <QPainter>
 
 namespace quorvane {
-namespace {
-
-int ButtonMask(Qt::MouseButtons buttons) {
-  return (buttons.testFlag(Qt::LeftButton) ? 1 : 0) + (buttons.testFlag(Qt::RightButton) ? 2 : 0) +
-         (buttons.testFlag(Qt::MiddleButton) ? 4 : 0);
-}
-
-}  // namespace
-
-int ShiftMaskOf(Qt::KeyboardModifiers modifiers) {
-  return (modifiers.testFlag(Qt::ShiftModifier) ? 1 : 0) +
-         (modifiers.testFlag(Qt::ControlModifier) ? 2 : 0) +
-         (modifiers.testFlag(Qt::AltModifier) ? 4 : 0);
-}
 
 PictureBox::PictureBox(QWidget* parent, QSizeF units)
     : QWidget(parent), surface_(size(), devicePixelRatioF(), units) {
@@ -45,13 +31,11 @@ void PictureBox::paintEvent(QPaintEvent*) {
 }
 
 void PictureBox::mousePressEvent(QMouseEvent* event) {
-  const SurfacePoint at = LogicalPoint(event->position());
-  emit MouseDown(ButtonMask(event->button()), ShiftMaskOf(event->modifiers()), at.X, at.Y);
+  emit MouseDown(LogicalPoint(event->position()));
 }
 
 void PictureBox::mouseMoveEvent(QMouseEvent* event) {
-  const SurfacePoint at = LogicalPoint(event->position());
-  emit MouseMove(ButtonMask(event->buttons()), ShiftMaskOf(event->modifiers()), at.X, at.Y);
+  emit MouseMove(LogicalPoint(event->position()));
 }
 
 void PictureBox::FitSurface() {

@@ -6,9 +6,6 @@
 
 namespace quorvane {
 
-/// 1 Shift, 2 Ctrl, 4 Alt, added together.
-int ShiftMaskOf(Qt::KeyboardModifiers modifiers);
-
 /// Shows a picture that always has the widget's own size. Whoever draws on the surface calls
 /// `update()` afterwards. Shapes above the picture are children of their own.
 class PictureBox : public QWidget {
@@ -25,12 +22,10 @@ class PictureBox : public QWidget {
  signals:
   /// The surface is blank because it has a new size.
   void Resized();
-  /// A press of a mouse button, in logical units.
-  /// @param button 1 left, 2 right, 4 middle
-  /// @param shift  as `ShiftMaskOf` gives it
-  void MouseDown(int button, int shift, double x, double y);
-  /// A move of the pointer, with the buttons that are held down.
-  void MouseMove(int buttons, int shift, double x, double y);
+  /// A mouse button was pressed, whichever.
+  void MouseDown(SurfacePoint at);
+  /// The pointer has moved, whether or not a button is held down.
+  void MouseMove(SurfacePoint at);
 
  protected:
   bool event(QEvent* event) override;

@@ -19,10 +19,4 @@ int FindPlanetNamed(const GameSession& session, std::string_view name) {
   return 0;
 }
 
-void SelectPlanet(GameSession& session, int planet) {
-  const bool exists = planet > 0 && planet <= session.PlanetCount;
-  session.SelectedX = exists ? session.Planet(planet).X() : 0;
-  session.SelectedY = exists ? session.Planet(planet).Y() : 0;
-}
-
 }  // namespace quorvane

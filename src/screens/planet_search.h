@@ -14,8 +14,4 @@ std::vector<std::string> PlanetEntries(const GameSession& session);
 /// The first planet of exactly that name, or 0.
 int FindPlanetNamed(const GameSession& session, std::string_view name);
 
-/// Makes a planet the selected one.
-/// @param planet its number; 0, or one that the game does not have: nothing is selected then
-void SelectPlanet(GameSession& session, int planet);
-
 }  // namespace quorvane

@@ -22,7 +22,7 @@ Colour ColourOf(const DrawingTools& tools) {
 
 }  // namespace
 
-DrawingBoard::DrawingBoard(GameSession& session, MapPanel& map, DrawingTools& tools,
+DrawingBoard::DrawingBoard(const GameSession& session, MapPanel& map, DrawingTools& tools,
                            Prompts& prompts)
     : QObject(&map),
       DrawLine(new LineShape(*map.Universe, "DrawLine")),
@@ -41,7 +41,7 @@ void DrawingBoard::ShowLoadedGame() {
   ForgetShapes();
   tools_.StopDrawing();
   const std::vector<DrawingRecord>& layer = session_.DrawingLayer;
-  tools_.ShowSavedLayer(ToQString(DrawingLayerText(layer)));
+  tools_.Layer->Show(layer);
   // Drawing goes on in the colour that was used last.
   if (!layer.empty()) tools_.SelectColour(layer.back().ColourNumber);
   if (FindFile(session_.DrawingFilePath)) map_.TakeDrawingPen();
@@ -95,7 +95,7 @@ void DrawingBoard::AddText(SurfacePoint at) {
 }
 
 void DrawingBoard::AddShape(MapShape shape) {
-  tools_.AppendRecord(ToQString(DrawingRecordText(RecordOf(shape, map_.State().View))));
+  tools_.Layer->Append(RecordOf(shape, map_.State().View));
   shapes_.push_back(std::move(shape));
   DrawShape(shapes_.back(), map_.Universe->Surface());
   map_.Universe->update();
@@ -103,24 +103,13 @@ void DrawingBoard::AddShape(MapShape shape) {
 
 bool DrawingBoard::ReadLayer() {
   if (!FindFile(session_.DrawingFilePath)) {
-    tools_.ShowSavedLayer("");
+    tools_.Layer->Show({});
     prompts_.Inform("No file found for this map");
     return false;
   }
-  Result<std::vector<DrawingRecord>> layer = ReadDrawingFile(session_);
-  if (!layer) {
-    prompts_.Inform(layer.Message());
-    return false;
-  }
-  layer_ = std::move(*layer);
-  const QString text = ToQString(DrawingLayerText(layer_));
-  // A document of megabytes takes most of a second to make.
-  if (text == tools_.PlotBox->Text()) {
-    tools_.LayerSaved();
-  } else {
-    tools_.ShowSavedLayer(text);
-  }
-  return true;
+  const Result<void> read = tools_.Layer->Read(session_);
+  if (!read) prompts_.Inform(read.Message());
+  return static_cast<bool>(read);
 }
 
 void DrawingBoard::DrawShapes() {
@@ -129,13 +118,12 @@ void DrawingBoard::DrawShapes() {
 
 void DrawingBoard::SaveQVL_Click() {
   if (!session_.IsLoaded()) return prompts_.Inform(kNothingToSave);
-  const Result<void> saved = WriteDrawingFile(session_, ToText(tools_.PlotBox->Text()));
-  if (saved) tools_.LayerSaved();
+  const Result<void> saved = tools_.Layer->Save(session_);
   prompts_.Inform(saved ? "Saved to " + TextFromPath(session_.DrawingFilePath) : saved.Message());
 }
 
 void DrawingBoard::ClearQVL_Click() {
-  tools_.ClearLayer();
+  tools_.Layer->Clear();
   emit Cleared();
 }
 

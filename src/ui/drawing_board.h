@@ -3,8 +3,7 @@
 #include <QObject>
 #include <vector>
 
-#include "map/drawing_layer.h"
-#include "model/drawing_record.h"
+#include "map/map_shapes.h"
 #include "model/game_session.h"
 #include "paint/picture_shapes.h"
 #include "ui/prompts.h"
@@ -15,12 +14,13 @@ class DrawingTools;
 class MapPanel;
 
 /// Drawing on the map: clicks become shapes on the picture and records of the drawing layer, which
-/// is saved, cleared and read back for its overlay.
+/// is saved, cleared and read back for its overlay here.
 class DrawingBoard : public QObject {
   Q_OBJECT
 
  public:
-  DrawingBoard(GameSession& session, MapPanel& map, DrawingTools& tools, Prompts& prompts);
+  /// @param session  the game on screen, which may be another one after each load
+  DrawingBoard(const GameSession& session, MapPanel& map, DrawingTools& tools, Prompts& prompts);
 
   /// Shows the drawing layer of a newly loaded game.
   void ShowLoadedGame();
@@ -30,11 +30,9 @@ class DrawingBoard : public QObject {
   /// Lets the rubber band of a shape in progress follow the pointer.
   void Universe_MouseMove(SurfacePoint at);
 
-  /// Reads the drawing file into the layer, for the overlay.
+  /// Reads the layer anew from its file, for the overlay.
   /// @return false, and the user knows why, when there is nothing to show
   bool ReadLayer();
-  /// What the overlay shows: the layer as it was last read from its file.
-  const std::vector<DrawingRecord>& Layer() const { return layer_; }
   /// The map was drawn anew: shapes that no overlay brings back are gone from it.
   void ForgetShapes() { shapes_.clear(); }
   /// Draws the shapes again that were drawn since the map was; its picture has a new size.
@@ -54,11 +52,10 @@ class DrawingBoard : public QObject {
   void SaveQVL_Click();
   void ClearQVL_Click();
 
-  GameSession& session_;
+  const GameSession& session_;
   MapPanel& map_;
   DrawingTools& tools_;
   Prompts& prompts_;
-  std::vector<DrawingRecord> layer_;
   std::vector<MapShape> shapes_;
 };
 

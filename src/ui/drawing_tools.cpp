@@ -4,7 +4,6 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QStyle>
-#include <QTextBlock>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -50,7 +49,8 @@ DrawingTools::DrawingTools(QWidget* parent) : QWidget(parent) {
   grid->addWidget(SaveQVL, 2, 0);
   grid->addWidget(ClearQVL, 2, 1);
   grid->setRowStretch(1, 1);
-  connect(PlotBox, &TextBox::textChanged, this, &DrawingTools::PlotBox_Change);
+  Layer = new DrawingLayer(*PlotBox);
+  connect(Layer, &DrawingLayer::Changed, this, &DrawingTools::Layer_Changed);
   for (QRadioButton* tool : Draw) tool->installEventFilter(this);
   for (QRadioButton* colour : DColour) colour->installEventFilter(this);
 }
@@ -59,32 +59,6 @@ bool DrawingTools::eventFilter(QObject* target, QEvent* event) {
   if (event->type() == QEvent::MouseButtonRelease) emit ChosenByMouse();
   return QWidget::eventFilter(target, event);
 }
-
-void DrawingTools::ShowSavedLayer(const QString& layer) {
-  PlotBox->ShowText(layer);
-  LayerSaved();
-}
-
-void DrawingTools::LayerSaved() {
-  savedLayer_ = PlotBox->document()->toRawText();
-  PlotBox_Change();
-}
-
-// Asked at every key: a layer of megabytes is not copied unless it is as long as the saved one.
-bool DrawingTools::IsUnsaved() const {
-  const QTextDocument& layer = *PlotBox->document();
-  const int endOfText = 1;  // which the document counts as a character
-  return layer.characterCount() - endOfText != savedLayer_.size() ||
-         layer.toRawText() != savedLayer_;
-}
-
-void DrawingTools::AppendRecord(const QString& record) {
-  // A line that was typed may not have been ended yet.
-  const bool isLineOpen = PlotBox->document()->lastBlock().length() > 1;
-  PlotBox->AppendText((isLineOpen ? "\n" : "") + record + "\n");
-}
-
-void DrawingTools::ClearLayer() { PlotBox->clear(); }
 
 DrawingTool DrawingTools::Tool() const {
   const auto chosen = std::ranges::find_if(Draw, &QRadioButton::isChecked);
@@ -110,8 +84,8 @@ void DrawingTools::DColour_Click(int index) {
 }
 
 // The button stands out while there is something to save.
-void DrawingTools::PlotBox_Change() {
-  SaveQVL->setProperty("attention", IsUnsaved());
+void DrawingTools::Layer_Changed() {
+  SaveQVL->setProperty("attention", !Layer->IsSaved());
   SaveQVL->style()->polish(SaveQVL);
 }
 

@@ -5,6 +5,7 @@
 #include <QWidget>
 #include <array>
 
+#include "ui/drawing_layer.h"
 #include "ui/text_box.h"
 
 namespace quorvane {
@@ -20,17 +21,6 @@ class DrawingTools : public QWidget {
  public:
   explicit DrawingTools(QWidget* parent);
 
-  /// Shows the layer as its file has it.
-  void ShowSavedLayer(const QString& layer);
-  /// What the layer holds has just been saved.
-  void LayerSaved();
-  /// Whether the layer holds something that its file does not.
-  bool IsUnsaved() const;
-  /// Adds a record at the end of the layer.
-  void AppendRecord(const QString& record);
-  /// Empties the layer; its file stays as it is.
-  void ClearLayer();
-
   DrawingTool Tool() const;
   /// Selects "Stop Drawing": clicks on the map show details again.
   void StopDrawing();
@@ -43,6 +33,7 @@ class DrawingTools : public QWidget {
   std::array<QRadioButton*, 4> Draw = {};
   std::array<QRadioButton*, 7> DColour = {};
   TextBox* PlotBox = nullptr;
+  DrawingLayer* Layer = nullptr;
   QPushButton* SaveQVL = nullptr;
   QPushButton* ClearQVL = nullptr;
 
@@ -60,9 +51,7 @@ class DrawingTools : public QWidget {
   QWidget* NewColourFrame();
   void AddButtons();
   void DColour_Click(int index);
-  void PlotBox_Change();
-
-  QString savedLayer_;  // as the box keeps it
+  void Layer_Changed();
 };
 
 }  // namespace quorvane

@@ -164,18 +164,17 @@ void EmpireStat::keyPressEvent(QKeyEvent* event) {
 }
 
 void EmpireStat::ShowData_Click(std::size_t index) {
-  RangeLabel& label = *Race->ShowData[index];
-  if (ToText(label.text()) == kImmuneCaption) {
+  const auto limit = static_cast<PlayerField>(index);
+  if (RangeCaption(Current(), limit) == kImmuneCaption) {
     prompts_.Inform("This race is Immune to this hab type");
     return;
   }
-  const auto limit = static_cast<PlayerField>(index);
   const std::string value = FieldText(Current()[limit]);
   const auto answer = prompts_.AskText("Enter New Value", RangePrompt(Current(), limit),
                                        std::string(Trimmed(value)));
   if (!answer) return;
   if (SetRangeLimit(Current(), limit, *answer)) {
-    label.ShowValue(ToQString(FieldText(Current()[limit])));
+    Race->ShowData[index]->ShowValue(ToQString(FieldText(Current()[limit])));
   } else {
     prompts_.Inform("New Value either exceeds minimum or maximum allowed");
   }

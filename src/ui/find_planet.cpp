@@ -37,8 +37,9 @@ QStringList EntriesOf(const QComboBox& list) {
 
 }  // namespace
 
-FindPlanet::FindPlanet(GameSession& session, Prompts& prompts, QWidget* parent)
-    : QDialog(parent), session_(session), prompts_(prompts) {
+FindPlanet::FindPlanet(const GameSession& session, MapState& state, Prompts& prompts,
+                       QWidget* parent)
+    : QDialog(parent), session_(session), state_(state), prompts_(prompts) {
   setObjectName("FindPlanet");
   setWindowTitle("Find Planet");
   Label1 = NewCaption("Choose a planet from the List, then click Goto", this);
@@ -120,8 +121,8 @@ void FindPlanet::Check1_Click() { ShowFoundDetails = Check1->isChecked() ? 1 : 0
 void FindPlanet::Command1_Click() {
   const std::string name = ToText(PlanetList->currentText());
   const int chosen = ChosenRow() + 1;
-  SelectPlanet(session_, chosen > 0 ? chosen : FindPlanetNamed(session_, name));
-  if (session_.SelectedX == 0) prompts_.Inform("Planet " + name + " not found!");
+  SelectPlanet(state_, session_, chosen > 0 ? chosen : FindPlanetNamed(session_, name));
+  if (state_.SelectedX == 0) prompts_.Inform("Planet " + name + " not found!");
   hide();
 }
 

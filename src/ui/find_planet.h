@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QPushButton>
 
+#include "map/map_state.h"
 #include "model/game_session.h"
 #include "ui/prompts.h"
 
@@ -17,7 +18,8 @@ class FindPlanet : public QDialog {
 
  public:
   /// @param session the game on screen, which may be another one at each opening
-  FindPlanet(GameSession& session, Prompts& prompts, QWidget* parent);
+  /// @param state   where the found planet is selected
+  FindPlanet(const GameSession& session, MapState& state, Prompts& prompts, QWidget* parent);
 
   QLabel* Label1 = nullptr;
   QComboBox* PlanetList = nullptr;
@@ -40,7 +42,8 @@ class FindPlanet : public QDialog {
   void Command1_Click();
   void Command2_Click();
 
-  GameSession& session_;
+  const GameSession& session_;
+  MapState& state_;
   Prompts& prompts_;
 };
 

@@ -17,8 +17,8 @@
 
 #include "loading/load_game.h"
 #include "paint/twips.h"
-#include "screens/captions.h"
 #include "screens/main_layout.h"
+#include "screens/main_texts.h"
 #include "ui/controls.h"
 #include "ui/details_panel.h"
 #include "ui/drawing_board.h"
@@ -48,6 +48,28 @@ bool UsesArrowKeys(const QWidget* widget) {
          qobject_cast<const QTabBar*>(widget) != nullptr ||
          qobject_cast<const QComboBox*>(widget) != nullptr ||
          qobject_cast<const QAbstractItemView*>(widget) != nullptr;
+}
+
+std::optional<ScrollKey> ScrollKeyOf(int key) {
+  switch (key) {
+    case Qt::Key_Left:
+      return ScrollKey::Left;
+    case Qt::Key_Up:
+      return ScrollKey::Up;
+    case Qt::Key_Right:
+      return ScrollKey::Right;
+    case Qt::Key_Down:
+      return ScrollKey::Down;
+    default:
+      return std::nullopt;
+  }
+}
+
+// 1 Shift, 2 Ctrl, 4 Alt, added together.
+int ShiftMaskOf(Qt::KeyboardModifiers modifiers) {
+  return (modifiers.testFlag(Qt::ShiftModifier) ? 1 : 0) +
+         (modifiers.testFlag(Qt::ControlModifier) ? 2 : 0) +
+         (modifiers.testFlag(Qt::AltModifier) ? 4 : 0);
 }
 
 // The scrolled area is at least as large as its frame; a scroll bar takes room from the other
@@ -108,7 +130,7 @@ void Main::BuildArea() {
   Combo1->setEditText(kChooserText);
   Combo1->setEnabled(false);
   Combo1->setGeometry(PixelRect(RaceChooserRect()));
-  Map = new MapPanel(*area_);
+  Map = new MapPanel(*area_, state_);
   RaceLegend = new Legend(*area_);
   Detail = new DetailsPanel(area_);
   Board = new DrawingBoard(session_, *Map, *Detail->Tools, prompts_);
@@ -136,15 +158,8 @@ void Main::ConnectParts() {
     if (!std::exchange(isChoiceDrawn_, false)) Combo1_Click();
   });
   connect(Map, &MapPanel::Resized, this, &Main::Map_Resized);
-  connect(Map, &MapPanel::ZoomBoxStarted, this, [this] { EnableOverlays(false); });
-  connect(Map, &MapPanel::ZoomBoxEnded, this, [this] {
-    EnableOverlays(true);
-    DrawOverlays();
-    PlaceSelector();
-  });
   connect(Map->Universe, &PictureBox::MouseDown, this, &Main::Universe_MouseDown);
-  connect(Map, &MapPanel::Clicked, this, &Main::Universe_Clicked);
-  connect(Map, &MapPanel::Hovered, this, &Main::Universe_Hovered);
+  connect(Map->Universe, &PictureBox::MouseMove, this, &Main::Universe_MouseMove);
   connect(Board, &DrawingBoard::Cleared, this, &Main::Board_Cleared);
   connect(RaceLegend, &Legend::Chosen, this, &Main::RaceC_Click);
   const auto focusMap = [this] { Map->Universe->setFocus(); };
@@ -215,15 +230,17 @@ bool Main::eventFilter(QObject* target, QEvent* event) {
 }
 
 bool Main::GiveUpZoomBox() {
-  if (!Map->GiveUpZoomBox()) return false;
+  if (!quorvane::GiveUpZoomBox(state_)) return false;
+  Map->ShowZoomBox();
   EnableOverlays(true);
   return true;
 }
 
 bool Main::Form_KeyDown(int key, Qt::KeyboardModifiers modifiers) {
-  if (!Map->Scroll(key, modifiers)) return false;
+  const std::optional<ScrollKey> scroll = ScrollKeyOf(key);
+  if (!scroll || !ScrollView(state_, *scroll, ShiftMaskOf(modifiers))) return false;
   DrawOverlays();
-  PlaceSelector();
+  Map->PlaceSelector();
   return true;
 }
 

@@ -7,7 +7,7 @@
 #include <filesystem>
 #include <memory>
 
-#include "map/map_view.h"
+#include "map/map_state.h"
 #include "map/overlay_kind.h"
 #include "model/game_session.h"
 #include "model/result.h"
@@ -30,7 +30,7 @@ class MapPanel;
 class OverlayBar;
 
 /// The program's one long-lived window: the map with its overlay switches, details, legend, status
-/// line and menus. It owns the loaded game.
+/// line and menus. It owns the loaded game and the state in which it is shown.
 class Main : public QMainWindow {
   Q_OBJECT
 
@@ -45,7 +45,7 @@ class Main : public QMainWindow {
   /// Loads the game that the open dialog left chosen. A load that fails says why, and the game on
   /// screen stays.
   void LoadChosenGame();
-  /// Repaints the map from the switches and the view.
+  /// Settles the overlay switches and draws the map anew: once for each action of the user.
   void DrawOverlays();
 
   const GameSession& Session() const { return session_; }
@@ -75,9 +75,8 @@ class Main : public QMainWindow {
   void Combo1_Click();
   void Board_Cleared();
   void RaceC_Click(int index);
-  void Universe_MouseDown(int button, int shift, double x, double y);
-  void Universe_Clicked(SurfacePoint at);
-  void Universe_Hovered(SurfacePoint at, bool isPicking);
+  void Universe_MouseDown(SurfacePoint at);
+  void Universe_MouseMove(SurfacePoint at);
   void mnuSearchPlanet_Click();
   void mnuHideSelect_Click();
   void mnuGrid_Click();
@@ -93,11 +92,11 @@ class Main : public QMainWindow {
   void ConnectParts();
   void ConnectMenus();
   void EnableOverlays(bool isEnabled);
-  void PlaceSelector();
+  void PickPlanet(SurfacePoint at);
   Result<GameSession> RunLoad();
   void ShowLoadedGame();
   void ResetWindow();
-  void DrawMap(OverlaySwitches switches);
+  void PaintMap(OverlaySwitches switches);
   void ShowWhetherStopped(bool isStopped, const char* sentence);
 
   std::unique_ptr<Prompts> ownPrompts_;
@@ -108,6 +107,7 @@ class Main : public QMainWindow {
   std::unique_ptr<Grid> grid_;
   std::unique_ptr<Manual> manual_;
   GameSession session_;
+  MapState state_;
   QScrollArea* scroll_ = nullptr;
   QWidget* area_ = nullptr;
   bool isDrawing_ = false;

@@ -15,8 +15,7 @@
 #include "loading/load_game.h"
 #include "model/text.h"
 #include "paint/picture_file.h"
-#include "screens/captions.h"
-#include "screens/planet_search.h"
+#include "screens/main_texts.h"
 #include "ui/about.h"
 #include "ui/details_panel.h"
 #include "ui/drawing_board.h"
@@ -109,24 +108,27 @@ void Main::ResetWindow() {
   Overlays->Show(switches);
   Combo1->clear();
   Combo1->clearEditText();
-  Map->ShowUniverse(session_.UniverseExtent);
-  PlaceSelector();
+  state_ = FirstMapState(session_);
+  Map->Blank();
+  Map->ShowZoomBox();
+  Map->PlaceSelector();
 }
 
 void Main::mnuHideSelect_Click() {
-  SelectPlanet(session_, 0);
-  PlaceSelector();
+  SelectPlanet(state_, session_, 0);
+  Map->PlaceSelector();
 }
 
 void Main::mnuSearchPlanet_Click() {
-  if (findPlanet_ == nullptr) findPlanet_ = std::make_unique<FindPlanet>(session_, prompts_, this);
+  if (findPlanet_ == nullptr) {
+    findPlanet_ = std::make_unique<FindPlanet>(session_, state_, prompts_, this);
+  }
   findPlanet_->exec();
-  PlaceSelector();
-  const bool isSelected = session_.SelectedX != 0;
+  Map->PlaceSelector();
+  const bool isSelected = state_.SelectedX != 0;
   if (!isSelected || findPlanet_->ShowFoundDetails != 1) return;
-  const SurfacePoint at = Map->State().View.ToSurface(
-      {static_cast<double>(session_.SelectedX), static_cast<double>(session_.SelectedY)});
-  Universe_MouseDown(1, 0, at.X, at.Y);
+  Universe_MouseDown(state_.View.ToSurface(
+      {static_cast<double>(state_.SelectedX), static_cast<double>(state_.SelectedY)}));
 }
 
 void Main::mnuGrid_Click() {

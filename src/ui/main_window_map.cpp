@@ -2,10 +2,11 @@
 #include <QScopedValueRollback>
 #include <string>
 
+#include "map/overlay_stack.h"
 #include "map/planets_in_view.h"
+#include "map/redraw.h"
 #include "rules/colour_slots.h"
-#include "screens/captions.h"
-#include "screens/planet_search.h"
+#include "screens/main_texts.h"
 #include "ui/controls.h"
 #include "ui/details_panel.h"
 #include "ui/drawing_board.h"
@@ -22,10 +23,10 @@ namespace quorvane {
 // The picture of a resized map is blank. It gets back all that it showed, drawings that are not
 // saved yet included.
 void Main::Map_Resized() {
-  session_.BordersCached = 0;
+  state_.BordersCached = 0;
   if (redraw_ != nullptr) return redraw_->Stop();  // it begins again
   if (!session_.IsLoaded() || isDrawing_) return;
-  DrawMap(Overlays->Switches());
+  PaintMap(Overlays->Switches());
   Board->DrawShapes();
 }
 
@@ -33,29 +34,36 @@ void Main::Combo1_Click() {
   if (Overlays->Switches().IsOn(OverlayKind::EstimateHabValues)) DrawOverlays();
 }
 
-void Main::Universe_MouseDown(int button, int shift, double x, double y) {
-  if (Board->Universe_MouseDown({x, y})) return;
-  Map->Universe_MouseDown(button, shift, x, y);
+void Main::Universe_MouseDown(SurfacePoint at) {
+  if (Board->Universe_MouseDown(at)) return;
+  const MapClick click = ClickMap(state_, at);
+  if (click == MapClick::Pick) return PickPlanet(at);
+  Map->ShowZoomBox();
+  if (click == MapClick::BoxStarted) EnableOverlays(false);
+  if (click != MapClick::BoxEnded) return;
+  EnableOverlays(true);
+  DrawOverlays();
+  Map->PlaceSelector();
+}
+
+void Main::Universe_MouseMove(SurfacePoint at) {
+  MovePointer(state_, at);
+  Map->ShowZoomBox();
+  if (state_.ClickMode == kOrdinaryClick) {
+    const HoverTexts texts = DescribeHover(session_, PlanetAt(session_, state_.View, at));
+    theplanet->setText(ToQString(texts.StatusLine));
+    SetPlainToolTip(*Map->Universe, ToQString(texts.ToolTip));
+  }
+  XYCoord->setText(ToQString(PointerText(state_.View, at)));
+  Board->Universe_MouseMove(at);
 }
 
 // Tells all that is known of the planet that was clicked.
-void Main::Universe_Clicked(SurfacePoint at) {
-  const int planet = PlanetAt(session_, Map->State().View, at);
-  SelectPlanet(session_, planet);
-  PlaceSelector();
+void Main::PickPlanet(SurfacePoint at) {
+  const int planet = PlanetAt(session_, state_.View, at);
+  SelectPlanet(state_, session_, planet);
+  Map->PlaceSelector();
   if (planet > 0) Detail->ShowPlanet(session_, planet);
-}
-
-void Main::Universe_Hovered(SurfacePoint at, bool isPicking) {
-  const MapView& view = Map->State().View;
-  if (isPicking) {
-    const int planet = PlanetAt(session_, view, at);
-    const QString name = planet > 0 ? ToQString(session_.Planet(planet).Name()) : QString();
-    theplanet->setText(planet > 0 ? " " + name : " Deep Space");
-    SetPlainToolTip(*Map->Universe, planet > 0 ? "Click for more details on " + name : QString());
-  }
-  XYCoord->setText(ToQString(PointerText(view, at)));
-  Board->Universe_MouseMove(at);
 }
 
 // Without the layer, its overlay is off.
@@ -68,61 +76,58 @@ void Main::Board_Cleared() {
 }
 
 void Main::RaceC_Click(int index) {
-  const QString name = RaceLegend->Race[static_cast<std::size_t>(index)]->text();
-  const int slot = ColourSlotOf(session_, ToText(name));
+  const std::string& race = session_.Player(index + 1).Name();
+  const int slot = ColourSlotOf(session_, race);
   if (slot == 0) return;
-  RaceColour dialog(session_, index, slot, name, this);
+  RaceColour dialog(session_, index, slot, ToQString(race), this);
   if (dialog.exec() == QDialog::Accepted) RaceLegend->ShowChangedColour(session_, index);
-  session_.BordersCached = 0;
+  state_.BordersCached = 0;
   Map->Universe2->Surface().Clear();
   DrawOverlays();
 }
-
-void Main::PlaceSelector() { Map->PlaceSelector(session_.SelectedX, session_.SelectedY); }
 
 void Main::DrawOverlays() {
   // Switches that the redraw itself changes are part of the same user action.
   if (isDrawing_) return;
   const QScopedValueRollback oneRedraw(isDrawing_, true);
-  OverlaySwitches switches = Overlays->Switches();
-  const bool isZoomIn = switches.IsOn(OverlayKind::ZoomIn);
-  if (Map->ArmZoom(isZoomIn)) {
-    Detail->Tools->StopDrawing();
-    return;
-  }
-  if (Map->LeaveZoom(isZoomIn)) {
+  Redraw redraw = SettleSwitches(Overlays->Switches(), state_);
+  if (redraw.StopsDrawing) Detail->Tools->StopDrawing();
+  if (!redraw.IsDue) return;
+  if (redraw.IsFullView) {
     constexpr int kButtonsOfFullView = 11;  // the estimated habitability is left as it is
     Overlays->EnableButtons(kButtonsOfFullView);
-    Detail->Tools->StopDrawing();
-    PlaceSelector();
+    Map->PlaceSelector();
   }
-  if (switches.IsOn(OverlayKind::ClearMap)) {
-    switches.ClearMap();
-    Overlays->Show(switches);
-  }
-  const bool wantsDrawing = switches.IsOn(OverlayKind::QvlDrawing);
-  const bool hasDrawing = wantsDrawing && Board->ReadLayer();
-  if (wantsDrawing && !hasDrawing) {
-    switches.Set(OverlayKind::QvlDrawing, false);
-    Overlays->Show(switches);
-  }
+  const bool hasDrawing = redraw.ReadsDrawing && Board->ReadLayer();
+  redraw.Switches.Set(OverlayKind::QvlDrawing, hasDrawing);
+  Overlays->Show(redraw.Switches);
   Board->ForgetShapes();
-  DrawMap(switches);
+  PaintMap(redraw.Switches);
   if (hasDrawing) Detail->Tools->SelectColour(1);
 }
 
-void Main::DrawMap(OverlaySwitches switches) {
+// A map that gets another size meanwhile is painted again.
+void Main::PaintMap(OverlaySwitches switches) {
   isChoiceDrawn_ = false;
   switches.RaceName = ToText(Combo1->currentText());
+  PictureSurface& universe = Map->Universe->Surface();
   bool isComplete = false;
   QSize drawn;
   do {
     LongStep step(*ProgressBar1);
     const QScopedValueRollback running(redraw_, &step);
-    drawn = Map->Universe->Surface().Picture().size();
-    isComplete = Map->Draw(session_, switches, Board->Layer(), step.Display());
-  } while (Map->Universe->Surface().Picture().size() != drawn);
-  ShowWhetherStopped(!isComplete, "Drawing stopped");
+    const Progress progress = step.Display();
+    drawn = universe.Picture().size();
+    isComplete = DrawOverlayStack({.Session = session_,
+                                   .State = state_,
+                                   .Switches = switches,
+                                   .Universe = universe,
+                                   .Universe2 = Map->Universe2->Surface(),
+                                   .Progress = progress,
+                                   .Drawing = Detail->Tools->Layer->Records()});
+    Map->Universe->update();
+  } while (universe.Picture().size() != drawn);
+  ShowWhetherStopped(!isComplete, kDrawingStopped);
 }
 
 // The status line tells of a step that was stopped until such a step is completed.

@@ -8,7 +8,6 @@
 #include <optional>
 #include <utility>
 
-#include "map/draw_overlays.h"
 #include "map/map_state.h"
 #include "map/selection_marker.h"
 
@@ -17,21 +16,6 @@ namespace {
 
 constexpr Colour kZoomBoxColour = {150, 150, 150};
 constexpr std::chrono::milliseconds kMarkerPeriod(250);
-
-std::optional<ScrollKey> ScrollKeyOf(int key) {
-  switch (key) {
-    case Qt::Key_Left:
-      return ScrollKey::Left;
-    case Qt::Key_Up:
-      return ScrollKey::Up;
-    case Qt::Key_Right:
-      return ScrollKey::Right;
-    case Qt::Key_Down:
-      return ScrollKey::Down;
-    default:
-      return std::nullopt;
-  }
-}
 
 // The map, with a frame above its picture from when the keyboard brings the focus here until the
 // mouse is used.
@@ -80,8 +64,11 @@ PictureBox* NewMap(const char* name, QWidget& area) {
 
 }  // namespace
 
-MapPanel::MapPanel(QWidget& area)
-    : QObject(&area), Universe(NewMap("Universe", area)), Universe2(NewMap("Universe2", area)) {
+MapPanel::MapPanel(QWidget& area, const MapState& state)
+    : QObject(&area),
+      Universe(NewMap("Universe", area)),
+      Universe2(NewMap("Universe2", area)),
+      state_(state) {
   Universe->setAccessibleName(tr("Map of the universe"));
   Universe2->hide();
   CurrentSelected = new SquareShape(*Universe, "CurrentSelected");
@@ -92,7 +79,6 @@ MapPanel::MapPanel(QWidget& area)
   Timer1->setObjectName("Timer1");
   Timer1->start(kMarkerPeriod);
   connect(Universe, &PictureBox::Resized, this, &MapPanel::Universe_Resize);
-  connect(Universe, &PictureBox::MouseMove, this, &MapPanel::Universe_MouseMove);
   connect(Timer1, &QTimer::timeout, this, &MapPanel::Timer1_Timer);
 }
 
@@ -101,39 +87,12 @@ void MapPanel::Place(const QRect& place) {
   Universe2->setGeometry(place);
 }
 
-void MapPanel::ShowUniverse(int universeExtent) {
-  state_ = MapState();
-  state_.View.ShowAll(universeExtent);
-  ZoomBox->hide();
+void MapPanel::Blank() {
   for (PictureBox* map : {Universe, Universe2}) {
     map->Surface().SetBackground(nullptr);
     map->Surface().Clear();
     map->update();
   }
-}
-
-bool MapPanel::Scroll(int key, Qt::KeyboardModifiers modifiers) {
-  const std::optional<ScrollKey> scrollKey = ScrollKeyOf(key);
-  return scrollKey && ScrollView(state_, *scrollKey, ShiftMaskOf(modifiers));
-}
-
-bool MapPanel::GiveUpZoomBox() {
-  if (!quorvane::GiveUpZoomBox(state_)) return false;
-  ZoomBox->hide();
-  return true;
-}
-
-bool MapPanel::Draw(GameSession& session, const OverlaySwitches& switches,
-                    std::span<const DrawingRecord> drawing, const Progress& progress) {
-  const bool isComplete = DrawOverlays({.Session = session,
-                                        .View = state_.View,
-                                        .Switches = switches,
-                                        .Universe = Universe->Surface(),
-                                        .Universe2 = Universe2->Surface(),
-                                        .Progress = progress,
-                                        .Drawing = drawing});
-  Universe->update();
-  return isComplete;
 }
 
 void MapPanel::TakeDrawingPen() {
@@ -142,33 +101,17 @@ void MapPanel::TakeDrawingPen() {
       {.Mode = DrawMode::Copy, .Style = DrawStyle::Solid, .Width = kDrawingWidth});
 }
 
-void MapPanel::PlaceSelector(int x, int y) {
-  const std::optional<MarkerSquare> marker = MarkerAround(state_.View, x, y);
+void MapPanel::ShowZoomBox() {
+  const bool isOpen = state_.ClickMode == kEndZoomBox;
+  if (isOpen) ZoomBox->Place(state_.BoxCorner, state_.BoxSide);
+  ZoomBox->setVisible(isOpen);
+}
+
+void MapPanel::PlaceSelector() {
+  const std::optional<MarkerSquare> marker =
+      MarkerAround(state_.View, state_.SelectedX, state_.SelectedY);
   CurrentSelected->setVisible(marker.has_value());
   if (marker) CurrentSelected->Place({marker->Left, marker->Top}, marker->Side);
-}
-
-void MapPanel::Universe_MouseDown(int, int, double x, double y) {
-  if (state_.ClickMode == kOrdinaryClick) {
-    emit Clicked({x, y});
-  } else if (state_.ClickMode == kStartZoomBox) {
-    StartZoomBox(state_, {x, y});
-    ZoomBox->Place({x, y}, 1);
-    ZoomBox->show();
-    emit ZoomBoxStarted();
-  } else if (EndZoomBox(state_, ZoomBox->Side())) {
-    ZoomBox->hide();
-    emit ZoomBoxEnded();
-  }
-}
-
-void MapPanel::Universe_MouseMove(int, int, double x, double y) {
-  // The pointer's place is told even while no game gives the picture a scale.
-  if (state_.View.MapScale == 0) state_.View.MapScale = 1;
-  if (state_.ClickMode == kEndZoomBox) {
-    ZoomBox->Place(ZoomBox->TopLeft(), ZoomBoxSide(ZoomBox->TopLeft().X, x));
-  }
-  emit Hovered({x, y}, state_.ClickMode == kOrdinaryClick);
 }
 
 void MapPanel::Timer1_Timer() {

@@ -151,11 +151,11 @@ void MineralsTab::ClearCharts() {
 }
 
 void MineralsTab::ChartType_Click() {
-  const bool showsBars = ChartType->text() == kViewAsBars;
-  ChartType->setText(showsBars ? kViewAsPies : kViewAsBars);
-  for (PieChart* pie : {Pie1, Pie2}) pie->setVisible(!showsBars);
+  showsBars_ = !showsBars_;
+  ChartType->setText(showsBars_ ? kViewAsPies : kViewAsBars);
+  for (PieChart* pie : {Pie1, Pie2}) pie->setVisible(!showsBars_);
   for (const auto& bars : {ConcentrationBars, StoredBars}) {
-    for (QWidget* bar : bars) bar->setVisible(showsBars);
+    for (QWidget* bar : bars) bar->setVisible(showsBars_);
   }
   emit ChartsSwitched();
 }

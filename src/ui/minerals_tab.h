@@ -45,6 +45,7 @@ class MineralsTab : public QWidget {
   void ChartType_Click();
 
   QTabWidget& panel_;
+  bool showsBars_ = false;
   QWidget* plane_ = nullptr;  // carries the controls, which stand where the panel's twips say
 };
 

@@ -29,7 +29,7 @@ QLabel* NewHiddenNumber(const char* name, int number, QWidget* parent) {
 
 RaceColour::RaceColour(GameSession& session, int position, int slot, const QString& raceName,
                        QWidget* parent)
-    : QDialog(parent), session_(session) {
+    : QDialog(parent), session_(session), slot_(slot) {
   setObjectName("RaceColour");
   setWindowTitle("Edit Race Colour for: " + PlainTitle(raceName));
   PN = NewHiddenNumber("PN", position, this);
@@ -82,7 +82,7 @@ QSlider* RaceColour::AddSlider(QGridLayout& rows, const char* name, const QStrin
 }
 
 Colour& RaceColour::Slot() const {
-  return session_.RaceColours.at(static_cast<std::size_t>(PN2->text().toInt()) - 1);
+  return session_.RaceColours.at(static_cast<std::size_t>(slot_) - 1);
 }
 
 Colour RaceColour::Mixed() const {

@@ -39,6 +39,7 @@ class RaceColour : public QDialog {
   void butOK_Click();
 
   GameSession& session_;
+  int slot_;
 };
 
 }  // namespace quorvane

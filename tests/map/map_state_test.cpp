@@ -3,8 +3,11 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <initializer_list>
 #include <tuple>
 
+#include "map/redraw.h"
+#include "support/game_builder.h"
 #include "support/map_views.h"
 
 namespace quorvane {
@@ -21,21 +24,47 @@ TEST(MapView, DotSizeGrowsWithHalfTheZoomTiesToEven) {
   }
 }
 
-TEST(MapState, ZoomIsArmedOnceAndKeepsTheViewUntilTheButtonIsReleased) {
-  MapState state = {.View = Zoomed(300, 400, 200)};
-  EXPECT_TRUE(ArmZoom(state, true));
+OverlaySwitches On(std::initializer_list<OverlayKind> kinds) {
+  OverlaySwitches switches;
+  for (const OverlayKind kind : kinds) switches.Set(kind, true);
+  return switches;
+}
+
+TEST(SettleSwitches, ArmsAZoomOnceAndKeepsTheViewUntilTheButtonIsReleased) {
+  MapState state = {.View = FullView()};
+  Redraw redraw = SettleSwitches(On({OverlayKind::ZoomIn, OverlayKind::QvlDrawing}), state);
+  EXPECT_TRUE(!redraw.IsDue && redraw.StopsDrawing && !redraw.ReadsDrawing && !redraw.IsFullView);
   EXPECT_EQ(state.ClickMode, kStartZoomBox);
+  state.View = Zoomed(300, 400, 200);
   state.ClickMode = kEndZoomBox;
-  EXPECT_FALSE(ArmZoom(state, true)) << "the next redraw draws";
-  EXPECT_FALSE(LeaveZoom(state, true));
+  redraw = SettleSwitches(On({OverlayKind::ZoomIn, OverlayKind::QvlDrawing}), state);
+  EXPECT_TRUE(redraw.IsDue && !redraw.StopsDrawing && redraw.ReadsDrawing && !redraw.IsFullView);
   EXPECT_EQ(state.ClickMode, kEndZoomBox);
   EXPECT_EQ(EdgesOf(state.View), EdgesOf(Zoomed(300, 400, 200)));
 
-  EXPECT_FALSE(ArmZoom(state, false));
-  EXPECT_TRUE(LeaveZoom(state, false));
+  redraw = SettleSwitches({}, state);
+  EXPECT_TRUE(redraw.IsDue && redraw.StopsDrawing && redraw.IsFullView);
   EXPECT_EQ(state.ClickMode, kOrdinaryClick);
   EXPECT_EQ(state.View.MapScale, 10);
-  EXPECT_TRUE(ArmZoom(state, true)) << "again";
+  EXPECT_FALSE(SettleSwitches(On({OverlayKind::ZoomIn}), state).IsDue) << "again";
+}
+
+TEST(SettleSwitches, ClearMapTurnsAllOffButTheZoom) {
+  MapState state = {.View = Zoomed(300, 400, 200), .ZoomArmed = 1};
+  const OverlaySwitches zoom = On({OverlayKind::ZoomIn});
+  const Redraw redraw = SettleSwitches(
+      On({OverlayKind::ZoomIn, OverlayKind::ClearMap, OverlayKind::QvlDrawing}), state);
+  EXPECT_EQ(redraw.Switches, zoom);
+  EXPECT_FALSE(redraw.ReadsDrawing);
+}
+
+TEST(SelectPlanet, KeepsItsStoredPlaceOrNone) {
+  const GameSession session = GameBuilder().Planet("Alpha", {1500, 1600}).Build();
+  MapState state;
+  SelectPlanet(state, session, 1);
+  EXPECT_EQ(std::pair(state.SelectedX, state.SelectedY), std::pair(500, 400));
+  SelectPlanet(state, session, 2);
+  EXPECT_EQ(std::pair(state.SelectedX, state.SelectedY), std::pair(0, 0));
 }
 
 TEST(MapState, ZoomedMapScrollsByWholeStepsThatStayClearOfTheUniversesEdge) {
@@ -60,22 +89,25 @@ TEST(MapState, ZoomedMapScrollsByWholeStepsThatStayClearOfTheUniversesEdge) {
 }
 
 TEST(ZoomBox, ShowsTheSquareBetweenTheTwoClicks) {
-  MapState state = {.View = FullView(), .ClickMode = kStartZoomBox};
-  StartZoomBox(state, {1005, 2015});
-  EXPECT_EQ(state.ClickMode, kEndZoomBox);
-  EXPECT_FALSE(EndZoomBox(state, 1)) << "less than a light year";
-  EXPECT_EQ(state.ClickMode, kEndZoomBox);
+  MapState state = {.View = FullView()};
+  EXPECT_EQ(ClickMap(state, {1005, 2015}), MapClick::Pick);
+  state.ClickMode = kStartZoomBox;
+  MovePointer(state, {1005, 2015});
+  EXPECT_EQ(ClickMap(state, {1005, 2015}), MapClick::BoxStarted);
+  EXPECT_EQ(ClickMap(state, {1005, 2015}), MapClick::BoxUnchanged) << "less than a light year";
   EXPECT_EQ(EdgesOf(state.View), EdgesOf(FullView())) << "until the box is complete";
   EXPECT_TRUE(GiveUpZoomBox(state));
   EXPECT_FALSE(GiveUpZoomBox(state)) << "none is open";
 
-  StartZoomBox(state, {1005, 2015});
-  ASSERT_TRUE(EndZoomBox(state, ZoomBoxSide(1005, 3500)));
+  ClickMap(state, {1005, 2015});
+  MovePointer(state, {405, 2000});
+  EXPECT_EQ(state.BoxSide, 600) << "to the right, whichever way the pointer goes";
+  MovePointer(state, {3500, 9000});
+  ASSERT_EQ(ClickMap(state, {0, 0}), MapClick::BoxEnded);
   // The corner lies at 100.5 and 201.5, the side is 249.5: halves go to even.
   EXPECT_EQ(EdgesOf(state.View), (std::array{100, 350, 202, 452}));
   EXPECT_EQ(state.View.MapScale, 10000.0 / 250);
   EXPECT_EQ(state.ClickMode, kOrdinaryClick);
-  EXPECT_EQ(ZoomBoxSide(1000, 400), 600) << "to the right, whichever way the pointer goes";
 }
 
 }  // namespace

@@ -68,7 +68,7 @@ TEST_F(DrawingTest, TextIsAskedForAndRefusedWhereItsFileCouldNotHoldIt) {
       {"say \"hello\"", "8", "", 3}};
   driver.Click("Draw(3)");
   for (const auto& [text, size, ending, messages] : cases) {
-    window.Detail->Tools->ClearLayer();
+    window.Detail->Tools->Layer->Clear();
     prompts = {};
     prompts.AnswerText(text);
     prompts.AnswerText(size);

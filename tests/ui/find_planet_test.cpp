@@ -25,21 +25,22 @@ class FindPlanetTest : public testing::Test {
 
   GameSession session;
   ScriptedPrompts prompts;
-  FindPlanet dialog{session, prompts, nullptr};
+  MapState state;
+  FindPlanet dialog{session, state, prompts, nullptr};
   WindowDriver driver{dialog};
 };
 
 TEST_F(FindPlanetTest, TypedNameFindsTheFirstPlanetAndAnEntryItsOwn) {
   // The third entry reads just like this text, but it was typed.
   driver.Type("PlanetList", "Twin").Press("PlanetList", Qt::Key_Tab).Click("Command1");
-  EXPECT_EQ(session.SelectedX, 100);
+  EXPECT_EQ(state.SelectedX, 100);
   EXPECT_FALSE(dialog.isVisible());
 
   dialog.show();
   EXPECT_EQ(driver.Text("PlanetList"), "Twin");
   dialog.PlanetList->setCurrentIndex(2);
   driver.Click("Command1");
-  EXPECT_EQ(session.SelectedX, 500);
+  EXPECT_EQ(state.SelectedX, 500);
   EXPECT_EQ(prompts.Shown(), Texts());
 
   dialog.show();
@@ -52,7 +53,7 @@ TEST_F(FindPlanetTest, EnterGoesToTheTypedNameAlthoughCompletionsAreOffered) {
   QWidget& completions = *dialog.PlanetList->completer()->popup();
   ASSERT_TRUE(completions.isVisible());
   QTest::keyClick(&completions, Qt::Key_Return);
-  EXPECT_EQ(session.SelectedX, 100);
+  EXPECT_EQ(state.SelectedX, 100);
   EXPECT_FALSE(dialog.isVisible() || completions.isVisible());
 
   dialog.show();

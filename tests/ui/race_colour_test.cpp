@@ -56,13 +56,11 @@ TEST_F(RaceColourTest, FrameOfTheFocusIsSeenWholeAboveTheNextSwatch) {
   EXPECT_EQ(shown.pixel(belowRight), QColor(Qt::white).rgb());
 }
 
-TEST_F(RaceColourTest, SwatchWorksByKeyboardAndDoesNothingForAnUnknownRace) {
+TEST_F(RaceColourTest, SwatchWorksByKeyboard) {
   bool isOpen = false;
   InNextDialog([&isOpen](QWidget& dialog) { isOpen = dialog.close(); });
   driver.Press("RaceC(0)", Qt::Key_Space);
   EXPECT_TRUE(isOpen);
-  driver.Find<QLabel>("Race(0)").setText("Nobody");
-  driver.ClickAt("RaceC(0)", {5, 5});  // would wait for a dialog for ever
 }
 
 }  // namespace

@@ -11,7 +11,7 @@
 #include <tuple>
 #include <vector>
 
-#include "map/drawing_layer.h"
+#include "map/map_shapes.h"
 #include "map/overlays.h"
 #include "paint/picture_surface.h"
 

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "map/map_view.h"
-#include "model/game_choice.h"
+#include "model/game_session.h"
 
 namespace quorvane {
 
@@ -17,5 +17,17 @@ std::string LeftOutMessage(const std::vector<std::string>& owners);
 
 /// What the status line says of the pointer's place, in the game's own coordinates.
 std::string PointerText(const MapView& view, SurfacePoint pointer);
+
+/// What the status line and the map's tooltip say while the pointer is at a planet.
+struct HoverTexts {
+  std::string StatusLine;
+  std::string ToolTip;
+};
+
+/// @param planet the number of the planet under the pointer; 0: deep space
+HoverTexts DescribeHover(const GameSession& session, int planet);
+
+/// What the status line says of a redraw that the user stopped.
+inline constexpr const char* kDrawingStopped = "Drawing stopped";
 
 }  // namespace quorvane

@@ -1,8 +1,8 @@
-#include "map/draw_overlays.h"
+#include "map/overlay_stack.h"
 
 #include <optional>
 
-#include "map/drawing_layer.h"
+#include "map/map_shapes.h"
 #include "map/overlays.h"
 #include "map/stoppable_surface.h"
 
@@ -24,37 +24,38 @@ bool DrawBorders(const MapDrawing& map) {
     return true;
   }
   const bool isZoomIn = map.Switches.IsOn(Kind::ZoomIn);
-  if (map.Session.BordersCached == 1 && !isZoomIn) {
+  if (map.State.BordersCached == 1 && !isZoomIn) {
     map.Universe.SetBackground(map.Universe2.Image());
     return true;
   }
-  if (!DrawInfluenceBorders(map.Session, map.View, map.Universe, map.Progress)) return false;
+  if (!DrawInfluenceBorders(map.Session, map.State.View, map.Universe, map.Progress)) return false;
   if (isZoomIn) return true;  // only the whole universe is worth keeping
   map.Universe2.SetBackground(map.Universe.Image());
-  map.Session.BordersCached = 1;
+  map.State.BordersCached = 1;
   return true;
 }
 
 // An overlay that depends on nothing but the game and the view.
 template <auto DrawOverlay>
 void Draw(const MapDrawing& map, DrawingSurface& surface) {
-  DrawOverlay(map.Session, map.View, surface);
+  DrawOverlay(map.Session, map.State.View, surface);
 }
 
 void DrawNames(const MapDrawing& map, DrawingSurface& surface) {
-  DrawPlanetNames(map.Session, map.View, surface, map.Switches.IsOn(Kind::NamesColoured));
+  DrawPlanetNames(map.Session, map.State.View, surface, map.Switches.IsOn(Kind::NamesColoured));
 }
 
 void DrawEstimatedHab(const MapDrawing& map, DrawingSurface& surface) {
-  DrawEstimatedHabValues(map.Session, map.View, surface, map.Switches.RaceName);
+  DrawEstimatedHabValues(map.Session, map.State.View, surface, map.Switches.RaceName);
 }
 
 void DrawStargateLinks(const MapDrawing& map, DrawingSurface& surface) {
-  DrawStargates(map.Session, map.View, surface, map.Switches.IsOn(Kind::CompleteStargateNetwork));
+  DrawStargates(map.Session, map.State.View, surface,
+                map.Switches.IsOn(Kind::CompleteStargateNetwork));
 }
 
 void DrawUserDrawing(const MapDrawing& map, DrawingSurface& surface) {
-  DrawDrawingLayer(map.Drawing, map.View, surface);
+  DrawDrawingLayer(map.Drawing, map.State.View, surface);
 }
 
 // One overlay above the borders: what switches it on and what draws it.
@@ -92,7 +93,7 @@ constexpr Layer kLayers[] = {
 
 }  // namespace
 
-bool DrawOverlays(const MapDrawing& map) {
+bool DrawOverlayStack(const MapDrawing& map) {
   Blank(map.Universe);
   if (!DrawBorders(map)) return false;
   StoppableSurface surface(map.Universe, map.Progress);

@@ -1,4 +1,4 @@
-#include "map/draw_overlays.h"
+#include "map/overlay_stack.h"
 
 #include <gtest/gtest.h>
 
@@ -36,9 +36,9 @@ TEST(OverlaySwitches, ClearMapLeavesTheZoomAndANewGameTerritoryEdgesAndEmpireExp
   EXPECT_EQ(begun, On({})) << "nothing is switched on";
 }
 
-class DrawOverlaysTest : public testing::Test {
+class DrawOverlayStackTest : public testing::Test {
  protected:
-  DrawOverlaysTest() {
+  DrawOverlayStackTest() {
     session.GridCellSize = 100;
     session.CreateInfluenceGrid(2);
     session.InfluenceGrid.At(2, 2) = {1, 100};
@@ -51,19 +51,19 @@ class DrawOverlaysTest : public testing::Test {
     map.Forget();
     const Progress progress = {.ShowValue = [this](int, int) { hasProgress = true; },
                                .AskStopped = [this] { return --questionsLeft < 0; }};
-    isComplete = DrawOverlays({session, view, switches, map, twin, progress});
+    isComplete = DrawOverlayStack({session, state, switches, map, twin, progress});
     return map.Lines();
   }
 
   GameSession session = GameBuilder().Planet("Alpha", {1500, 1500}).OwnedBy("Humanoid").Build();
-  MapView view = FullView();
+  MapState state = {.View = FullView()};
   RecordingSurface map, twin;
   bool hasProgress = false;
   bool isComplete = false;
   int questionsLeft = 1000;
 };
 
-TEST_F(DrawOverlaysTest, DrawsFromTheBordersUpToTheTerritoryEdgesWhateverWasSwitchedOnFirst) {
+TEST_F(DrawOverlayStackTest, DrawsFromTheBordersUpToTheTerritoryEdgesWhateverWasSwitchedOnFirst) {
   const Texts lines = Redraw({Kind::TerritoryEdges, Kind::NamesWhite, Kind::InfluenceBorders});
   EXPECT_EQ(lines, (Texts{"background none", "clear", "point 2000,2000 #ff0000 copy w2",
                           "text 4750,5050 \"Alpha\" #ffffff 6pt",  //
@@ -71,29 +71,29 @@ TEST_F(DrawOverlaysTest, DrawsFromTheBordersUpToTheTerritoryEdgesWhateverWasSwit
   EXPECT_TRUE(hasProgress && isComplete);
 }
 
-TEST_F(DrawOverlaysTest, FullViewOfTheBordersIsKeptWithoutTheOverlaysAboveAndUsedAgain) {
+TEST_F(DrawOverlayStackTest, FullViewOfTheBordersIsKeptWithoutTheOverlaysAboveAndUsedAgain) {
   Redraw({Kind::InfluenceBorders, Kind::Planets});
   EXPECT_EQ(twin.Lines(), Texts{"background of 1 lines"});
   EXPECT_EQ(Redraw({Kind::InfluenceBorders}).at(2), "background of 1 lines");
   EXPECT_EQ(Redraw({}), (Texts{"background none", "clear", "background none", "clear"}));
 }
 
-TEST_F(DrawOverlaysTest, BordersArePaintedAndNotKeptWhileZoomIsPressed) {
+TEST_F(DrawOverlayStackTest, BordersArePaintedAndNotKeptWhileZoomIsPressed) {
   // There is no zoom box yet, so the view is the full one.
   Redraw({Kind::InfluenceBorders, Kind::ZoomIn});
   EXPECT_EQ(twin.Lines(), Texts());
-  EXPECT_EQ(session.BordersCached, 0);
+  EXPECT_EQ(state.BordersCached, 0);
 
   Redraw({Kind::InfluenceBorders});
   twin.Forget();
-  view = Zoomed(100, 100, 200);
+  state.View = Zoomed(100, 100, 200);
   EXPECT_EQ(Redraw({Kind::InfluenceBorders, Kind::ZoomIn}).at(2),
             "point 5000,5000 #ff0000 copy w9");
   EXPECT_EQ(twin.Lines(), Texts());
-  EXPECT_EQ(session.BordersCached, 1) << "the picture of the full view";
+  EXPECT_EQ(state.BordersCached, 1) << "the picture of the full view";
 }
 
-TEST_F(DrawOverlaysTest, StacksAllOverlaysInOneOrder) {
+TEST_F(DrawOverlayStackTest, StacksAllOverlaysInOneOrder) {
   PlanetRecord& planet = session.Planet(1);
   planet[PlanetField::AgeText] = "Current";
   planet[PlanetField::HabValue] = "50";
@@ -117,7 +117,7 @@ TEST_F(DrawOverlaysTest, StacksAllOverlaysInOneOrder) {
             "r60 #00ff00; r30 #503c3c; r100 #ffe600; ");
 }
 
-TEST_F(DrawOverlaysTest, SingleMineralsTakeTheModeOfTheRedrawBefore) {
+TEST_F(DrawOverlayStackTest, SingleMineralsTakeTheModeOfTheRedrawBefore) {
   session.Planet(1)[PlanetField::IronMC] = 40;
   EXPECT_EQ(Redraw({Kind::IroniumConcentration}).back(),
             "circle 5000,5000 r40 #0000ff fill #0000ff copy no-outline w1");
@@ -126,11 +126,11 @@ TEST_F(DrawOverlaysTest, SingleMineralsTakeTheModeOfTheRedrawBefore) {
             "circle 5000,5000 r40 #0000ff fill #0000ff merge no-outline w1");
 }
 
-TEST_F(DrawOverlaysTest, StoppedRedrawKeepsWhatIsDrawnAndNoHalfPictureOfTheBorders) {
+TEST_F(DrawOverlayStackTest, StoppedRedrawKeepsWhatIsDrawnAndNoHalfPictureOfTheBorders) {
   questionsLeft = 0;
   EXPECT_EQ(Redraw({Kind::InfluenceBorders, Kind::Planets}), (Texts{"background none", "clear"}));
   EXPECT_FALSE(isComplete);
-  EXPECT_EQ(session.BordersCached, 0);
+  EXPECT_EQ(state.BordersCached, 0);
 
   session.PlanetTable.resize(101, session.Planet(1));
   session.PlanetCount = 100;
@@ -139,9 +139,9 @@ TEST_F(DrawOverlaysTest, StoppedRedrawKeepsWhatIsDrawnAndNoHalfPictureOfTheBorde
   EXPECT_FALSE(isComplete);
 }
 
-TEST_F(DrawOverlaysTest, EveryOverlayBearsAnEmptySession) {
+TEST_F(DrawOverlayStackTest, EveryOverlayBearsAnEmptySession) {
   session = GameSession();
-  view = MapView();
+  state = MapState();
   EXPECT_EQ(Redraw(AllKinds()), (Texts{"background none", "clear"}));
 }
 

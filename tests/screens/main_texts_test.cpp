@@ -1,4 +1,4 @@
-#include "screens/captions.h"
+#include "screens/main_texts.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "screens/captions.h"
+#include "screens/main_texts.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -31,6 +31,12 @@ std::string LeftOutMessage(const std::vector<std::string>& owners) {
 std::string PointerText(const MapView& view, SurfacePoint pointer) {
   const GamePoint at = view.ToGame(pointer);
   return " X:" + NumberText(at.X) + " Y:" + NumberText(at.Y);
+}
+
+HoverTexts DescribeHover(const GameSession& session, int planet) {
+  if (planet == 0) return {.StatusLine = " Deep Space", .ToolTip = ""};
+  const std::string& name = session.Planet(planet).Name();
+  return {.StatusLine = " " + name, .ToolTip = "Click for more details on " + name};
 }
 
 }  // namespace quorvane

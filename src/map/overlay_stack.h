@@ -3,7 +3,7 @@
 #include <span>
 
 #include "map/drawing_surface.h"
-#include "map/map_view.h"
+#include "map/map_state.h"
 #include "map/overlay_kind.h"
 #include "model/drawing_record.h"
 #include "model/game_session.h"
@@ -13,9 +13,9 @@ namespace quorvane {
 
 /// Everything that one redraw of the map reads and draws on.
 struct MapDrawing {
+  const GameSession& Session;
   /// Only `BordersCached` is written.
-  GameSession& Session;
-  const MapView& View;
+  MapState& State;
   const OverlaySwitches& Switches;
   /// The map.
   DrawingSurface& Universe;
@@ -31,6 +31,6 @@ struct MapDrawing {
 /// order. The influence borders come first; their picture at full view is kept on the twin and used
 /// again while `BordersCached` is 1.
 /// @return false when the user stopped it; what is drawn by then stays
-bool DrawOverlays(const MapDrawing& map);
+bool DrawOverlayStack(const MapDrawing& map);
 
 }  // namespace quorvane

@@ -1,4 +1,4 @@
-#include "map/drawing_layer.h"
+#include "map/map_shapes.h"
 
 #include <algorithm>
 #include <cmath>
