@@ -7,6 +7,7 @@ namespace quorvane {
 namespace {
 
 int ScrollStep(double mapScale, int shiftMask) {
+  // Rounded once, behind the mask: 2.5 with Ctrl is a step of 5, not two of 2.
   const int step = ToWhole16((mapScale / 4) * shiftMask);
   return step == 0 ? 1 : step;
 }

@@ -18,6 +18,7 @@ bool IsNear(double place, double pointer, double reach) {
 }  // namespace
 
 int PlanetAt(const GameSession& session, const MapView& view, SurfacePoint pointer) {
+  // Rounded after multiplying: 42 units where a light year is 8.33 of them.
   const double reach = RoundHalfEven(view.MapScale * kPickLightYears);
   for (int number = session.PlanetCount; number > 0; --number) {
     const SurfacePoint place = PositionOf(session.Planet(number), view);

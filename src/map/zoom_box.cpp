@@ -16,6 +16,8 @@ double ZoomBoxSide(double left, double x) { return std::fabs(x - left); }
 
 bool EndZoomBox(MapState& state, double side) {
   MapView& view = state.View;
+  // The corner is part of what is rounded: half a light year goes to the even edge, so that it
+  // depends on the corner whether it counts.
   const int xMax = ToWhole16(side / view.MapScale + state.BoxXMin);
   const int yMax = ToWhole16(side / view.MapScale + state.BoxYMin);
   if (xMax <= state.BoxXMin) return false;

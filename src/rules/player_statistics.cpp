@@ -81,6 +81,7 @@ void ConvertTerritories(GameSession& session) {
   const double side = session.UniverseExtent - kUniverseOrigin;
   for (int number = 1; number <= session.PlayerCount; ++number) {
     FieldValue& territory = session.Player(number)[PlayerField::Territory];
+    // Divided first: 507 points of a universe of 1200 light years count as 1727, not as 1728.
     territory = FloorToWhole32(territory.Number() / (grid * grid) * (side * side));
   }
 }
@@ -90,6 +91,7 @@ int PlanetScore(const PlanetRecord& planet) {
   const double resources = planet[PlanetField::Resources].Number();
   const double people = std::min(RoundHalfEven(population / 100000), 6.0);
   const double starbase = planet.Starbase() != kNoStarbase ? 3 : 0;
+  // Rounded before the sum: 10,000 people and 13 resources score 0, not 0.53 rounded to 1.
   const double economy = RoundHalfEven(resources > 0 ? resources / 30 : population / 500 / 30);
   return ToWhole32(people + starbase + economy);
 }
