@@ -48,6 +48,7 @@ Shades ShadesOf(const GameSession& session, int player) {
   if (full == nullptr) return {};
   Shades shades;
   for (int strength = 0; strength <= kFullStrength; ++strength) {
+    // Divided first, unlike `TimesHundredths`: 7 % of 150 is a hair above 10.5, and a shade of 11.
     const auto dimmed = [&](int component) { return ToWhole16(strength / 100.0 * component); };
     shades.push_back({dimmed(full->Red), dimmed(full->Green), dimmed(full->Blue)});
   }

@@ -9,6 +9,7 @@ namespace quorvane {
 namespace {
 
 int ScrollStep(double mapScale, int shiftMask) {
+  // Rounded once, behind the mask: 2.5 with Ctrl is a step of 5, not two of 2.
   const int step = ToWhole16((mapScale / 4) * shiftMask);
   return step == 0 ? 1 : step;
 }
@@ -26,6 +27,8 @@ bool ShowZoomBox(MapState& state) {
   MapView& view = state.View;
   const int xMin = ToWhole16(state.BoxCorner.X / view.MapScale);
   const int yMin = ToWhole16(state.BoxCorner.Y / view.MapScale);
+  // The corner is part of what is rounded: half a light year goes to the even edge, so that it
+  // depends on the corner whether it counts.
   const int xMax = ToWhole16(state.BoxSide / view.MapScale + xMin);
   const int yMax = ToWhole16(state.BoxSide / view.MapScale + yMin);
   if (xMax <= xMin) return false;

@@ -25,6 +25,8 @@ void MapView::ShowWindow(int xMin, int yMin, int width) {
 }
 
 GamePoint MapView::ToGame(SurfacePoint point) const {
+  // Divided by the scale itself, and rounded down before Y is turned round: both decide which light
+  // year a pixel on the line between two belongs to.
   return {std::floor(point.X / MapScale) + ViewXMin + kUniverseOrigin,
           (UniverseExtent - ViewYMin) - std::floor(point.Y / MapScale)};
 }
@@ -36,7 +38,7 @@ int MapView::ZoomFactor() const {
 
 int MapView::DotSize() const {
   if (ViewXMax - ViewXMin >= UniverseExtent) return 1;
-  const int size = ToWhole16(ZoomFactor() / 2.0);
+  const int size = ToWhole16(ZoomFactor() / 2.0);  // halves to even: 2 at zoom 3, 4 and 5
   return size == 0 ? 1 : size;
 }
 

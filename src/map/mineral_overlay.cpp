@@ -55,6 +55,7 @@ void DrawSettlingValue(DrawingSurface& surface, SurfacePoint at, double value) {
   } else if (value > 0) {
     DrawDisc(surface, at, 100, RoundedColour(kFull, TimesHundredths(value, 510) + 128, 0));
   } else {
+    // 5.66 and no 45th of 255: a value of -28 is a blue of 158, not of 159.
     DrawDisc(surface, at, 50, RoundedColour(kFull, 0, TimesHundredths(std::fabs(value), 566)));
   }
 }

@@ -27,6 +27,7 @@ std::vector<PlanetInView> PlanetsInView(const GameSession& session, const MapVie
 }
 
 int PlanetAt(const GameSession& session, const MapView& view, SurfacePoint pointer) {
+  // Rounded after multiplying: 42 units where a light year is 8.33 of them.
   const double reach = RoundHalfEven(view.MapScale * kPickLightYears);
   for (int number = session.PlanetCount; number > 0; --number) {
     const SurfacePoint place = PositionOf(session.Planet(number), view);

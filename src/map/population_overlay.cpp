@@ -13,7 +13,9 @@ constexpr Pen kPopulationPen = {
     .Mode = DrawMode::Copy, .Style = DrawStyle::Solid, .Filled = true, .Width = 1};
 constexpr double kRadius = 50;
 constexpr double kFullRed = 255;
-constexpr double kPeoplePerShade = 4878.0488;  // of red
+// A million people over 205 shades of red, cut to four places: 200,000 people are 40 shades, where
+// the whole quotient would make 41 of them.
+constexpr double kPeoplePerShade = 4878.0488;
 constexpr double kStarbaseShades = 50;
 // What lives on a planet of 100 % when it is full.
 constexpr double kLargestPopulation = 1'000'000;
@@ -41,6 +43,7 @@ double PercentFull(const PlanetRecord& planet) {
       planet.Starbase() != kNoStarbase && hab > 0) {
     fullness = planet.Population() / kOrbitalPopulation;
   }
+  // In these steps 290,000 of a million come out a hair below 29 %, and count as 28.
   return std::floor(fullness * 100);
 }
 
@@ -48,6 +51,7 @@ Colour GrowthColour(const PlanetRecord& planet) {
   const double percent = PercentFull(planet);
   if (percent < 0) {
     const double hab = std::fabs(planet[PlanetField::HabValue].Number());
+    // Rounded after the difference: -10 % is a red of 198, not of 199.
     return RoundedColour(kFullRed - TimesHundredths(hab, 565), 0, kFullRed);
   }
   return GreenToRed(RoundHalfEven(percent / 100 * kFullRed));

@@ -26,6 +26,7 @@ std::optional<MarkerSquare> MarkerAround(const MapView& view, int x, int y) {
   const double centreY = RoundHalfEven(at.Y);
   if (!FitsInto16Bits(centreX) || !FitsInto16Bits(centreY)) return std::nullopt;
   const double side = kMarkerLightYears * view.MapScale;
+  // Half of the rounded side, without its fraction: a side of 375 begins 187 before the centre.
   const double half = std::trunc(RoundHalfEven(side) / 2);
   return MarkerSquare{centreX - half, centreY - half, side};
 }

@@ -87,6 +87,7 @@ std::array<Stroke, kStrokes> ArrowheadsOf(StoredPoint from, StoredPoint to, cons
 // Yellow just beyond the range, red at five times the range.
 Colour DangerColour(std::int32_t range, std::int32_t distance) {
   const double excess = static_cast<double>(distance) - range;
+  // Rounded down after the subtraction: 51 light years by a gate of 50 are 253, not 254.
   const double green = std::floor(kFullComponent - excess / (4.0 * range) * kFullComponent);
   return {255, static_cast<int>(green), 0};
 }

@@ -29,6 +29,7 @@ double Quotient(double distance, double width) {
 }
 
 Fit FitInto(double reading, double minimum, double maximum) {
+  // Rounded down, below zero as well: -3 to 0 has its centre at -2.
   const double centre = std::floor((minimum + maximum) / 2);
   Fit fit;
   if (reading <= centre) {
@@ -77,6 +78,8 @@ double StepsOutside(const std::array<Fit, 3>& fits) {
   return std::min(sum, kMostSteps);
 }
 
+// Rounded at every step, and the kinds in this order; once at the end, or in another order, would
+// give other percentages.
 std::int32_t ValueInside(const std::array<double, 3>& closeness) {
   const auto [g, t, r] = closeness;
   double value = ToWhole32(100 * std::sqrt(g * g + t * t + r * r) / std::sqrt(3.0));
@@ -92,6 +95,7 @@ std::int16_t GravityToScale(double gravity) {
   if (!(gravity > 0)) return std::numeric_limits<std::int16_t>::min();
   if (gravity < 0.5) return ToWhole16(100 - (1 / gravity + 16) / 0.24);
   if (gravity < 1) return ToWhole16(100 - (1 / gravity + 1) / 0.04);
+  // Divided by 0.04, not multiplied by 25: 1.38 g lies at 59 this way, at 60 the other.
   if (gravity < 2) return ToWhole16((gravity + 1) / 0.04);
   return ToWhole16((gravity + 16) / 0.24);
 }

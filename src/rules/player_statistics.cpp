@@ -81,6 +81,7 @@ void ConvertTerritories(GameSession& session) {
   const double side = session.UniverseExtent - kUniverseOrigin;
   for (int number = 1; number <= session.PlayerCount; ++number) {
     FieldValue& territory = session.Player(number)[PlayerField::Territory];
+    // Divided first: 507 points of a universe of 1200 light years count as 1727, not as 1728.
     territory = FloorToWhole32(territory.Number() / (grid * grid) * (side * side));
   }
 }

@@ -52,6 +52,7 @@ HabRanges Scan(const GameSession& session, int player) {
 void Widen(HabRanges& ranges) {
   Range& gravity = ranges.Gravity;
   if (gravity.Min == gravity.Max) gravity.Max = gravity.Min * 1.75;
+  // As a quotient: 0.27 g to 0.36 g counts as narrow, which 0.27 > 0.75 * 0.36 would miss.
   if (gravity.Min / gravity.Max > 0.75) gravity.Max = gravity.Max + 0.5;
   gravity.Max = std::min(gravity.Max, kHighestGravity);
   Range& temperature = ranges.Temperature;

@@ -10,6 +10,8 @@ namespace quorvane {
 namespace {
 
 constexpr double kFullCoverage = 97.92;  // percent, the best defence that the game knows
+// Without defences the factor falls by 97.92 / 489.6, a hair less than 0.2. Written with 0.2, a
+// small colony without a starbase would have a sphere of 4 light years, not 5.
 constexpr double kCoverageWeight = 489.6;
 
 struct StandInPopulation {
@@ -31,6 +33,7 @@ double CoverageOf(std::string_view defence) {
 
 int SphereRadius(const SphereInputs& inputs) {
   if (!(inputs.Population > 0)) return 0;
+  // Multiplied first: 100 times 57 / 100 is 57, 100 times 0.57 a little less.
   const double radius =
       std::max(std::floor(inputs.Population / 10000) * inputs.SoiSetting / 100, 10.0);
   double factor = inputs.Starbase == kNoStarbase ? 0.7 : 1.0;
