@@ -8,7 +8,7 @@
 namespace quorvane {
 namespace {
 
-// A picture or label that is pressed like a button, on the keyboard with the space bar.
+// A picture that is pressed like a button, on the keyboard with the space bar.
 class PressedControl : public QAccessibleWidget {
  public:
   explicit PressedControl(QWidget* control) : QAccessibleWidget(control, QAccessible::Button) {}
@@ -28,9 +28,7 @@ class PressedControl : public QAccessibleWidget {
 QAccessibleInterface* RoleOf(const QString& className, QObject* object) {
   auto* control = qobject_cast<QWidget*>(object);
   if (control == nullptr) return nullptr;
-  if (className == "quorvane::RaceSwatch" || className == "quorvane::RangeLabel") {
-    return new PressedControl(control);
-  }
+  if (className == "quorvane::RaceSwatch") return new PressedControl(control);
   if (className == "quorvane::PictureBox" || className == "quorvane::PieChart") {
     return new QAccessibleWidget(control, QAccessible::Graphic);
   }

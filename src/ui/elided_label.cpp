@@ -7,13 +7,6 @@
 #include "ui/controls.h"
 
 namespace quorvane {
-namespace {
-
-// Pixels; the numbers of an ordinary game need less.
-constexpr int kWidestHint = 120;
-constexpr int kLeastWidth = 40;
-
-}  // namespace
 
 ElidedLabel::ElidedLabel(const QString& name, QWidget* parent) : QLabel(parent) {
   setObjectName(name);
@@ -32,12 +25,12 @@ void ElidedLabel::SetTip(const QString& tip) {
 
 QSize ElidedLabel::sizeHint() const {
   const QSize whole = QLabel::sizeHint();
-  return {std::min(whole.width(), kWidestHint), whole.height()};
+  return {std::min(whole.width(), kWidestValueHint), whole.height()};
 }
 
 QSize ElidedLabel::minimumSizeHint() const {
   const QSize whole = QLabel::minimumSizeHint();
-  return {std::min(whole.width(), kLeastWidth), whole.height()};
+  return {std::min(whole.width(), kLeastValueWidth), whole.height()};
 }
 
 void ElidedLabel::resizeEvent(QResizeEvent* event) {

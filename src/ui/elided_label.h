@@ -5,6 +5,11 @@
 
 namespace quorvane {
 
+/// How wide a value wants to be, and must be, at most, in pixels; the numbers of an ordinary game
+/// need less.
+inline constexpr int kWidestValueHint = 120;
+inline constexpr int kLeastValueWidth = 40;
+
 /// A value that may be longer than its place. It is drawn shortened then, and its tooltip tells it
 /// whole; its text stays whole, and the window does not grow with it.
 class ElidedLabel : public QLabel {

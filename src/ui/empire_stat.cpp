@@ -95,7 +95,7 @@ void EmpireStat::LayOut() {
 void EmpireStat::ConnectControls() {
   for (std::size_t i = 0; i < Race->ShowData.size(); ++i) {
     if (Race->ShowData[i] == nullptr) continue;
-    connect(Race->ShowData[i], &RangeLabel::Clicked, this, [this, i] { ShowData_Click(i); });
+    connect(Race->ShowData[i], &RangeButton::clicked, this, [this, i] { ShowData_Click(i); });
   }
   for (std::size_t i = 0; i < Race->ImmuneMark.size(); ++i) {
     connect(Race->ImmuneMark[i], &QCheckBox::toggled, this, [this, i] { ImmuneMark_Click(i); });

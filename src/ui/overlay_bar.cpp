@@ -1,5 +1,6 @@
 #include "ui/overlay_bar.h"
 
+#include <QActionGroup>
 #include <QMenu>
 
 #include "screens/main_layout.h"
@@ -101,9 +102,12 @@ void OverlayBar::AddItems(QMenu& menu) {
     AddItem(others, static_cast<OverlayKind>(other));
   }
   EnableNewReportItems(false);
-  for (const int names : {0, 1}) {
-    connect(&Item(kNames.at(static_cast<std::size_t>(names))), &QAction::triggered, this,
-            [this, names] { mnuNames_Click(names); });
+  // At most one kind of names is shown.
+  auto* names = new QActionGroup(this);
+  names->setExclusionPolicy(QActionGroup::ExclusionPolicy::ExclusiveOptional);
+  for (const OverlayKind kind : kNames) {
+    names->addAction(&Item(kind));
+    connect(&Item(kind), &QAction::triggered, this, &OverlayBar::mnuNames_Click);
   }
   for (std::size_t other = kOverlayButtonCount + kNames.size(); other < kOverlayCount; ++other) {
     connect(items_[other], &QAction::triggered, this, &OverlayBar::mnuOther_Click);
@@ -128,12 +132,6 @@ void OverlayBar::OvButt_Click(int index) {
 void OverlayBar::mnuToolBarBut_Click(int index) {
   const auto button = static_cast<std::size_t>(index);
   OvButt[button]->setChecked(!OvButt[button]->isChecked());
-}
-
-// At most one kind of names is shown. The clicked item has turned its own check mark over already.
-void OverlayBar::mnuNames_Click(int index) {
-  Item(kNames.at(static_cast<std::size_t>(1 - index))).setChecked(false);
-  emit Switched(false);
 }
 
 }  // namespace quorvane

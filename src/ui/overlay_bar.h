@@ -45,7 +45,7 @@ class OverlayBar : public QObject {
   void mnuToolBarBut_Click(int index);
   void mnuToolBarButClear_Click() { mnuToolBarBut_Click(0); }
   void mnuToolBarButZoom_Click() { mnuToolBarBut_Click(1); }
-  void mnuNames_Click(int index);
+  void mnuNames_Click() { emit Switched(false); }
   void mnuOther_Click() { emit Switched(false); }
 
   std::array<QAction*, kOverlayCount> items_ = {};

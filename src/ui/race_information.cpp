@@ -94,7 +94,7 @@ QGridLayout* RaceInformation::NewRangeGrid() {
     column = 1;
     for (const char* meaning : {texts.Low, texts.High}) {
       const QString name = IndexedName("ShowData", static_cast<int>(field));
-      ShowData[field] = new RangeLabel(name, meaning, fields_);
+      ShowData[field] = new RangeButton(name, meaning, fields_);
       grid->addWidget(ShowData[field++], line, column++);
     }
     ImmuneMark[kind] = new QCheckBox(fields_);

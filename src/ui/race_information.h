@@ -7,7 +7,7 @@
 #include <array>
 
 #include "model/player_record.h"
-#include "ui/range_label.h"
+#include "ui/range_button.h"
 
 class QGridLayout;
 
@@ -28,7 +28,7 @@ class RaceInformation : public QWidget {
   void EnableEditing(bool isEnabled) { fields_->setEnabled(isEnabled); }
 
   /// `ShowData(8)` … `ShowData(13)`, each by the number of the field that it shows.
-  std::array<RangeLabel*, 14> ShowData = {};
+  std::array<RangeButton*, 14> ShowData = {};
   std::array<QCheckBox*, 3> ImmuneMark = {};
   QComboBox* RacePRT = nullptr;
   std::array<QCheckBox*, kLesserTraitCount> LRT = {};

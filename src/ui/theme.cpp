@@ -54,12 +54,12 @@ QCheckBox::indicator:checked, QListView::indicator:checked {
 QRadioButton::indicator:focus, QCheckBox::indicator:focus { border-color: #ffffff; }
 QRadioButton::indicator:disabled, QCheckBox::indicator:disabled { border-color: #4a5366; }
 QLabel[value="true"] { color: #ffffff; }
-QLabel[range="true"] {
+QPushButton[range="true"] {
   color: #ffffff; background: #1f232b; border: 1px solid #505b6f; border-radius: 3px;
-  padding: 2px 6px; }
-QLabel[range="true"]:hover { border-color: #8fb8e8; }
-QLabel[range="true"]:focus { border-color: #ffffff; }
-QLabel[range="true"]:disabled { color: #7a8495; border-color: #3a4250; }
+  padding: 2px 6px 2px 9px; text-align: left; }
+QPushButton[range="true"]:hover { border-color: #8fb8e8; }
+QPushButton[range="true"]:focus { border-color: #ffffff; }
+QPushButton[range="true"]:disabled { color: #7a8495; border-color: #3a4250; }
 QLabel[title="true"] { color: #ffffff; font-size: 15pt; }
 QLabel[heading="true"] { color: #9fb4d0; }
 QProgressBar {

@@ -169,7 +169,7 @@ TEST_F(AllWindowsTest, ShowNamesAsTheyStandAndNameTheirControls) {
   InNextDialog<EmpireStat>([this](EmpireStat& statistics) {
     statistics.SSTab1->setCurrentIndex(1);
     CheckNext();
-    PressForScreenReader(*statistics.Race->ShowData[8]);
+    statistics.Race->ShowData[8]->click();
     statistics.close();
   });
   driver.Choose("mnuGrid2");
