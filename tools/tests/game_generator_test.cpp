@@ -3,8 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <iomanip>
-#include <map>
 #include <set>
 #include <sstream>
 #include <string>
@@ -13,14 +11,10 @@
 
 #include "files/files.h"
 #include "formats/dialog_files.h"
-#include "formats/empire_data_file.h"
 #include "generator/report_writer.h"
 #include "loading/load_game.h"
 #include "loading/report_finder.h"
-#include "make_game_options.h"
 #include "model/text.h"
-#include "rules/estimated_hab.h"
-#include "support/game_builder.h"
 #include "support/temp_folder.h"
 
 namespace quorvane::generator {
@@ -42,8 +36,6 @@ std::vector<Fields> LinesOf(const GeneratedGame& game, const std::string& extens
   lines.erase(lines.begin());
   return lines;
 }
-
-bool IsOwn(const Fields& line) { return line.size() == 36; }
 
 TEST(GenerateGame, TellsTheSameStoryHoweverManyReportsAreWritten) {
   const GeneratedGame few = GenerateGame({.ReportCount = 2});
@@ -67,32 +59,6 @@ TEST(GenerateGame, MapIsNumberedSortedAndWithinItsUniverse) {
     EXPECT_EQ(names.size(), count);
     EXPECT_TRUE(names.contains("007")) << "a name that looks like a number";
   }
-}
-
-TEST(GenerateGame, ReportsFollowFromTheirRacesRangesAndDisagreeAboutOwners) {
-  const GeneratedGame game = GenerateGame({.ReportCount = 8, .HasCompanions = true});
-  std::map<std::string, std::set<std::string>> owners;
-  for (int slot = 1; slot <= 8; ++slot) {
-    const std::vector<Fields> lines = LinesOf(game, ".p" + std::to_string(slot));
-    const std::string author = DecodeText(std::ranges::find_if(lines, IsOwn)->at(1));
-    GameSession session = GameBuilder().Planet("", {}).OwnedBy(author).Build();
-    ApplyEmpireData(*game.Content(".QVD"), session);
-    for (const Fields& line : lines) {
-      owners[line[0]].insert(line[1]);
-      EXPECT_LE(NumericValue(line[9]), 98) << "no planet's defences are perfect";
-      EXPECT_EQ(line[9].find('.') != line[9].npos, IsOwn(line)) << line[9];
-      EXPECT_TRUE(line[13] != "-1" || line[1].empty()) << "mined remotely, yet inhabited";
-      if (line[20].empty()) continue;  // only sighted
-      session.Planet(1)[PlanetField::Gravity] = line[20];
-      session.Planet(1)[PlanetField::Temperature] = line[21];
-      session.Planet(1)[PlanetField::Radiation] = line[22];
-      const double value = NumericValue(line[5]);
-      EXPECT_NEAR(EstimatedHab(session, 1, 1), value, 6) << author << " on " << line[0];
-      EXPECT_GE(NumericValue(line[26]), value) << "terraforming makes nothing worse";
-    }
-  }
-  const auto isDisputed = [](const auto& planet) { return planet.second.size() > 1; };
-  EXPECT_GE(std::ranges::count_if(owners, isDisputed), 5);
 }
 
 TEST(WriteGame, WritesAGameThatLoadsWithAllItsEmpiresAndCompanions) {
@@ -140,49 +106,6 @@ TEST(CheckShape, RefusesWhatNoGameCanBe) {
   for (const auto& [what, shape, isPossible] : cases) {
     EXPECT_EQ(static_cast<bool>(CheckShape(shape)), isPossible) << what;
   }
-}
-
-TEST(ParseMakeGameOptions, SaysWhatIsWrong) {
-  const std::pair<Fields, const char*> cases[] = {
-      {{"--planet", "5"}, "There is no option --planet."},
-      {{"--seed"}, "--seed needs a value."},
-      {{"--planets", "12x"}, "--planets needs a whole number, not \"12x\"."},
-      {{"--style", "old", "--reports", "2"},
-       "An old-style game has one report: --reports does not go with it."},
-      {{"--map", "a.map", "--size", "400"},
-       "The map says how large the universe is: --size and --planets do not go with it."}};
-  for (const auto& [arguments, message] : cases) {
-    EXPECT_EQ(ParseMakeGameOptions(arguments).Message(), message);
-  }
-}
-
-TEST(ParseMakeGameOptions, ReportsGoBesideTheirMapUnlessToldOtherwise) {
-  const auto options = ParseMakeGameOptions({"--map", "games/Demo.MAP", "--players", "3"});
-  EXPECT_EQ(options->Folder / options->BaseName, "games/Demo");
-  EXPECT_EQ(options->Shape.ReportCount, 3);
-  EXPECT_EQ(ParseMakeGameOptions({"--map", "a.map", "--out", "x"})->Folder, "x");
-}
-
-TEST(Examples, AreWhatTheCommandsInTheirReadmeMake) {
-  const std::filesystem::path folder = PathFromText(QUORVANE_EXAMPLES_DIR);
-  const Result<std::string> readme = ReadTextFile(folder / "README.md");
-  ASSERT_TRUE(readme) << readme.Message();
-  std::istringstream text(*readme);
-  int games = 0;
-  for (std::string line, word; std::getline(text, line);) {
-    std::istringstream command(line);
-    if (!(command >> word) || word != "quorvane-make-game") continue;
-    Fields arguments;
-    while (command >> std::quoted(word)) arguments.push_back(word);
-    const auto options = ParseMakeGameOptions(arguments);
-    ASSERT_TRUE(options) << options.Message();
-    for (const GeneratedFile& file : GenerateGame(options->Shape).Files) {
-      const auto kept = ReadTextFile(folder / PathFromText(options->BaseName + file.Extension));
-      EXPECT_EQ(kept ? *kept : kept.Message(), DecodeText(file.Content)) << file.Extension;
-    }
-    ++games;
-  }
-  EXPECT_EQ(games, 2);
 }
 
 }  // namespace
