@@ -4,9 +4,7 @@
 #include <benchmark/benchmark.h>
 
 #include <QImage>
-#include <functional>
 #include <memory>
-#include <string>
 
 #include "influence/compute_influence.h"
 #include "map/overlay_stack.h"
@@ -40,17 +38,6 @@ struct Map {
   PictureSurface Universe2{kMapSize};
 };
 
-void Register(const std::string& name, const std::function<void()>& step, double target = 0) {
-  const auto run = [step, target](benchmark::State& state) {
-    for (auto _ : state) step();
-    if (target > 0) state.counters["TargetMilliseconds"] = target;
-  };
-  benchmark::RegisterBenchmark(name.c_str(), run)
-      ->Unit(benchmark::kMillisecond)
-      ->MinTime(0.2)
-      ->Repetitions(3);
-}
-
 void RegisterRedraws() {
   const auto map = std::make_shared<Map>();
   const auto redraw = [map](bool keepsBorders) {
@@ -65,10 +52,10 @@ void RegisterRedraws() {
     const int penWidth = map->Universe.WidthInTwips() / kSurfaceUnits + 2;
     reference::PlainInfluenceBorders(map->Session, map->State.View, picture, penWidth);
   };
-  Register(
+  RegisterStep(
       "fast/first borders, huge", [redraw] { redraw(false); }, 10);
-  Register("plain/first borders, huge", roundPens);
-  Register(
+  RegisterStep("plain/first borders, huge", roundPens);
+  RegisterStep(
       "fast/kept borders, huge", [redraw] { redraw(true); }, 1);
 }
 

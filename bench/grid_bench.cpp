@@ -135,14 +135,6 @@ void MeasureSort(benchmark::State& state, Sort& sort, std::size_t column) {
   }
 }
 
-template <typename Run>
-void Register(const std::string& name, Run run) {
-  benchmark::RegisterBenchmark(name.c_str(), run)
-      ->Unit(benchmark::kMillisecond)
-      ->MinTime(0.2)
-      ->Repetitions(3);
-}
-
 void RegisterAll() {
   Register("fast/window, 5000 planets", [](auto& state) { MeasureWindow(state, MakeGrid); });
   Register("plain/window, 5000 planets", [](auto& state) { MeasureWindow(state, MakePlainTable); });

@@ -13,19 +13,16 @@
 namespace quorvane {
 namespace {
 
+// Registers a computation for a game of that shape.
 template <typename Compute>
-void Register(const std::string& name, const InfluenceGameShape& shape, Compute compute) {
-  const auto run = [shape, compute](benchmark::State& state) {
+void RegisterGame(const std::string& name, const InfluenceGameShape& shape, Compute compute) {
+  Register(name, [shape, compute](benchmark::State& state) {
     GameSession session = MakeInfluenceGame(shape);
     for (auto _ : state) {
       compute(session);
       benchmark::DoNotOptimize(session.InfluenceGrid.At(0, 0));
     }
-  };
-  benchmark::RegisterBenchmark(name.c_str(), run)
-      ->Unit(benchmark::kMillisecond)
-      ->MinTime(0.2)
-      ->Repetitions(3);
+  });
 }
 
 std::string NameOf(const char* game, int soiSetting) {
@@ -40,13 +37,14 @@ void RegisterGames() {
       InfluenceGameShape shape = game;
       shape.SoiSetting = soiSetting;
       const std::string what = NameOf(name, soiSetting);
-      Register("fast/" + what, shape, [](GameSession& session) { ComputeInfluence(session, {}); });
-      Register("plain/" + what, shape, &reference::PlainComputeInfluence);
+      RegisterGame("fast/" + what, shape,
+                   [](GameSession& session) { ComputeInfluence(session, {}); });
+      RegisterGame("plain/" + what, shape, &reference::PlainComputeInfluence);
     }
   }
   // The plain version would take minutes.
-  Register("fast/" + NameOf("crowded", 500), kCrowdedGame,
-           [](GameSession& session) { ComputeInfluence(session, {}); });
+  RegisterGame("fast/" + NameOf("crowded", 500), kCrowdedGame,
+               [](GameSession& session) { ComputeInfluence(session, {}); });
 }
 
 // What processors with narrower vectors need.
@@ -60,11 +58,11 @@ void RegisterNarrowVectors() {
     for (const int soiSetting : {100, 500}) {
       InfluenceGameShape shape = kHugeGame;
       shape.SoiSetting = soiSetting;
-      Register("fast/" + NameOf("huge", soiSetting) + name, shape, compute);
-      Register("plain/" + NameOf("huge", soiSetting) + name, shape,
-               &reference::PlainComputeInfluence);
+      RegisterGame("fast/" + NameOf("huge", soiSetting) + name, shape, compute);
+      RegisterGame("plain/" + NameOf("huge", soiSetting) + name, shape,
+                   &reference::PlainComputeInfluence);
     }
-    Register("fast/" + NameOf("crowded", 500) + name, kCrowdedGame, compute);
+    RegisterGame("fast/" + NameOf("crowded", 500) + name, kCrowdedGame, compute);
   }
 }
 

@@ -64,23 +64,15 @@ void MeasureLoad(benchmark::State& state, const GameChoice& choice) {
   }
 }
 
-template <typename Run>
-void Register(const char* name, Run run) {
-  benchmark::RegisterBenchmark(name, run)
-      ->Unit(benchmark::kMillisecond)
-      ->MinTime(0.2)
-      ->Repetitions(3);
-}
-
 void RegisterMerges() {
   using reference::NameComparison;
   constexpr std::pair<const char*, NameComparison> kComparisons[] = {
       {"merge of 16 reports, trimmed texts", NameComparison::Texts},
       {"merge of 16 reports, trimmed views", NameComparison::Views}};
   for (const auto& [name, comparison] : kComparisons) {
-    Register(("fast/" + std::string(name)).c_str(),
+    Register("fast/" + std::string(name),
              [](benchmark::State& state) { MeasureMerge(state, MergeFromDisk); });
-    Register(("plain/" + std::string(name)).c_str(), [comparison](benchmark::State& state) {
+    Register("plain/" + std::string(name), [comparison](benchmark::State& state) {
       MeasureMerge(state, [comparison](GameSession& session) {
         reference::PlainMergeReports(session, comparison);
       });
@@ -101,12 +93,10 @@ void RegisterLoads() {
                                  {"fast/load huge, S=100", Game<kHugeShape>, 100, 50},
                                  {"fast/load huge, S=500", Game<kHugeShape>, 500, 90}};
   for (const LoadCase& load : kLoads) {
-    Register(load.Name, [load](benchmark::State& state) {
+    const auto measure = [load](benchmark::State& state) {
       MeasureLoad(state, load.Game().Choice(load.SoiSetting));
-      if (load.TargetMilliseconds > 0) {
-        state.counters["TargetMilliseconds"] = load.TargetMilliseconds;
-      }
-    });
+    };
+    Register(load.Name, measure, load.TargetMilliseconds);
   }
 }
 

@@ -37,6 +37,26 @@ void RatioReporter::Finalize() {
   }
 }
 
+void Register(const std::string& name, const std::function<void(benchmark::State&)>& measure,
+              double targetMilliseconds) {
+  const auto run = [measure, targetMilliseconds](benchmark::State& state) {
+    measure(state);
+    if (targetMilliseconds > 0) state.counters["TargetMilliseconds"] = targetMilliseconds;
+  };
+  benchmark::RegisterBenchmark(name.c_str(), run)
+      ->Unit(benchmark::kMillisecond)
+      ->MinTime(0.2)
+      ->Repetitions(3);
+}
+
+void RegisterStep(const std::string& name, const std::function<void()>& step,
+                  double targetMilliseconds) {
+  const auto measure = [step](benchmark::State& state) {
+    for (auto _ : state) step();
+  };
+  Register(name, measure, targetMilliseconds);
+}
+
 int RunRatioBenchmarks(int argc, char** argv) {
   benchmark::Initialize(&argc, argv);
   if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;

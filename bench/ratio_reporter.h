@@ -2,6 +2,7 @@
 
 #include <benchmark/benchmark.h>
 
+#include <functional>
 #include <map>
 #include <string>
 #include <vector>
@@ -19,6 +20,16 @@ class RatioReporter : public benchmark::ConsoleReporter {
  private:
   std::map<std::string, double> quickest_;  // milliseconds of processor time, by benchmark
 };
+
+/// Registers a benchmark that runs at least three times 0.2 seconds and tells milliseconds.
+/// @param measure           has the loop over the state, and what comes before it
+/// @param targetMilliseconds  told beside the result; 0: there is none
+void Register(const std::string& name, const std::function<void(benchmark::State&)>& measure,
+              double targetMilliseconds = 0);
+
+/// The same for a step that needs nothing but to be repeated.
+void RegisterStep(const std::string& name, const std::function<void()>& step,
+                  double targetMilliseconds = 0);
 
 /// The whole `main` of a program of such benchmarks, which are registered by then.
 int RunRatioBenchmarks(int argc, char** argv);

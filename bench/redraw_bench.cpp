@@ -1,5 +1,5 @@
 // How long the map takes to answer the user on a huge game: a whole redraw, the complete network of
-// stargates, and finding the planet under the pointer, each beside a plain version of the same.
+// stargates and drawn layers, each beside a plain version of the same.
 
 #include <benchmark/benchmark.h>
 
@@ -10,24 +10,19 @@
 #include <memory>
 #include <random>
 #include <string>
-#include <vector>
 
 #include "game_on_disk.h"
 #include "loading/load_game.h"
 #include "map/overlay_stack.h"
-#include "map/planets_in_view.h"
 #include "paint/picture_surface.h"
 #include "ratio_reporter.h"
-#include "reference/plain_pick.h"
 #include "reference/plain_surface.h"
-#include "synthetic_game.h"
 
 namespace quorvane {
 namespace {
 
 constexpr QSize kMapSize = {700, 700};
 constexpr int kGates = 240;
-constexpr int kPicks = 1000;
 
 // A game with its switches, and the two surfaces that it is drawn on.
 template <typename Surface>
@@ -135,18 +130,6 @@ GameSession WithDrawings(Drawings kind, std::size_t bytes) {
   return session;
 }
 
-template <typename Run>
-void Register(const std::string& name, Run run, double targetMilliseconds = 0) {
-  const auto measure = [run, targetMilliseconds](benchmark::State& state) {
-    for (auto _ : state) run();
-    if (targetMilliseconds > 0) state.counters["TargetMilliseconds"] = targetMilliseconds;
-  };
-  benchmark::RegisterBenchmark(name.c_str(), measure)
-      ->Unit(benchmark::kMillisecond)
-      ->MinTime(0.2)
-      ->Repetitions(3);
-}
-
 // @return false when the two surfaces do not show the same
 bool RegisterRedraw(const std::string& name, const GameSession& session,
                     const OverlaySwitches& switches, double targetMilliseconds, double ratio = 1) {
@@ -154,9 +137,9 @@ bool RegisterRedraw(const std::string& name, const GameSession& session,
   const auto plain = std::make_shared<Map<reference::PlainSurface>>(session, switches, ratio);
   fast->Redraw();
   plain->Redraw();
-  Register(
+  RegisterStep(
       "fast/" + name, [fast] { fast->Redraw(); }, targetMilliseconds);
-  Register("plain/" + name, [plain] { plain->Redraw(); });
+  RegisterStep("plain/" + name, [plain] { plain->Redraw(); });
   return fast->Picture() == plain->Picture();
 }
 
@@ -164,34 +147,8 @@ bool RegisterRedraw(const std::string& name, const GameSession& session,
 void RegisterLongLayer(const std::string& name, Drawings kind, double ratio) {
   const auto map = std::make_shared<Map<PictureSurface>>(WithDrawings(kind, 8'000'000),
                                                          OnlyOn(OverlayKind::QvlDrawing), ratio);
-  Register(
+  RegisterStep(
       "fast/8 MB of " + name, [map] { map->Redraw(); }, 1500);
-}
-
-// @return false when the two ways find different planets
-bool RegisterPicks(const InfluenceGameShape& shape, double targetMilliseconds) {
-  const auto session = std::make_shared<GameSession>(MakeInfluenceGame(shape));
-  MapView view;
-  view.ShowAll(session->UniverseExtent);
-  std::vector<SurfacePoint> pointers(kPicks);
-  std::mt19937 dice(1);
-  for (SurfacePoint& pointer : pointers) {
-    pointer.X = static_cast<double>(dice() % kSurfaceUnits);
-    pointer.Y = static_cast<double>(dice() % kSurfaceUnits);
-  }
-  const auto picks = [=](const auto& planetAt) {
-    std::vector<int> planets;
-    planets.reserve(pointers.size());
-    for (const SurfacePoint& at : pointers) planets.push_back(planetAt(*session, view, at));
-    return planets;
-  };
-  const std::string name =
-      std::to_string(kPicks) + " picks of " + std::to_string(shape.Planets) + " planets";
-  const auto fast = [picks] { benchmark::DoNotOptimize(picks(PlanetAt)); };
-  const auto plain = [picks] { benchmark::DoNotOptimize(picks(reference::PlainPlanetAt)); };
-  Register("fast/" + name, fast, targetMilliseconds);
-  Register("plain/" + name, plain);
-  return picks(PlanetAt) == picks(reference::PlainPlanetAt);
 }
 
 bool RegisterAll(const GameSession& session) {
@@ -207,8 +164,7 @@ bool RegisterAll(const GameSession& session) {
          RegisterRedraw("240 stargates, double density", gates, network, 80, 2) &&
          RegisterRedraw("4000 stargates of 300 light years", WithOrdinaryGates(4000), safe, 500) &&
          RegisterRedraw("100 KB of drawn texts", WithDrawings(Drawings::Texts, 100'000), drawing,
-                        20) &&
-         RegisterPicks(kHugeGame, 10) && RegisterPicks(kVastGame, 60);
+                        20);
 }
 
 }  // namespace

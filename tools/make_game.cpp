@@ -64,8 +64,8 @@ void Tell(const GeneratedGame& game, const MakeGameOptions& options) {
 int Run(const std::vector<std::string>& arguments) {
   const Result<MakeGameOptions> options = ParseMakeGameOptions(arguments);
   if (!options) return Complain(options.Message() + " Try --help.", kWrongOptions);
-  if (options->WantsHelp) {
-    std::fputs(std::string(kMakeGameHelp).c_str(), stdout);
+  if (!options->Help.empty()) {
+    std::fputs(options->Help.c_str(), stdout);
     return 0;
   }
   const Result<GeneratedGame> game = MakeGame(*options);

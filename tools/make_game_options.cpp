@@ -1,146 +1,110 @@
 #include "make_game_options.h"
 
+#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <charconv>
-#include <optional>
-#include <system_error>
 
 #include "files/files.h"
 
 namespace quorvane::generator {
-
-const std::string_view kMakeGameHelp =
-    R"(Usage: quorvane-make-game [OPTION]...
-Makes a complete game: a map and planet reports. The same options always give
-the same files.
-
-  --seed N           which of all games (1)
-  --size LIGHTYEARS  side of the universe, 400 to 3200 (800)
-  --planets N        number of planets (130)
-  --players N        number of players, 1 to 16 (8)
-  --reports N        players 1 to N have exported a report (5 at most)
-  --style new|old    new: a report for every player; old: a single one (new)
-  --year N           game year, 2401 to 3000 (2450)
-  --age-spread N     years by which the other players' reports may be older (6)
-  --own N            the player whose game it is (1)
-  --map FILE         make reports for this map instead of a new universe
-  --companions       write the files that Quorvane keeps beside a game, too
-  --out FOLDER       where to (this folder; with --map, the map's folder)
-  --name BASE        name of the files (demo; with --map, the map's name)
-  --help             show this text
-)";
-
 namespace {
 
-// What was given; the rest follows from it once all options are known.
-struct Given {
-  GameShape Shape;
-  std::optional<int> ReportCount;
-  std::optional<std::string> MapFile, Folder, BaseName;
-  bool HasUniverse = false;
-  bool WantsHelp = false;
-};
-
-template <typename Number>
-Result<void> ReadNumber(std::string_view text, Number& number) {
-  const char* end = text.data() + text.size();
-  const auto [stop, error] = std::from_chars(text.data(), end, number);
-  if (error == std::errc() && stop == end) return {};
-  return Failure{" needs a whole number, not \"" + std::string(text) + "\"."};
-}
-
-Result<void> ReadStyle(std::string_view text, int& style) {
-  if (text != "new" && text != "old") {
-    return Failure{" is new or old, not \"" + std::string(text) + "\"."};
+// The options of the program, each with the place where its value goes.
+class CommandLine {
+ public:
+  CommandLine() {
+    app_.set_help_flag("--help", "show this text");
+    app_.option_defaults()->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);
+    Number("--seed", shape_.Seed, "which of all games");
+    CLI::Option* size = Number("--size", shape_.Side, "side of the universe, 400 to 3200");
+    CLI::Option* planets = Number("--planets", shape_.PlanetCount, "number of planets");
+    Number("--players", shape_.PlayerCount, "number of players, 1 to 16");
+    reports_ = Number("--reports", reportCount_, "players 1 to N have exported a report")
+                   ->default_str("5 at most");
+    app_.add_option("--style", style_, "new: a report for every player; old: a single one")
+        ->check(CLI::IsMember({"new", "old"}))
+        ->capture_default_str();
+    Number("--year", shape_.Year, "game year, 2401 to 3000");
+    Number("--age-spread", shape_.AgeSpread, "years by which the others' reports may be older");
+    Number("--own", shape_.OwnSlot, "the player whose game it is");
+    // The map says how large the universe is.
+    Text("--map", map_, "", "FILE", "make reports for this map instead of a new universe")
+        ->excludes(size)
+        ->excludes(planets);
+    app_.add_flag("--companions", shape_.HasCompanions,
+                  "write the files that Quorvane keeps beside a game, too");
+    Text("--out", folder_, "this folder; with --map, the map's folder", "FOLDER", "where to");
+    Text("--name", baseName_, "demo; with --map, the map's name", "BASE", "name of the files");
   }
-  style = text == "new" ? kNewReportStyle : kOldReportStyle;
-  return {};
-}
 
-Result<void> KeepText(std::string_view text, std::optional<std::string>& kept) {
-  if (text.empty()) return Failure{" needs a text."};
-  kept = text;
-  return {};
-}
-
-struct Option {
-  std::string_view Name;
-  Result<void> (*Read)(Given& given, std::string_view value);
-};
-
-constexpr Option kOptions[] = {
-    {"--seed", [](Given& given, auto value) { return ReadNumber(value, given.Shape.Seed); }},
-    {"--size",
-     [](Given& given, auto value) {
-       given.HasUniverse = true;
-       return ReadNumber(value, given.Shape.Side);
-     }},
-    {"--planets",
-     [](Given& given, auto value) {
-       given.HasUniverse = true;
-       return ReadNumber(value, given.Shape.PlanetCount);
-     }},
-    {"--players",
-     [](Given& given, auto value) { return ReadNumber(value, given.Shape.PlayerCount); }},
-    {"--reports",
-     [](Given& given, auto value) { return ReadNumber(value, given.ReportCount.emplace()); }},
-    {"--style", [](Given& given, auto value) { return ReadStyle(value, given.Shape.Style); }},
-    {"--year", [](Given& given, auto value) { return ReadNumber(value, given.Shape.Year); }},
-    {"--age-spread",
-     [](Given& given, auto value) { return ReadNumber(value, given.Shape.AgeSpread); }},
-    {"--own", [](Given& given, auto value) { return ReadNumber(value, given.Shape.OwnSlot); }},
-    {"--map", [](Given& given, auto value) { return KeepText(value, given.MapFile); }},
-    {"--out", [](Given& given, auto value) { return KeepText(value, given.Folder); }},
-    {"--name", [](Given& given, auto value) { return KeepText(value, given.BaseName); }}};
-
-Result<Given> ReadArguments(const std::vector<std::string>& arguments) {
-  Given given;
-  for (std::size_t i = 0; i < arguments.size(); ++i) {
-    const std::string& name = arguments[i];
-    if (name == "--help") {
-      given.WantsHelp = true;
-      return given;
+  Result<MakeGameOptions> Read(const std::vector<std::string>& arguments) {
+    try {
+      app_.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
+    } catch (const CLI::CallForHelp&) {
+      return MakeGameOptions{.Help = app_.help()};
+    } catch (const CLI::ParseError& error) {
+      return Failure{error.what() + std::string(".")};
     }
-    if (name == "--companions") {
-      given.Shape.HasCompanions = true;
-      continue;
+    if (style_ == "old" && reports_->count() > 0) {
+      return Failure{"An old-style game has one report: --reports does not go with it."};
     }
-    const auto* option = std::ranges::find(kOptions, name, &Option::Name);
-    if (option == std::end(kOptions)) return Failure{"There is no option " + name + "."};
-    if (++i == arguments.size()) return Failure{name + " needs a value."};
-    const Result<void> read = option->Read(given, arguments[i]);
-    if (!read) return Failure{name + read.Message()};
+    return Combined();
   }
-  return given;
-}
+
+ private:
+  // Whole and decimal; the library itself would take 010 for eight and -1 for a large seed.
+  template <typename Value>
+  CLI::Option* Number(const char* name, Value& value, const char* help) {
+    const auto read = [&value](const CLI::results_t& given) {
+      const std::string& text = given.back();
+      const auto [stop, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+      return error == std::errc() && stop == text.data() + text.size();
+    };
+    const std::string without = std::to_string(value);
+    return app_.add_option(name, read, help)->type_name("N")->default_str(without);
+  }
+
+  CLI::Option* Text(const char* name, std::string& text, const char* without, const char* type,
+                    const char* help) {
+    const auto check = [](const std::string& given) {
+      return given.empty() ? std::string("a text is needed") : std::string();
+    };
+    return app_.add_option(name, text, help)->check(check)->type_name(type)->default_str(without);
+  }
+
+  // What was not given follows from the rest.
+  Result<MakeGameOptions> Combined() {
+    shape_.Style = style_ == "old" ? kOldReportStyle : kNewReportStyle;
+    shape_.ReportCount =
+        reports_->count() > 0 ? reportCount_ : std::min(shape_.ReportCount, shape_.PlayerCount);
+    if (const Result<void> possible = CheckShape(shape_); !possible) {
+      return Failure{possible.Message()};
+    }
+    MakeGameOptions options{.Shape = shape_, .MapFile = PathFromText(map_)};
+    const std::filesystem::path beside = options.MapFile.parent_path();
+    options.Folder = folder_.empty() ? beside : PathFromText(folder_);
+    if (options.Folder.empty()) options.Folder = ".";
+    options.BaseName = baseName_;
+    if (baseName_.empty())
+      options.BaseName = map_.empty() ? "demo" : TextFromPath(options.MapFile.stem());
+    return options;
+  }
+
+  CLI::App app_{
+      "Makes a complete game: a map and planet reports. The same options always give\n"
+      "the same files.",
+      "quorvane-make-game"};
+  GameShape shape_;
+  int reportCount_ = 0;
+  std::string style_ = "new";
+  std::string map_, folder_, baseName_;
+  const CLI::Option* reports_ = nullptr;
+};
 
 }  // namespace
 
 Result<MakeGameOptions> ParseMakeGameOptions(const std::vector<std::string>& arguments) {
-  const Result<Given> given = ReadArguments(arguments);
-  if (!given) return Failure{given.Message()};
-  if (given->ReportCount && given->Shape.Style == kOldReportStyle) {
-    return Failure{"An old-style game has one report: --reports does not go with it."};
-  }
-  if (given->MapFile && given->HasUniverse) {
-    return Failure{
-        "The map says how large the universe is: --size and --planets do not go with it."};
-  }
-  MakeGameOptions options;
-  options.WantsHelp = given->WantsHelp;
-  options.Shape = given->Shape;
-  options.Shape.ReportCount =
-      given->ReportCount.value_or(std::min(options.Shape.ReportCount, options.Shape.PlayerCount));
-  if (const Result<void> possible = CheckShape(options.Shape); !possible) {
-    return Failure{possible.Message()};
-  }
-  options.MapFile = PathFromText(given->MapFile.value_or(""));
-  const std::string folder = TextFromPath(options.MapFile.parent_path());
-  options.Folder = PathFromText(given->Folder.value_or(folder.empty() ? "." : folder));
-  const bool isNewUniverse = options.MapFile.empty();
-  options.BaseName =
-      given->BaseName.value_or(isNewUniverse ? "demo" : TextFromPath(options.MapFile.stem()));
-  return options;
+  return CommandLine().Read(arguments);
 }
 
 }  // namespace quorvane::generator

@@ -2,7 +2,6 @@
 
 #include <filesystem>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "generator/game_generator.h"
@@ -16,13 +15,11 @@ struct MakeGameOptions {
   std::filesystem::path MapFile;  // empty: a new universe
   std::filesystem::path Folder;
   std::string BaseName;
-  bool WantsHelp = false;
+  std::string Help;  // empty unless that text is all that is wanted
 };
 
-extern const std::string_view kMakeGameHelp;
-
-/// Reads the arguments behind the program's name. Fails with a sentence for an option that is
-/// unknown or lacks its value, and for a shape that no game can have.
+/// Reads the arguments behind the program's name. Fails with a sentence for options that are
+/// unknown, lack their value or do not go together, and for a shape that no game can have.
 Result<MakeGameOptions> ParseMakeGameOptions(const std::vector<std::string>& arguments);
 
 }  // namespace quorvane::generator

@@ -1,6 +1,7 @@
 // Loads a game through the program's real windows and saves pictures of them, for the README and
 // for looking at what was changed. Run it on the offscreen platform; QT_SCALE_FACTOR=2 shows what a
 // screen of double density would.
+#include <CLI/CLI.hpp>
 #include <QAction>
 #include <QApplication>
 #include <QDialog>
@@ -206,11 +207,20 @@ void TakePictures(const ScreenshotJob& job) {
 
 int main(int argc, char* argv[]) {
   QApplication application(argc, argv);
-  if (argc < 4) {
-    std::cerr << "Usage: quorvane-make-screenshots GAME-FOLDER MAP-NAME OUT-FOLDER [SUFFIX]\n";
-    return 2;
+  CLI::App options("Loads a game and saves pictures of the windows.");
+  std::string game, map, out, suffix;
+  options.add_option("GAME-FOLDER", game, "where the game lies")->required();
+  options.add_option("MAP-NAME", map, "its map, as the open dialog lists it")->required();
+  options.add_option("OUT-FOLDER", out, "where the pictures go")->required();
+  options.add_option("SUFFIX", suffix, "what their names end in");
+  try {
+    options.parse(argc, argv);
+  } catch (const CLI::ParseError& error) {
+    constexpr int kWrongOptions = 2;
+    return options.exit(error) == 0 ? 0 : kWrongOptions;
   }
+  using quorvane::ToQString;
   quorvane::ApplyTheme(application);
-  quorvane::TakePictures({argv[1], argv[2], argv[3], argc > 4 ? argv[4] : ""});
+  quorvane::TakePictures({ToQString(game), ToQString(map), ToQString(out), ToQString(suffix)});
   return 0;
 }

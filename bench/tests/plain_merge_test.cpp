@@ -71,11 +71,6 @@ GameChoice MakeChoice(const GeneratedGame& game, const TempFolder& folder, Rando
   return choice;
 }
 
-std::string Described(const FieldValue& value) {
-  constexpr const char* kKinds[] = {"empty", "text", "whole", "real"};
-  return kKinds[static_cast<std::size_t>(value.Kind())] + (" [" + FieldText(value) + "]");
-}
-
 // Every field that reports decide; owner numbers and scores are computed from them later.
 void ExpectSamePlanets(const GameSession& loaded, const GameSession& plain) {
   constexpr auto kOwnerIndex = static_cast<std::size_t>(PlanetField::OwnerIndex);
@@ -84,10 +79,10 @@ void ExpectSamePlanets(const GameSession& loaded, const GameSession& plain) {
   for (int planet = 1; planet <= plain.PlanetCount; ++planet) {
     for (std::size_t field = 1; field <= kPlanetFieldCount; ++field) {
       if (field == kOwnerIndex || field == kScoreValue) continue;
-      ASSERT_EQ(Described(loaded.Planet(planet).Field(field)),
-                Described(plain.Planet(planet).Field(field)))
-          << "field " << field << " of planet " << planet << ", " << plain.Planet(planet).Name();
-      ASSERT_EQ(loaded.Planet(planet).Field(field), plain.Planet(planet).Field(field));
+      const FieldValue& is = loaded.Planet(planet).Field(field);
+      const FieldValue& mustBe = plain.Planet(planet).Field(field);
+      ASSERT_EQ(is, mustBe) << "field " << field << " of planet " << planet << " is "
+                            << FieldText(is) << ", must be " << FieldText(mustBe);
     }
   }
 }
@@ -110,25 +105,15 @@ int CompareMerges(int seed, int damage) {
       plain.PlanetTable, [](const PlanetRecord& planet) { return !planet.AgeText().empty(); }));
 }
 
-TEST(ReportMergeReference, EqualsThePlainMergeOnReportsAsTheGameWritesThem) {
-  int reportedPlanets = 0;
-  for (int seed = 1; seed <= kGames; ++seed) {
-    SCOPED_TRACE("game " + std::to_string(seed));
-    reportedPlanets += CompareMerges(seed, 0);
-  }
-  EXPECT_GT(reportedPlanets, 20 * kGames);
-}
-
-TEST(ReportMergeReference, EqualsThePlainMergeOnDamagedReports) {
-  constexpr int kDamages[] = {3, 10, 30, 60};  // percent of the lines
-  int reportedPlanets = 0;
-  for (int seed = 1; seed <= kGames; ++seed) {
-    for (const int damage : kDamages) {
+TEST(ReportMerge, EqualsThePlainMergeOnReportsAsTheGameWritesThemAndOnDamagedOnes) {
+  for (const int damage : {0, 3, 10, 30, 60}) {  // percent of the lines
+    int reportedPlanets = 0;
+    for (int seed = 1; seed <= kGames; ++seed) {
       SCOPED_TRACE("game " + std::to_string(seed) + ", damage " + std::to_string(damage));
       reportedPlanets += CompareMerges(seed, damage);
     }
+    EXPECT_GT(reportedPlanets, 20 * kGames);
   }
-  EXPECT_GT(reportedPlanets, 80 * kGames);
 }
 
 }  // namespace

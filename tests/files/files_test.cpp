@@ -7,11 +7,14 @@
 namespace quorvane {
 namespace {
 
-TEST(FindFile, GivesTheNameThatAFileHasOnTheDisk) {
+TEST(FindFile, GivesTheNameThatAFileHasOnTheDiskAndKeepsWhenReplaced) {
   const TempFolder folder;
   folder.Write("DEMO.P12", "12");
   folder.Write("demo.p1", "1");
   EXPECT_EQ(FindFile(folder / "Demo.P1"), folder / "demo.p1");
+  ASSERT_TRUE(ReplaceFile(folder / "Demo.P1", "new"));
+  EXPECT_EQ(folder.Read("demo.p1"), "new");
+  EXPECT_EQ(FilesNamedLike(folder.Path(), "", "").size(), 2U);
   std::filesystem::create_directory(folder / "Demo.P3");
   EXPECT_EQ(FindFile(folder / "Demo.P3"), std::nullopt);
   EXPECT_EQ(FindFile(""), std::nullopt);
@@ -53,14 +56,6 @@ TEST(ReadTextFile, SaysWhatIsWrongWithAFileThatCannotBeUsed) {
     const std::string message = ReadTextFile(folder / name).Message();
     EXPECT_NE(message.find(reason), message.npos) << message;
   }
-}
-
-TEST(ReplaceFile, ReplacesFilesUnderTheirOwnName) {
-  const TempFolder folder;
-  folder.Write("demo.qvd", "old");
-  ASSERT_TRUE(ReplaceFile(folder / "Demo.QVD", "new"));
-  EXPECT_EQ(folder.Read("demo.qvd"), "new");
-  EXPECT_EQ(FilesNamedLike(folder.Path(), "", ""), std::vector<std::filesystem::path>{"demo.qvd"});
 }
 
 TEST(SaveText, WritesNothingThatCouldNotBeReadBack) {

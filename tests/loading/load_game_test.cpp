@@ -136,12 +136,35 @@ TEST_F(LoadGameTest, TakesSecondsWhenFilesAreAsLargeAsTheyMayBe) {
   EXPECT_EQ(Load().Planet(20000)[PlanetField::InMyReport], FieldValue(1));
 }
 
-TEST_F(LoadGameTest, NamesTheFileThatBecameEmpty) {
-  Load();
-  for (const char* first : {"Demo.P3, line 1", "Demo.P1, line 1", "Demo.MAP, line 2"}) {
-    folder.Write(std::string(first).substr(0, std::string(first).find(',')), "");
-    const std::string message = LoadGame(choice, "", {}).Message();
-    EXPECT_NE(message.find(first), message.npos) << message;
+// Every file of the game and of ours, stopping or starting at any byte: the open dialog or a
+// message that names the file refuses it, or the game loads.
+TEST_F(LoadGameTest, TakesOrNamesFilesCutAnywhere) {
+  const std::string rest = "1\r\n0\r\n\"HE\"\r\n1,1,1,1,1,1,1,1,1,1,1,1,1,1,\"a note\"\r\n";
+  const std::pair<const char*, std::string> kinds[] = {
+      {"Demo.MAP", "#\tX\tY\tName\r\n1\t1050\t1060\t\"Alpha, Beta\"\r\n"},
+      {"Demo.P1", "Name\r\nAlpha\tHumanoid\tDock\t0\t9000\t88%\t\t3\t4\t5%\r\n"},
+      {"Demo.P3", "Name\r\nAlpha\tHumanoid\t\t"},
+      {"Demo.PLA", "Name\r\nAlpha\tHumanoid\t\t2\t90\t8%\t\r\n"},
+      {"Demo.YRS", "\"2449\"\r\n\"\"\r\n\"2448\"\r\n"},
+      {"Demo.QVR", "1\r\n"},
+      {"Demo.QVC", "\"Humanoid\",1,255,128,0\r\n\"Drask\",2,0,0,255\r\n"},
+      {"Demo.QVL", "L,1050,1060,1070,1080,2\r\nT,1050,1060,\"a, b\",12,1\r\n"},
+      {"Demo.QVD", "\"Humanoid\"\r\n.5,2,-9,9,1,99,1," + rest}};
+  for (const auto& [name, content] : kinds) {
+    const GameFolder cutFolder;
+    ChooseMap(choice, cutFolder / "Demo.MAP");
+    for (std::size_t cut = 0; cut <= content.size(); ++cut) {
+      for (const std::string& part : {content.substr(0, cut), content.substr(cut)}) {
+        cutFolder.Write(name, part);
+        FindReportFiles(choice, "2450", [] { return false; });
+        OpenInput input{.Soi = "50", .GameYear = "2450", .Years = {}};
+        input.Years = LoadYearsFile(choice.YearsFilePath).value_or(input.Years);
+        choice.MyRaceRow = LoadRememberedRace(choice.RememberedRaceFilePath).value_or(1);
+        if (!AcceptOpenInput(choice, input).Message.empty()) continue;
+        const std::string message = LoadGame(choice, "", {}).Message();
+        EXPECT_TRUE(message.empty() || message.find(name) != message.npos) << part << message;
+      }
+    }
   }
 }
 

@@ -67,15 +67,5 @@ TEST(RangePrompt, NamesLimitAndRaceAndExplainsDecimalsOfGravity) {
   EXPECT_TRUE(RangePrompt(Race(), PlayerField::RadMin).ends_with("Radiation Value for Drask"));
 }
 
-TEST(RangeCaption, HidesOnlyTheLimitsOfTheImmuneKind) {
-  PlayerRecord race = Race();
-  race[PlayerField::TempImmune] = 1;
-  race[PlayerField::RadImmune] = 2;
-  const char* captions[] = {"0.5", "2", "Immune", "Immune", "20", "80"};
-  for (std::size_t i = 0; i < 6; ++i) {
-    EXPECT_EQ(RangeCaption(race, static_cast<PlayerField>(8 + i)), captions[i]) << 8 + i;
-  }
-}
-
 }  // namespace
 }  // namespace quorvane

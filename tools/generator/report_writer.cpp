@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "generator/planet_state.h"
-#include "generator/report_line.h"
+#include "generator/report_row.h"
 #include "model/game_choice.h"
 #include "model/text.h"
 
@@ -32,19 +32,19 @@ std::string HundredthsPercent(int hundredths) {
   return std::to_string(hundredths / 100) + (decimals.size() < 2 ? ".0" : ".") + decimals + "%";
 }
 
-void SetMinerals(ReportLine& line, Column first, const Minerals& minerals) {
+void SetMinerals(ReportRow& line, Column first, const Minerals& minerals) {
   for (std::size_t kind = 0; kind < kMineralKinds; ++kind) {
     line.Set(first + kind, std::to_string(minerals[kind]));
   }
 }
 
-void SetReadings(ReportLine& line, Column first, const Environment& environment) {
+void SetReadings(ReportRow& line, Column first, const Environment& environment) {
   const auto texts = ReadingTexts(environment);
   for (std::size_t kind = 0; kind < kEnvironmentKinds; ++kind) line.Set(first + kind, texts[kind]);
 }
 
 // What the planet is worth to the author now, and what terraforming could make of it.
-void SetEnvironment(ReportLine& line, const Report& report, const Planet& planet,
+void SetEnvironment(ReportRow& line, const Report& report, const Planet& planet,
                     const PlanetState& state) {
   const HabRanges& ranges = report.Author.Ranges;
   const int steps = report.Author.TerraformSteps;
@@ -57,7 +57,7 @@ void SetEnvironment(ReportLine& line, const Report& report, const Planet& planet
   line.Set(Column::ValueTerraformed, Percent(std::max(best, value)));
 }
 
-void SetInhabitants(ReportLine& line, const PlanetState& state) {
+void SetInhabitants(ReportRow& line, const PlanetState& state) {
   line.Set(Column::Owner, state.Owner->Name);
   line.Set(Column::Starbase, state.Starbase);
   line.Set(Column::Population, std::to_string(state.Population));
@@ -68,7 +68,7 @@ std::string QueueOf(const Planet& planet) {
   return std::string(roll < 4 ? kEmptyQueue : kQueues[static_cast<std::size_t>(roll - 4)]);
 }
 
-void SetOwn(ReportLine& line, const Planet& planet, const PlanetState& state) {
+void SetOwn(ReportRow& line, const Planet& planet, const PlanetState& state) {
   SetInhabitants(line, state);
   line.Set(Column::Queue, QueueOf(planet));
   line.Set(Column::Mines, state.Mines);
@@ -92,7 +92,7 @@ bool IsMinedRemotely(const Planet& planet, int age) {
   return age == 0 && planet.StockRoll < 50 && *std::ranges::max_element(rich) > 60;
 }
 
-void SetScanned(ReportLine& line, const Report& report, const Planet& planet,
+void SetScanned(ReportRow& line, const Report& report, const Planet& planet,
                 const PlanetState& state, int age) {
   SetEnvironment(line, report, planet, state);
   SetMinerals(line, Column::Stored, state.Stored);
@@ -107,7 +107,7 @@ void SetScanned(ReportLine& line, const Report& report, const Planet& planet,
 std::string LineFor(const Report& report, const Sighting& sighting) {
   const Planet& planet = report.Universe.Planets[sighting.Planet];
   const PlanetState state = StateIn(report.Universe, planet, report.Head.Year - sighting.Age);
-  ReportLine line;
+  ReportRow line;
   line.Set(Column::Name, planet.Name);
   line.Set(Column::Age, sighting.Age);
   switch (sighting.Depth) {

@@ -5,7 +5,6 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
-#include <initializer_list>
 #include <random>
 #include <string>
 #include <tuple>
@@ -41,6 +40,8 @@ class Twins {
   void DrawPoint() {
     const SurfacePoint at = RandomPlace();
     Draw([&, colour = RandomColour()](DrawingSurface& surface) { surface.Point(at, colour); });
+    const double distance = Between(0, 9000) / 100.0;
+    EXPECT_EQ(fast_.WidthToCover(distance), plain_.WidthToCover(distance)) << distance;
   }
   void DrawLine() {
     const SurfacePoint from = RandomPlace();
@@ -57,10 +58,25 @@ class Twins {
     });
   }
 
-  bool AreAlike() const { return fast_.Picture() == plain_.Picture(); }
-  bool CoverAlike(double distance) const {
-    return fast_.WidthToCover(distance) == plain_.WidthToCover(distance);
+  // Characters are kept one by one, so how they follow each other must not matter.
+  void DrawText() {
+    std::string text;
+    for (int length = Between(0, 12); length > 0; --length) {
+      text += static_cast<char>(Between(' ', '~'));
+    }
+    if (IsOneIn(9)) text += "\u00c5\u00ad\u00fc";
+    const double points = Between(1, 47);  // outlines of larger ones depend on the place
+    const SurfacePoint at = {Between(-40, 110) + 0.0, Between(-40, 90) + 0.0};
+    const bool isCleared = IsOneIn(20);
+    Draw([&](DrawingSurface& surface) {
+      if (isCleared) surface.Clear();
+      surface.SetFontSize(points);
+      surface.Print(at, text);
+    });
+    EXPECT_EQ(fast_.TextWidth(text), plain_.TextWidth(text)) << text;
   }
+
+  bool AreAlike() const { return fast_.Picture() == plain_.Picture(); }
 
  private:
   template <typename Call>
@@ -85,8 +101,10 @@ class Twins {
 };
 
 TEST(PictureSurface, DrawsThePixelsOfItsPlainTwin) {
-  const std::tuple<const char*, void (Twins::*)()> shapes[] = {
-      {"points", &Twins::DrawPoint}, {"lines", &Twins::DrawLine}, {"circles", &Twins::DrawCircle}};
+  const std::tuple<const char*, void (Twins::*)()> shapes[] = {{"points", &Twins::DrawPoint},
+                                                               {"lines", &Twins::DrawLine},
+                                                               {"circles", &Twins::DrawCircle},
+                                                               {"texts", &Twins::DrawText}};
   for (const auto& [what, draw] : shapes) {
     for (const double ratio : {1.0, 1.25, 2.0}) {
       Twins twins(ratio);
@@ -95,15 +113,6 @@ TEST(PictureSurface, DrawsThePixelsOfItsPlainTwin) {
         (twins.*draw)();
         ASSERT_TRUE(twins.AreAlike()) << what << ", drawing " << i << " at ratio " << ratio;
       }
-    }
-  }
-}
-
-TEST(PictureSurface, PointsOfTheLeastWidthThatClosesAnAreaAreFound) {
-  for (const double ratio : {1.0, 1.25, 1.5, 2.0}) {
-    const Twins twins(ratio);
-    for (double distance = 0; distance < 90; distance += 0.37) {
-      EXPECT_TRUE(twins.CoverAlike(distance)) << distance << " units at ratio " << ratio;
     }
   }
 }
@@ -125,26 +134,14 @@ TEST(PictureText, LooksAsIfItWereLaidOutEachTime) {
   }
 }
 
-// Characters are kept one by one, so how they follow each other must not matter.
-TEST(PictureText, OfAnyPlainCharactersLooksAsIfItWereLaidOutEachTime) {
-  PictureSurface fast(kSize, 1, kUnits);
-  reference::PlainSurface plain(kSize, 1, kUnits);
-  std::mt19937 dice(1);
-  const auto below = [&dice](int limit) { return static_cast<int>(dice() % std::uint32_t(limit)); };
-  for (int i = 0; i < 1500; ++i) {
-    std::string text;
-    for (int length = below(12); length > 0; --length) text += static_cast<char>(' ' + below(95));
-    if (i % 9 == 0) text += "\u00c5\u00fc\u0416";
-    const double points = 1 + below(47);  // outlines of larger ones depend on the place
-    const SurfacePoint at = {below(150) - 40.0, below(130) - 40.0};
-    for (DrawingSurface* const surface : std::initializer_list<DrawingSurface*>{&fast, &plain}) {
-      if (i % 20 == 0) surface->Clear();
-      surface->SetFontSize(points);
-      surface->Print(at, text);
-    }
-    ASSERT_EQ(fast.TextWidth(text), plain.TextWidth(text)) << text;
-    ASSERT_TRUE(fast.Picture() == plain.Picture()) << text << " in " << points << " points";
-  }
+// Whether the fast surface and the plain one look the same behind a drawing.
+template <typename Call>
+bool LookAlike(QSize size, double ratio, const Call& draw) {
+  PictureSurface fast(size, ratio);
+  reference::PlainSurface plain(size, ratio);
+  draw(fast);
+  draw(plain);
+  return fast.Picture() == plain.Picture();
 }
 
 // A layer so long that it is drawn from the top down, and covers most of itself.
@@ -170,11 +167,8 @@ TEST(DrawDrawingLayer, LooksTheSameFromTheTopDown) {
     for (std::size_t i = 0; i < layer.size(); i += 9) layer[i].Text += "\u0416";
     MapView view;
     view.ShowAll(1400);
-    PictureSurface fast({150, 110}, ratio);
-    reference::PlainSurface plain({150, 110}, ratio);
-    DrawDrawingLayer(layer, view, fast);
-    DrawDrawingLayer(layer, view, plain);
-    EXPECT_TRUE(fast.Picture() == plain.Picture()) << "at ratio " << ratio;
+    const auto draw = [&](DrawingSurface& surface) { DrawDrawingLayer(layer, view, surface); };
+    EXPECT_TRUE(LookAlike({150, 110}, ratio, draw)) << "at ratio " << ratio;
   }
 }
 
@@ -196,11 +190,10 @@ TEST(DrawStargates, LooksTheSameFromTheTopDown) {
     view.ShowAll(1501);
     if (round % 5 == 0) view.ShowWindow(100, 150, 250);
     const double ratio = 1 + 0.25 * (round % 6);
-    PictureSurface fast({167, 167}, ratio);
-    reference::PlainSurface plain({167, 167}, ratio);
-    DrawStargates(game, view, fast, round % 4 != 0);
-    DrawStargates(game, view, plain, round % 4 != 0);
-    EXPECT_TRUE(fast.Picture() == plain.Picture()) << "round " << round << ", ratio " << ratio;
+    const auto draw = [&](DrawingSurface& surface) {
+      DrawStargates(game, view, surface, round % 4 != 0);
+    };
+    EXPECT_TRUE(LookAlike({167, 167}, ratio, draw)) << "round " << round << ", ratio " << ratio;
   }
 }
 

@@ -1,34 +1,21 @@
-// The influence of many made-up games, point by point beside the plain sums.
-
-#include "reference/plain_influence.h"
+// The influence of many made-up games and the sort of the planet grid beside plain versions.
 
 #include <gtest/gtest.h>
 
+#include <numeric>
+#include <random>
 #include <utility>
 
 #include "influence/compute_influence.h"
+#include "reference/plain_grid.h"
+#include "reference/plain_influence.h"
 #include "synthetic_game.h"
 
 namespace quorvane {
 namespace {
 
-testing::AssertionResult SameInfluence(const GameSession& fast, const GameSession& plain) {
-  for (int gx = 0; gx <= plain.GridSize; ++gx) {
-    for (int gy = 0; gy <= plain.GridSize; ++gy) {
-      const InfluencePoint is = fast.InfluenceGrid.At(gx, gy);
-      const InfluencePoint mustBe = plain.InfluenceGrid.At(gx, gy);
-      if (is == mustBe) continue;
-      return testing::AssertionFailure()
-             << "point " << gx << ", " << gy << " is (" << is.Holder << ", " << is.Strength
-             << "), must be (" << mustBe.Holder << ", " << mustBe.Strength << ")";
-    }
-  }
-  for (int player = 0; player <= kMaxPlayers; ++player) {
-    if (!(fast.Player(player) == plain.Player(player))) {
-      return testing::AssertionFailure() << "the territory of player " << player << " differs";
-    }
-  }
-  return testing::AssertionSuccess();
+bool SameInfluence(const GameSession& fast, const GameSession& plain) {
+  return fast.InfluenceGrid == plain.InfluenceGrid && fast.PlayerTable == plain.PlayerTable;
 }
 
 TEST(ComputeInfluence, CopesWithPlanetsFarOutsideTheUniverse) {
@@ -71,6 +58,29 @@ TEST(ComputeInfluence, AsksOftenInACrowdedUniverseWhetherItIsStopped) {
   reference::PlainComputeInfluence(plain);
   EXPECT_TRUE(SameInfluence(fast, plain));
   EXPECT_GT(questions, 2) << "not only behind each strip of ten columns";
+}
+
+TEST(SortedRows, AgreesWithAPlainSort) {
+  constexpr std::size_t kName = 3;
+  constexpr std::size_t kPopulation = 7;
+  constexpr const char* kCells[] = {"",     "0", "-0", "7",      "07",  "10", " 9", "1e2",
+                                    "5.5%", "a", "A",  "Remote", "N/A", "é",  "É",  " "};
+  std::mt19937 dice(1);
+  PlanetGrid grid;
+  grid.Rows.resize(300);
+  for (PlanetGridRow& row : grid.Rows) {
+    row.Cells.resize(kPopulation + 1);
+    for (std::string& cell : row.Cells) cell = kCells[dice() % std::size(kCells)];
+  }
+  std::vector<std::size_t> mapOrder(grid.Rows.size());
+  std::iota(mapOrder.begin(), mapOrder.end(), std::size_t{0});
+  for (const std::size_t column : {kName, kPopulation}) {
+    for (const SortDirection direction : {SortDirection::Ascending, SortDirection::Descending}) {
+      EXPECT_EQ(SortedRows(grid, column, direction, mapOrder),
+                reference::PlainSortedRows(grid, column, direction, mapOrder))
+          << column;
+    }
+  }
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-#include "generator/report_line.h"
+#include "generator/report_row.h"
 
 #include <span>
 #include <string_view>
@@ -26,7 +26,7 @@ std::string Joined(std::span<const Text> fields) {
 
 }  // namespace
 
-std::string ReportLine::Text(std::size_t columns) const {
+std::string ReportRow::Text(std::size_t columns) const {
   return Joined(std::span<const std::string>(fields_).first(columns));
 }
 

@@ -49,7 +49,7 @@ constexpr Column operator+(Column column, std::size_t places) {
 }
 
 /// One line of a planet report, empty where nothing was set.
-class ReportLine {
+class ReportRow {
  public:
   void Set(Column column, std::string text) {
     fields_[static_cast<std::size_t>(column)] = std::move(text);
