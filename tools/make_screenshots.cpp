@@ -165,6 +165,7 @@ void TakeDetails(Main& window, const ScreenshotJob& job) {
 
 void TakePictures(const ScreenshotJob& job) {
   Main window(ToPath(job.GameFolder));
+  window.Map->Timer1->stop();  // the marker's colours are random
   window.show();
   Save(window, job, "main-empty");
   QTimer::singleShot(100, &window, [&job] { UseOpenDialog(job); });
