@@ -26,15 +26,14 @@ void RequireSound(const ReportLine& line, std::string_view text) {
 }
 
 void SplitLines(std::string_view text) {
-  std::size_t left = CountLines(text);
-  const VisitReportLine visit = [&](std::string_view line) {
-    RequireSound(ReportLine(line), line);
-    Require(left-- > 0, "no more lines than the text has");
+  const auto check = [](const std::vector<std::string_view>& lines, std::size_t most) {
+    Require(lines.size() <= most, "no more lines than the text has");
+    for (const std::string_view line : lines) RequireSound(ReportLine(line), line);
   };
-  ForEachOtherReportLine(text, visit);
+  std::deque<std::string> unquoted;
+  check(OtherReportLines(text, unquoted), CountLines(text));
   // A comma in the heading makes a line of what follows it, and commas in the text may make more.
-  left = CountLines(text) + 1;
-  ForEachOwnReportLine(text, visit);
+  check(OwnReportLines(text), CountLines(text) + 1);
 }
 
 GameSession SmallSession(int style) {

@@ -41,15 +41,15 @@ Result<void> BringMapAlong(const MakeGameOptions& options) {
 Result<GeneratedGame> MakeGame(const MakeGameOptions& options) {
   if (options.MapFile.empty()) return GenerateGame(options.Shape);
   const Result<std::string> text = ReadTextFile(options.MapFile);
-  if (!text) return Failure{text.Message()};
+  if (!text) return text.Error();
   const Result<UniverseMap> map = ParseUniverseMap(*text, TextFromPath(options.MapFile));
-  if (!map) return Failure{map.Message()};
+  if (!map) return map.Error();
   if (map->Planets.size() < static_cast<std::size_t>(options.Shape.PlayerCount)) {
     return Failure{TextFromPath(options.MapFile) + ": the map has only " +
                    std::to_string(map->Planets.size()) + " planets, every player needs one"};
   }
   if (const Result<void> copied = BringMapAlong(options); !copied) {
-    return Failure{copied.Message()};
+    return copied.Error();
   }
   return GenerateReportsForMap(map->Planets, options.Shape);
 }

@@ -78,7 +78,7 @@ class CommandLine {
     shape_.ReportCount =
         reports_->count() > 0 ? reportCount_ : std::min(shape_.ReportCount, shape_.PlayerCount);
     if (const Result<void> possible = CheckShape(shape_); !possible) {
-      return Failure{possible.Message()};
+      return possible.Error();
     }
     MakeGameOptions options{.Shape = shape_, .MapFile = PathFromText(map_)};
     const std::filesystem::path beside = options.MapFile.parent_path();

@@ -184,7 +184,7 @@ Result<std::string> ReadOptionalTextFile(const fs::path& path) {
 }
 
 Result<void> SaveText(const fs::path& path, const Result<std::string>& text) {
-  if (!text) return Failure{text.Message()};
+  if (!text) return text.Error();
   if (text->size() > kLargestTextFile) {
     return Failure{TextFromPath(path) +
                    ": nothing was saved, because a text this large cannot be read back"};

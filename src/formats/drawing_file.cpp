@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "files/files.h"
+#include "model/data_items.h"
 #include "model/rounding.h"
 #include "model/text.h"
 
@@ -13,21 +14,12 @@ namespace {
 // In bytes, without the line end. A line of megabytes would keep the user waiting at every key.
 constexpr std::size_t kLongestRecord = 65536;
 
-constexpr std::string_view kBlanks = " \t";
-constexpr std::string_view kEnds = ",\r\n";
-
-std::string_view WithoutBlanks(std::string_view text) {
-  text.remove_prefix(std::min(text.find_first_not_of(kBlanks), text.size()));
-  return text.substr(0, text.find_last_not_of(kBlanks) + 1);
-}
-
-// Takes the fields of a drawing off its text. Unlike the game's other files, blanks on both sides
-// of a field do not count.
+// Takes the fields of a drawing off its text, and counts its lines.
 class DrawingFields {
  public:
-  explicit DrawingFields(std::string_view text) : text_(text), rest_(text), line_(text) {}
+  explicit DrawingFields(std::string_view text) : text_(text), reader_(text), line_(text) {}
 
-  bool AtEnd() const { return rest_.empty(); }
+  bool AtEnd() const { return reader_.IsExhausted(); }
 
   // Whether a line was longer than any record, a line end within quotes ending none.
   bool IsTooLong() const { return isTooLong_; }
@@ -37,19 +29,12 @@ class DrawingFields {
   }
 
   std::string_view Next() {
-    rest_.remove_prefix(std::min(rest_.find_first_not_of(kBlanks), rest_.size()));
-    std::string_view field;
-    if (rest_.starts_with('"')) {
-      rest_.remove_prefix(1);
-      field = rest_.substr(0, rest_.find('"'));
-      rest_.remove_prefix(std::min(field.size() + 1, rest_.size()));
-      rest_.remove_prefix(std::min(rest_.find_first_of(kEnds), rest_.size()));
-    } else {
-      const std::string_view whole = rest_.substr(0, rest_.find_first_of(kEnds));
-      rest_.remove_prefix(whole.size());
-      field = WithoutBlanks(whole);
-    }
-    ConsumeEnd();
+    const std::string_view field = reader_.ReadTrimmedItem();
+    std::size_t length = line_.size() - reader_.Rest().size();
+    const bool isLineEnd = !reader_.SkipComma();
+    if (isLineEnd) length += reader_.ReadWholeLine().size();
+    isTooLong_ = isTooLong_ || length > kLongestRecord;
+    if (isLineEnd && !isTooLong_) line_ = reader_.Rest();
     return field;
   }
 
@@ -57,20 +42,8 @@ class DrawingFields {
   std::int32_t NextWhole() { return ToWhole32(NextNumber()); }
 
  private:
-  void ConsumeEnd() {
-    const bool isLineEnd = !rest_.starts_with(',');
-    std::size_t length = line_.size() - rest_.size();
-    if (isLineEnd) {
-      length += TakeLine(rest_).size();
-    } else {
-      rest_.remove_prefix(1);
-    }
-    isTooLong_ = isTooLong_ || length > kLongestRecord;
-    if (isLineEnd && !isTooLong_) line_ = rest_;
-  }
-
   std::string_view text_;
-  std::string_view rest_;
+  DataItemReader reader_;
   std::string_view line_;  // from the beginning of the current line on
   bool isTooLong_ = false;
 };
@@ -100,9 +73,7 @@ void ReadShape(DrawingFields& fields, DrawingRecord& record) {
 }
 
 // Whether a text would lose something when it is read without quotes.
-bool NeedsQuotes(std::string_view text) {
-  return text.find_first_of(kEnds) != text.npos || WithoutBlanks(text) != text;
-}
+bool NeedsQuotes(std::string_view text) { return DataItemReader(text).ReadTrimmedItem() != text; }
 
 std::string JoinFields(std::initializer_list<std::string> fields) {
   std::string joined;
@@ -164,7 +135,7 @@ std::optional<std::string> DrawnTextFault(std::string_view text) {
 
 Result<std::vector<DrawingRecord>> ReadDrawingFile(const GameSession& session) {
   const Result<std::string> text = ReadOptionalTextFile(session.DrawingFilePath);
-  if (!text) return Failure{text.Message()};
+  if (!text) return text.Error();
   return ParseDrawing(*text, TextFromPath(session.DrawingFilePath));
 }
 

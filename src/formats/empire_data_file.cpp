@@ -72,7 +72,7 @@ std::string SavedRacesMessage(std::string saved, const GameSession& session) {
 
 Result<void> ReadEmpireDataFile(GameSession& session) {
   const Result<std::string> text = ReadOptionalTextFile(session.EmpireDataFilePath);
-  if (!text) return Failure{text.Message()};
+  if (!text) return text.Error();
   ApplyEmpireData(*text, session);
   return {};
 }

@@ -98,7 +98,7 @@ Result<std::string> RaceColoursText(const GameSession& session) {
 Result<void> ReadRaceColourFile(GameSession& session) {
   if (!FindFile(session.RaceColourFilePath)) return {};
   const Result<std::string> text = ReadOptionalTextFile(session.RaceColourFilePath);
-  if (!text) return Failure{text.Message()};
+  if (!text) return text.Error();
   ApplyRaceColours(*text, session);
   return {};
 }

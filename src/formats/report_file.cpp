@@ -19,20 +19,31 @@ std::string_view BehindHeading(std::string_view text) {
 
 }  // namespace
 
-void ForEachOwnReportLine(std::string_view text, const VisitReportLine& visit) {
+std::vector<std::string_view> OwnReportLines(std::string_view text) {
+  std::vector<std::string_view> lines;
   std::string_view rest = BehindHeading(BeforeEndOfFile(text));
-  while (!rest.empty()) visit(TakeLine(rest));
+  while (!rest.empty()) {
+    const std::string_view line = TakeLine(rest);
+    if (!line.empty()) lines.push_back(line);
+  }
+  return lines;
 }
 
-void ForEachOtherReportLine(std::string_view text, const VisitReportLine& visit) {
+std::vector<std::string_view> OtherReportLines(std::string_view text,
+                                               std::deque<std::string>& unquoted) {
   text = BeforeEndOfFile(text);
+  std::vector<std::string_view> lines;
   DataItemReader reader(text);
   reader.ReadWholeLine();
-  std::string unquoted;
+  std::string own;
   for (std::size_t left = CountLines(BehindHeading(text)); left > 0 && !reader.IsExhausted();
        --left) {
-    visit(reader.ReadLineItem(unquoted));
+    const std::string_view line = reader.ReadLineItem(own);
+    if (line.empty()) continue;
+    const bool isInText = line.data() != own.data();
+    lines.push_back(isInText ? line : unquoted.emplace_back(line));
   }
+  return lines;
 }
 
 }  // namespace quorvane

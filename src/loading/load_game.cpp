@@ -37,10 +37,10 @@ void PlacePlanets(GameSession& session, const UniverseMap& map) {
 
 Result<void> ReadMap(GameSession& session) {
   const Result<std::string> text = ReadTextFile(session.MapFilePath);
-  if (!text) return Failure{text.Message()};
+  if (!text) return text.Error();
   const Result<UniverseMap> map =
       ParseUniverseMap(*text, TextFromPath(session.MapFilePath.filename()));
-  if (!map) return Failure{map.Message()};
+  if (!map) return map.Error();
   PlacePlanets(session, *map);
   return {};
 }
@@ -59,7 +59,7 @@ Result<void> MergeReports(GameSession& session, const Progress& progress) {
   if (session.MyRaceRow >= 1 && session.MyRaceRow <= kMaxPlayers) {
     const ReportFileSlot& own = session.ReportFiles.at(static_cast<std::size_t>(session.MyRaceRow));
     const Result<std::string> text = ReadReport(own);
-    if (!text) return Failure{text.Message()};
+    if (!text) return text.Error();
     merge.AddOwnReport(*text, own.Year);
   }
   for (int row = 1; row <= kMaxPlayers; ++row) {
@@ -67,7 +67,7 @@ Result<void> MergeReports(GameSession& session, const Progress& progress) {
     if (row == session.MyRaceRow || !FieldValue(other.Included).ReadsAs(1)) continue;
     if (progress.IsStopped()) return Failure{kLoadingStopped};
     const Result<std::string> text = ReadReport(other);
-    if (!text) return Failure{text.Message()};
+    if (!text) return text.Error();
     merge.AddOtherReport(*text, other.Year);
   }
   return {};
@@ -103,7 +103,7 @@ bool AnalysePlayers(GameSession& session, const Progress& progress) {
 Result<void> ReadCompanions(GameSession& session) {
   if (Result<void> colours = ReadRaceColourFile(session); !colours) return colours;
   Result<std::vector<DrawingRecord>> drawing = ReadDrawingFile(session);
-  if (!drawing) return Failure{drawing.Message()};
+  if (!drawing) return drawing.Error();
   session.DrawingLayer = std::move(*drawing);
   return ReadEmpireDataFile(session);
 }
@@ -117,9 +117,9 @@ Result<GameSession> LoadGame(const GameChoice& choice, std::string_view myRaceNa
   session.MyRaceName = myRaceName;
   session.Reset();
   session.CreatePlayerTable();
-  if (const Result<void> map = ReadMap(session); !map) return Failure{map.Message()};
+  if (const Result<void> map = ReadMap(session); !map) return map.Error();
   if (const Result<void> reports = MergeReports(session, progress); !reports) {
-    return Failure{reports.Message()};
+    return reports.Error();
   }
   if (!AnalysePlayers(session, progress)) return Failure{kLoadingStopped};
   for (int i = 1; i <= session.PlanetCount; ++i) {
@@ -127,7 +127,7 @@ Result<GameSession> LoadGame(const GameChoice& choice, std::string_view myRaceNa
     planet[PlanetField::ScoreValue] = PlanetScore(planet);
   }
   if (const Result<void> companions = ReadCompanions(session); !companions) {
-    return Failure{companions.Message()};
+    return companions.Error();
   }
   return session;
 }

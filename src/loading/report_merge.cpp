@@ -1,6 +1,7 @@
 #include "loading/report_merge.h"
 
 #include <algorithm>
+#include <deque>
 #include <utility>
 
 #include "formats/report_file.h"
@@ -60,17 +61,18 @@ double GateReading(const ReportLine& line, ReportField field) {
   return line.ReadsAs(field, -1) ? kUnlimitedGate : line.Number(field);
 }
 
-// Makes a line visitor that calls `merge` with the first planet that a line names and the line.
-// Overlong lines are passed over, as all planets of a name would keep a copy of what they say.
+// Calls `merge` with the first planet that each line names and the line.
 template <typename Merge>
-VisitReportLine MergeLines(const PlanetIndex& index, const Merge& merge) {
-  return [&index, merge](std::string_view text) {
-    if (text.size() > kLongestLine) return;
+void MergeLines(const PlanetIndex& index, const std::vector<std::string_view>& lines,
+                const Merge& merge) {
+  for (const std::string_view text : lines) {
+    // All planets of a name would keep a copy of what an overlong line says.
+    if (text.size() > kLongestLine) continue;
     const ReportLine line(text);
-    if (line.Count() == 0) return;
+    if (line.Count() == 0) continue;
     const int number = index.Find(line.Text(ReportField::PlanetName));
     if (number > 0) merge(number, line);
-  };
+  }
 }
 
 }  // namespace
@@ -97,7 +99,7 @@ void ReportMerge::AddOwnReport(std::string_view report, std::string_view year) {
     MergeOwnLine(session_.Planet(number), line, age);
     isKnown_.at(static_cast<std::size_t>(number)) = true;
   };
-  ForEachOwnReportLine(report, MergeLines(index_, merge));
+  MergeLines(index_, OwnReportLines(report), merge);
   ShareAmongNamesakes();
 }
 
@@ -110,7 +112,8 @@ void ReportMerge::AddOtherReport(std::string_view report, std::string_view year)
     if (age) *age += reportAge;
     MergeOtherLine(number, line, age);
   };
-  ForEachOtherReportLine(report, MergeLines(index_, merge));
+  std::deque<std::string> unquoted;
+  MergeLines(index_, OtherReportLines(report, unquoted), merge);
   ShareAmongNamesakes();
 }
 

@@ -67,6 +67,23 @@ std::string_view DataItemReader::ReadLineItem(std::string& unquoted) {
   return isQuoted ? unquoted += item : item;
 }
 
+std::string_view DataItemReader::ReadTrimmedItem() {
+  Skip(kNumberBlanks);
+  if (rest_.starts_with('"')) {
+    const std::string_view item = TakeQuoted();
+    TakeUntil(kItemEnds);
+    return item;
+  }
+  const std::string_view item = TakeUntil(kItemEnds);
+  return item.substr(0, item.find_last_not_of(kNumberBlanks) + 1);
+}
+
+bool DataItemReader::SkipComma() {
+  const bool isComma = rest_.starts_with(',');
+  if (isComma) rest_.remove_prefix(1);
+  return isComma;
+}
+
 std::string_view DataItemReader::ReadWholeLine() { return TakeLine(rest_); }
 
 void DataItemReader::Skip(std::string_view blanks) {

@@ -37,6 +37,11 @@ class DataItemReader {
   /// @param unquoted  holds the item where it had quotes
   /// @return a view of the text or of `unquoted`
   std::string_view ReadLineItem(std::string& unquoted);
+  /// An item without the blanks and TABs at both ends, a quoted one being what its quotes hold. The
+  /// comma or line end after it is not consumed.
+  std::string_view ReadTrimmedItem();
+  /// Goes behind a comma. @return false, and nothing happens, where none comes next
+  bool SkipComma();
   /// The rest of the current line as it stands; the reader goes on with the next line.
   std::string_view ReadWholeLine();
 

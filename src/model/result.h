@@ -13,7 +13,7 @@ struct Failure {
 
 /// Either a value or the sentence that the user will read instead of it.
 template <typename T>
-class Result {
+class [[nodiscard]] Result {
  public:
   Result(T value) : value_(std::move(value)) {}                      // NOLINT: meant to convert
   Result(Failure failure) : message_(std::move(failure.Message)) {}  // NOLINT: meant to convert
@@ -25,6 +25,8 @@ class Result {
   const T* operator->() const { return &*value_; }
   /// The sentence for the user; empty on success.
   const std::string& Message() const { return message_; }
+  /// The same as the outcome of a step that cannot go on: `if (!text) return text.Error();`
+  Failure Error() const { return {message_}; }
 
  private:
   std::optional<T> value_;
@@ -33,13 +35,14 @@ class Result {
 
 /// The outcome of a step that gives nothing back when it succeeds.
 template <>
-class Result<void> {
+class [[nodiscard]] Result<void> {
  public:
   Result() = default;
   Result(Failure failure) : message_(std::move(failure.Message)) {}  // NOLINT: meant to convert
 
   explicit operator bool() const { return !message_.has_value(); }
   std::string Message() const { return message_.value_or(""); }
+  Failure Error() const { return {Message()}; }
 
  private:
   std::optional<std::string> message_;

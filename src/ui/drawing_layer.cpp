@@ -29,7 +29,7 @@ void DrawingLayer::Show(std::vector<DrawingRecord> records) {
 
 Result<void> DrawingLayer::Read(const GameSession& session) {
   Result<std::vector<DrawingRecord>> records = ReadDrawingFile(session);
-  if (!records) return Failure{records.Message()};
+  if (!records) return records.Error();
   // A document of megabytes takes most of a second to make.
   const QString text = ToQString(DrawingLayerText(*records));
   if (text != editor_.Text()) editor_.ShowText(text);
