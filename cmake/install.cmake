@@ -13,6 +13,8 @@ file(CONFIGURE OUTPUT ${PROJECT_BINARY_DIR}/installed/Stars.ini
   CONTENT "StarsInstallDir=examples\n")
 
 set(data ${PROJECT_SOURCE_DIR}/data)
+set(metainfo io.github.quorvane.Quorvane.metainfo.xml)
+configure_file(${data}/quorvane.metainfo.xml.in ${PROJECT_BINARY_DIR}/installed/${metainfo} @ONLY)
 install(TARGETS quorvane RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/examples DESTINATION ${CMAKE_INSTALL_DATADIR}/quorvane
   PATTERN .gitattributes EXCLUDE)
@@ -25,8 +27,8 @@ foreach(side 48 64 128 256)
     DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/${side}x${side}/apps)
 endforeach()
 install(FILES ${data}/quorvane.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
-install(FILES ${data}/quorvane.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo
-  RENAME io.github.quorvane.Quorvane.metainfo.xml)
+install(FILES ${PROJECT_BINARY_DIR}/installed/${metainfo}
+  DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
 install(FILES ${data}/quorvane.6 DESTINATION ${CMAKE_INSTALL_MANDIR}/man6)
 install(FILES ${PROJECT_SOURCE_DIR}/docs/manual.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
 install(FILES ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR} RENAME copyright)

@@ -5,6 +5,8 @@
 #include <QStandardPaths>
 #include <QTimer>
 #include <QWindow>
+#include <cstdio>
+#include <string_view>
 
 #include "formats/settings_file.h"
 #include "loading/example_games.h"
@@ -15,6 +17,24 @@
 #include "ui/theme.h"
 
 namespace {
+
+constexpr const char* kHelp =
+    "Usage: quorvane [OPTION]\n"
+    "Shows the territories and planets of a Stars! game on a star map.\n\n"
+    "  --help     show this text and end\n"
+    "  --version  show the version and end\n\n"
+    "A dialog asks for the game. F1 opens the manual, \"man quorvane\" tells of the files.\n";
+
+// Answers what packagers and reports of faults need, without a display. Everything else on the
+// command line is ignored.
+bool AnswerCommandLine(int argc, char* argv[]) {
+  for (int i = 1; i < argc; ++i) {
+    const std::string_view option = argv[i];
+    if (option == "--version") return std::puts("Quorvane " QUORVANE_VERSION) >= 0;
+    if (option == "--help") return std::fputs(kHelp, stdout) >= 0;
+  }
+  return false;
+}
 
 // The program's own data lie beside it in a build folder, below share when it is installed.
 QString ProgramData() {
@@ -56,6 +76,7 @@ class FirstDialog : public QObject {
 }  // namespace
 
 int main(int argc, char* argv[]) {
+  if (AnswerCommandLine(argc, argv)) return 0;
   QApplication application(argc, argv);
   QApplication::setApplicationName("Quorvane");
   QApplication::setDesktopFileName("quorvane");

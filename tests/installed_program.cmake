@@ -28,6 +28,17 @@ if(metainfo_check)
     ${share}/metainfo/io.github.quorvane.Quorvane.metainfo.xml COMMAND_ERROR_IS_FATAL ANY)
 endif()
 
+# It answers without a display.
+foreach(answer "version;^Quorvane [0-9]+[.][0-9.]+\n$" "help;^Usage: quorvane")
+  list(POP_FRONT answer option)
+  execute_process(COMMAND ${CMAKE_COMMAND} -E env --unset=DISPLAY --unset=WAYLAND_DISPLAY
+      --unset=QT_QPA_PLATFORM ${place}/bin/quorvane ignored --${option}
+    TIMEOUT 10 OUTPUT_VARIABLE told RESULT_VARIABLE result)
+  if(NOT result EQUAL 0 OR NOT told MATCHES "${answer}")
+    message(SEND_ERROR "--${option} gave ${result} and said: ${told}")
+  endif()
+endforeach()
+
 # It shows its first dialog and waits, so that only the time limit ends it.
 file(MAKE_DIRECTORY ${place}/home)
 execute_process(COMMAND ${CMAKE_COMMAND} -E env --unset=XDG_DATA_HOME HOME=${place}/home
