@@ -10,7 +10,11 @@ fi
 
 . scripts/setup.sh
 # shellcheck disable=SC2086 # one word for each package
-install_packages $build_packages
+install_packages $program_packages
 echo "Building Quorvane ..."
-build_preset release
+# Without the tests and what they need, unless this clone has them already.
+tests=OFF
+if grep -qs model_tests build/release/build.ninja; then tests=ON; fi
+configure_preset release -DBUILD_TESTING="$tests"
+build_preset release --target quorvane
 exec build/release/quorvane "$@"

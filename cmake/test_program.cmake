@@ -13,8 +13,9 @@ function(quorvane_test_program folder path)
     # One entry for the whole program: a foreign program's list of tests has line ends of its own,
     # which discovery takes for part of the names, and each start under Wine takes its time.
     add_test(NAME ${name} COMMAND ${name})
+    set_tests_properties(${name} PROPERTIES TIMEOUT 600)
     return()
   endif()
   gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60
-    PROPERTIES ENVIRONMENT QT_QPA_PLATFORM=offscreen)
+    PROPERTIES ENVIRONMENT QT_QPA_PLATFORM=offscreen TIMEOUT 60)
 endfunction()

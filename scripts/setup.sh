@@ -1,8 +1,9 @@
+# shellcheck shell=bash disable=SC2034 # sourced by scripts that use the names below
 # What run.sh, test.sh and the continuous integration share: installing what the build needs and this
 # machine lacks, and building. Every step that is not possible stops with one plain sentence.
 
-build_packages="g++ cmake ninja-build qt6-base-dev qt6-svg-dev libqt6svg6 libgl-dev fonts-liberation
-  libgtest-dev libbenchmark-dev file dpkg-dev"
+program_packages="g++ cmake ninja-build qt6-base-dev qt6-svg-dev libqt6svg6 libgl-dev fonts-liberation"
+test_packages="$program_packages libgtest-dev libbenchmark-dev libcli11-dev file dpkg-dev"
 
 say() { printf '%s\n' "$*"; }
 stop() { printf '%s\n' "$*" >&2; exit 1; }
@@ -18,7 +19,7 @@ missing_packages() {
 install_packages() {
   command -v apt-get >/dev/null || {
     say "This is no Debian system: please install cmake 3.25, ninja, a C++20 compiler, Qt 6.4 (with" \
-      "its SVG module), GoogleTest and Google Benchmark yourself."
+      "its SVG module) and, for the tests, GoogleTest, Google Benchmark and CLI11 yourself."
     return 0
   }
   missing=$(missing_packages "$@")
@@ -38,12 +39,13 @@ install_packages() {
     $missing >/dev/null || stop "These packages could not be installed: $missing"
 }
 
-# Configures and builds a preset; further words go to the configuration.
+# Both take a preset, and further words for cmake.
+configure_preset() {
+  cmake --preset "$@" >"$(log_file configure)" 2>&1 || show_log configure
+}
+
 build_preset() {
-  preset=$1
-  shift
-  cmake --preset "$preset" "$@" >"$(log_file configure)" 2>&1 || show_log configure
-  cmake --build --preset "$preset" >"$(log_file build)" 2>&1 || show_log build
+  cmake --build --preset "$@" >"$(log_file build)" 2>&1 || show_log build
 }
 
 log_file() {

@@ -25,5 +25,6 @@ build_googletest() {
 echo "Building GoogleTest for Windows ..."
 build_googletest >"$(log_file googletest)" 2>&1 || show_log googletest
 echo "Building the tests for Windows ..."
-build_preset windows ${CI:+-DQUORVANE_WARNINGS_AS_ERRORS=ON}
+configure_preset windows ${CI:+-DQUORVANE_WARNINGS_AS_ERRORS=ON}
+build_preset windows
 ctest --preset windows "$@"

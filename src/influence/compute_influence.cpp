@@ -155,7 +155,7 @@ void InfluenceRun::PlaceColumns(GridRange columns) {
   places_.Columns = Extent(columns);
   for (int column = 0; column < kTileColumns; ++column) {
     const float x = LineAt(columns.First + std::min(column, columns.Count - 1));
-    std::fill_n(places_.X.data() + column * kTileRows, kTileRows, x);
+    std::fill_n(places_.X.data() + std::ptrdiff_t{column} * kTileRows, kTileRows, x);
   }
 }
 
@@ -166,14 +166,14 @@ void InfluenceRun::PlaceRows(GridRange rows) {
     y[static_cast<std::size_t>(row)] = LineAt(rows.First + std::min(row, rows.Count - 1));
   }
   for (int column = 0; column < kTileColumns; ++column) {
-    std::ranges::copy(y, places_.Y.data() + column * kTileRows);
+    std::ranges::copy(y, places_.Y.data() + std::ptrdiff_t{column} * kTileRows);
   }
 }
 
 // A point that nobody reaches counts for nobody, not even as reached but held by nobody.
 void InfluenceRun::StoreTile(const Tile& tile, const TileHolders& holders) {
   for (int column = 0; column < tile.Columns.Count; ++column) {
-    const auto first = static_cast<std::size_t>(column * kTileRows);
+    const std::size_t first = static_cast<std::size_t>(column) * kTileRows;
     InfluencePoint* const points = FirstPoint(tile, column);
     for (std::size_t row = 0; row < static_cast<std::size_t>(tile.Rows.Count); ++row) {
       const InfluencePoint point = holders.Points[first + row];

@@ -13,7 +13,7 @@ namespace quorvane {
 
 inline constexpr int kTileColumns = 10;  // the steps in which progress is shown
 inline constexpr int kTileRows = 8;
-inline constexpr std::size_t kTilePoints = kTileColumns * kTileRows;
+inline constexpr std::size_t kTilePoints = std::size_t{kTileColumns} * kTileRows;
 /// Tiles are bounded in blocks of this many: a strip has room for whole blocks.
 inline constexpr int kTileBlock = 4;
 
