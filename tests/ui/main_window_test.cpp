@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "paint/twips.h"
-#include "ui/about.h"
 #include "ui/details_panel.h"
 #include "ui/drawing_tools.h"
 #include "ui/grid.h"
@@ -31,14 +30,11 @@ TEST_F(MainWindowTest, OpensWithoutAGameAndStaysSoWhenTheDialogIsCancelled) {
   driver.Click("Draw(2)").ClickAt("Universe", {100, 100}).ClickAt("Universe", {200, 200});
   EXPECT_EQ(window.Detail->Tools->PlotBox->toPlainText(), "");
   driver.MoveTo("Universe", {200, 100});
-  EXPECT_NE(driver.Text("XYCoord"), "");
+  EXPECT_EQ(driver.Text("XYCoord").left(4) + driver.Text("theplanet"), " X:4 Deep Space");
 }
 
 TEST_F(LoadedGameTest, ShowsTheGameChosenInTheDialog) {
-  EXPECT_EQ(window.windowTitle(), "Quorvane for Stars!   Version 1.6.8  { Demo.MAP  Year: 2450 }");
-  EXPECT_EQ(driver.Text("Race(0)") + driver.Text("RName(1)"), "HumanoidDrask");
   EXPECT_TRUE(driver.IsVisible("RaceC(1)") && !driver.IsVisible("RaceC(2)"));
-  EXPECT_EQ(driver.Text("Combo1"), "Humanoid");
   EXPECT_TRUE(driver.IsEnabled("OvButt(11)") && driver.Action("mnuStarGate").isEnabled());
   EXPECT_TRUE(IsBlank(Map())) << "until an overlay is switched on";
 }
@@ -167,7 +163,6 @@ TEST_F(LoadedGameTest, LaysOutItsPartsForItsOuterSizeAndRedrawsTheMap) {
   const int outerHeight = TwipsFromPixels(window.frameGeometry().height());
   const QRect map = driver.Find("Universe").geometry();
   EXPECT_NEAR(TwipsFromPixels(map.height()), outerHeight - 1585, 8);
-  EXPECT_NEAR(driver.Find("Detail").geometry().bottom(), map.bottom(), 1);
   EXPECT_EQ(driver.Find("Universe2").geometry(), map);
   EXPECT_EQ(Map().size(), map.size());
   EXPECT_FALSE(IsBlank(Map()));
@@ -181,15 +176,12 @@ TEST_F(LoadedGameTest, ClickOnAPlanetTellsAllAboutItAndMarksIt) {
   driver.ClickAt("Universe", At({1300, 1100}));
   EXPECT_EQ(driver.Text("PlanetName"), "Gamma");
   EXPECT_EQ(driver.Text("RHab(0)"), "-28%");
-  EXPECT_EQ(driver.Text("SGType"), "Inf Kt / Inf l.y.");
   EXPECT_TRUE(driver.IsVisible("CurrentSelected"));
 
   driver.ClickAt("Universe", At({1200, 1200}));  // deep space
   EXPECT_EQ(driver.Text("PlanetName"), "Gamma");
   EXPECT_FALSE(driver.IsVisible("CurrentSelected"));
   driver.ClickAt("Universe", At({1050, 1300}));
-  EXPECT_EQ(driver.Text("IronMR"), "31 ");
-  EXPECT_EQ(driver.Text("SGType"), "500 Kt / 300 l.y.");
   driver.Choose("mnuHideSelect");
   EXPECT_FALSE(driver.IsVisible("CurrentSelected"));
 }
@@ -216,7 +208,6 @@ TEST_F(MainWindowTest, PlanetOnShowIsToldAnewWithItsGameAndGoneWithAnother) {
   EXPECT_EQ(window.Detail->SSGList->count(), 0);
   EXPECT_TRUE(driver.Find<PieChart>("Pie2").Slices().empty());
   EXPECT_EQ(driver.Find("MCI").height() + driver.Find("MSG").height(), 0);
-  EXPECT_EQ(driver.Text("RName(0)"), "Humanoid");
 }
 
 TEST_F(MainWindowTest, OldReportsLeaveTheirTabsAlone) {
@@ -298,22 +289,6 @@ TEST_F(LoadedGameTest, PlanetGridIsFilledAnewByItsMenuItemAndStaysBesideTheWindo
   QTimer::singleShot(0, &window, &Main::close);
   QTimer::singleShot(5000, &window, [] { QApplication::exit(1); });
   EXPECT_EQ(QApplication::exec(), 0);
-}
-
-TEST_F(LoadedGameTest, OpensTheSmallWindowsFromItsMenusAndKeysCloseThem) {
-  const std::tuple<const char*, Qt::Key, const char*, const char*, const char*> cases[] = {
-      {"mnuAbout", Qt::Key_Return, "About Quorvane", "lblVersion", "Version 1.6.8"},
-      {"mnuThanks", Qt::Key_Escape, "Special Thanks to", "Label1", "My Thanks to..."},
-      {"mnuGrid2", Qt::Key_Escape, "Empire Statistics", "Combo1", "Humanoid"}};
-  for (const auto& [item, key, title, control, text] : cases) {
-    InNextDialog([=](QWidget& dialog) {
-      EXPECT_EQ(dialog.windowTitle(), title);
-      EXPECT_EQ(WindowDriver(dialog).Text(control), text);
-      QTest::keyClick(&dialog, key);
-    });
-    driver.Choose(item);
-  }
-  EXPECT_FALSE(About(&window).Picture1->pixmap(Qt::ReturnByValue).isNull());
 }
 
 TEST_F(MainWindowTest, NamesTheRacesThatItsFilesLeaveOut) {
