@@ -33,9 +33,11 @@ class CaptionsTest : public LoadedGameTest {
     for (const char* key : {"shortcut", "key"}) {
       words << object.property(key).value<QKeySequence>().toString();
     }
-    if (const auto* box = qobject_cast<const QComboBox*>(&object)) words << Entries(*box->model());
-    if (const auto* list = qobject_cast<const QListView*>(&object)) {
-      words << Entries(*list->model());
+    const auto* box = qobject_cast<const QComboBox*>(&object);
+    const auto* list = qobject_cast<const QListView*>(&object);
+    const auto* entries = box != nullptr ? box->model() : list != nullptr ? list->model() : nullptr;
+    for (int row = 0; entries != nullptr && row < entries->rowCount(); ++row) {
+      words << entries->index(row, 0).data().toString();
     }
     if (!object.property("pixmap").value<QPixmap>().isNull()) words << "(a picture)";
     const auto* tabs = qobject_cast<const QTabWidget*>(&object);
@@ -51,13 +53,6 @@ class CaptionsTest : public LoadedGameTest {
       const bool isMenu = qobject_cast<const QMenu*>(part) != nullptr;
       if ((!isWindow || isMenu) && !kNotOurs.contains(part->objectName())) Tell(*part);
     }
-  }
-
-  static QStringList Entries(const QAbstractItemModel& model) {
-    QStringList entries;
-    for (int row = 0; row < model.rowCount(); ++row)
-      entries << model.index(row, 0).data().toString();
-    return entries;
   }
 
   void TellNextDialog() {

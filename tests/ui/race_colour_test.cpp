@@ -56,12 +56,5 @@ TEST_F(RaceColourTest, FrameOfTheFocusIsSeenWholeAboveTheNextSwatch) {
   EXPECT_EQ(shown.pixel(belowRight), QColor(Qt::white).rgb());
 }
 
-TEST_F(RaceColourTest, SwatchWorksByKeyboard) {
-  bool isOpen = false;
-  InNextDialog([&isOpen](QWidget& dialog) { isOpen = dialog.close(); });
-  driver.Press("RaceC(0)", Qt::Key_Space);
-  EXPECT_TRUE(isOpen);
-}
-
 }  // namespace
 }  // namespace quorvane
