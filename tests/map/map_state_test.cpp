@@ -6,7 +6,9 @@
 #include <initializer_list>
 #include <tuple>
 
+#include "map/planets_in_view.h"
 #include "map/redraw.h"
+#include "map/selection_marker.h"
 #include "support/game_builder.h"
 #include "support/map_views.h"
 
@@ -52,10 +54,9 @@ TEST(SettleSwitches, ArmsAZoomOnceAndKeepsTheViewUntilTheButtonIsReleased) {
 TEST(SettleSwitches, ClearMapTurnsAllOffButTheZoom) {
   MapState state = {.View = Zoomed(300, 400, 200), .ZoomArmed = 1};
   const OverlaySwitches zoom = On({OverlayKind::ZoomIn});
-  const Redraw redraw = SettleSwitches(
-      On({OverlayKind::ZoomIn, OverlayKind::ClearMap, OverlayKind::QvlDrawing}), state);
-  EXPECT_EQ(redraw.Switches, zoom);
-  EXPECT_FALSE(redraw.ReadsDrawing);
+  const auto all = {OverlayKind::ZoomIn, OverlayKind::ClearMap, OverlayKind::QvlDrawing};
+  const Redraw redraw = SettleSwitches(On(all), state);
+  EXPECT_TRUE(redraw.Switches == zoom && !redraw.ReadsDrawing);
 }
 
 TEST(SelectPlanet, KeepsItsStoredPlaceOrNone) {
@@ -108,6 +109,39 @@ TEST(ZoomBox, ShowsTheSquareBetweenTheTwoClicks) {
   EXPECT_EQ(EdgesOf(state.View), (std::array{100, 350, 202, 452}));
   EXPECT_EQ(state.View.MapScale, 10000.0 / 250);
   EXPECT_EQ(state.ClickMode, kOrdinaryClick);
+}
+
+TEST(PlanetAt, PicksTheLastPlanetWithinTheSquareOnAllFourEdges) {
+  GameBuilder game;
+  game.Planet("Alpha", {1500, 1500}).Planet("Beta", {1506, 1500}).Planet("Gamma", {1700, 1500});
+  const GameSession session = game.Build();
+  const std::tuple<SurfacePoint, int> cases[] = {
+      {{5000, 5000}, 1},   {{4950, 4950}, 1}, {{4949.9, 5000}, 0}, {{5000, 5050}, 1},
+      {{5000, 5050.1}, 0}, {{5010, 5000}, 2}, {{5009, 5000}, 1},   {{5110, 5000}, 2},
+      {{5110.1, 5000}, 0}, {{7000, 4950}, 3}, {{7000, 4949}, 0},   {{0, 0}, 0}};
+  for (const auto& [pointer, planet] : cases) {
+    EXPECT_EQ(PlanetAt(session, FullView(), pointer), planet) << pointer.X << "," << pointer.Y;
+  }
+  // 12.5 units to a light year: the reach of 62.5 is rounded to 62.
+  EXPECT_EQ(PlanetAt(session, Zoomed(100, 100, 800), {7562, 5000}), 3);
+  EXPECT_EQ(PlanetAt(session, Zoomed(100, 100, 800), {7438, 5000}), 3);
+  EXPECT_EQ(PlanetAt(session, Zoomed(100, 100, 800), {7437.9, 5000}), 0);
+  EXPECT_EQ(PlanetAt(GameSession(), MapView(), {1, 1}), 0);
+}
+
+TEST(MarkerAround, IsFortyFiveLightYearsWideAndGoneFarOutsideTheView) {
+  const std::tuple<const char*, MapView, int, int, std::optional<MarkerSquare>> cases[] = {
+      {"full view", FullView(), 500, 400, MarkerSquare{4775, 3775, 450}},
+      {"odd side", Zoomed(100, 100, 800), 500, 400, MarkerSquare{4719, 3469, 562.5}},
+      {"nothing selected", FullView(), 0, 0, std::nullopt},
+      {"stored X of 0", FullView(), 0, 400, std::nullopt},
+      {"outside", Zoomed(100, 100, 100), 400, 150, MarkerSquare{27750, 2750, 4500}},
+      {"far outside", Zoomed(100, 100, 100), 428, 150, std::nullopt},
+      {"far outside on the left", Zoomed(900, 100, 25), 10, 110, std::nullopt}};
+  for (const auto& [what, view, x, y, marker] : cases) {
+    EXPECT_EQ(MarkerAround(view, x, y), marker) << what;
+  }
+  EXPECT_EQ(MarkerColour(0, 0.5, 0.999), (Colour{192, 224, 255}));
 }
 
 }  // namespace

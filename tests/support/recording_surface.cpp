@@ -29,13 +29,11 @@ std::string After(std::string_view mark, std::string_view text) {
   return std::string(mark).append(text);
 }
 
-std::string ModeText(const Pen& pen) { return pen.Mode == DrawMode::Copy ? "copy" : "merge"; }
-
-std::string WidthText(const Pen& pen) { return After("w", std::to_string(pen.Width)); }
-
-std::string PenText(const Pen& pen) {
-  const std::string style = pen.Style == DrawStyle::Solid ? " solid " : " no-outline ";
-  return ModeText(pen) + style + WidthText(pen);
+// Points have no outline.
+std::string PenText(const Pen& pen, bool hasStyle = true) {
+  const char* style = pen.Style == DrawStyle::Solid ? " solid w" : " no-outline w";
+  return After(pen.Mode == DrawMode::Copy ? "copy" : "merge", hasStyle ? style : " w") +
+         std::to_string(pen.Width);
 }
 
 }  // namespace
@@ -57,7 +55,7 @@ std::shared_ptr<const SurfaceImage> RecordingSurface::Image() const {
 }
 
 void RecordingSurface::Point(SurfacePoint at, Colour colour) {
-  Draw({"point", PlaceText(at), ColourText(colour), ModeText(pen_), WidthText(pen_)});
+  Draw({"point", PlaceText(at), ColourText(colour), PenText(pen_, false)});
 }
 
 void RecordingSurface::Line(SurfacePoint from, SurfacePoint to, Colour colour) {

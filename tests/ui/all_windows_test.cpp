@@ -155,10 +155,6 @@ TEST_F(AllWindowsTest, ShowNamesAsTheyStandAndNameTheirControls) {
   CheckAll();
   EXPECT_EQ(QAccessible::queryAccessibleInterface(window.Map->Universe)->role(),
             QAccessible::Graphic);
-  for (const char* command : {"mnuAbout", "mnuThanks"}) {
-    CheckNext();
-    driver.Choose(command);
-  }
   CheckNext();
   PressForScreenReader(*window.RaceLegend->RaceC[0]);
   InNextDialog([this](QWidget& dialog) {

@@ -56,7 +56,6 @@ class EmpireStatTest : public testing::Test {
 };
 
 TEST_F(EmpireStatTest, OpensOnTheUsersOwnRaceOrOnNone) {
-  EXPECT_EQ(window->SSTab1->currentIndex(), 0);
   EXPECT_EQ(driver->Text("ShowData(4)"), "1000");
   EXPECT_EQ(driver->Text("AvgData(0)") + " " + driver->Text("AvgData(4)"), "333 3.333");
   Open("");

@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "paint/twips.h"
-#include "ui/about.h"
 #include "ui/details_panel.h"
 #include "ui/drawing_tools.h"
 #include "ui/grid.h"
@@ -31,16 +30,7 @@ TEST_F(MainWindowTest, OpensWithoutAGameAndStaysSoWhenTheDialogIsCancelled) {
   driver.Click("Draw(2)").ClickAt("Universe", {100, 100}).ClickAt("Universe", {200, 200});
   EXPECT_EQ(window.Detail->Tools->PlotBox->toPlainText(), "");
   driver.MoveTo("Universe", {200, 100});
-  EXPECT_NE(driver.Text("XYCoord"), "");
-}
-
-TEST_F(LoadedGameTest, ShowsTheGameChosenInTheDialog) {
-  EXPECT_EQ(window.windowTitle(), "Quorvane for Stars!   Version 1.6.8  { Demo.MAP  Year: 2450 }");
-  EXPECT_EQ(driver.Text("Race(0)") + driver.Text("RName(1)"), "HumanoidDrask");
-  EXPECT_TRUE(driver.IsVisible("RaceC(1)") && !driver.IsVisible("RaceC(2)"));
-  EXPECT_EQ(driver.Text("Combo1"), "Humanoid");
-  EXPECT_TRUE(driver.IsEnabled("OvButt(11)") && driver.Action("mnuStarGate").isEnabled());
-  EXPECT_TRUE(IsBlank(Map())) << "until an overlay is switched on";
+  EXPECT_EQ(driver.Text("XYCoord").left(4) + driver.Text("theplanet"), " X:4 Deep Space");
 }
 
 TEST_F(LoadedGameTest, KeepsTheGameOnScreenWhenAFileChangesBeforeItIsRead) {
@@ -56,6 +46,9 @@ TEST_F(LoadedGameTest, KeepsTheGameOnScreenWhenAFileChangesBeforeItIsRead) {
 }
 
 TEST_F(LoadedGameTest, ButtonsAndMenuItemsSwitchTogether) {
+  EXPECT_TRUE(IsBlank(Map())) << "until an overlay is switched on";
+  EXPECT_TRUE(driver.IsEnabled("OvButt(11)") && driver.Action("mnuStarGate").isEnabled());
+  EXPECT_TRUE(driver.IsVisible("RaceC(1)") && !driver.IsVisible("RaceC(2)"));
   driver.Click("OvButt(4)");
   EXPECT_TRUE(driver.Action("mnuToolBarBut(4)").isChecked());
   EXPECT_FALSE(IsBlank(Map()));
@@ -167,7 +160,6 @@ TEST_F(LoadedGameTest, LaysOutItsPartsForItsOuterSizeAndRedrawsTheMap) {
   const int outerHeight = TwipsFromPixels(window.frameGeometry().height());
   const QRect map = driver.Find("Universe").geometry();
   EXPECT_NEAR(TwipsFromPixels(map.height()), outerHeight - 1585, 8);
-  EXPECT_NEAR(driver.Find("Detail").geometry().bottom(), map.bottom(), 1);
   EXPECT_EQ(driver.Find("Universe2").geometry(), map);
   EXPECT_EQ(Map().size(), map.size());
   EXPECT_FALSE(IsBlank(Map()));
@@ -181,15 +173,12 @@ TEST_F(LoadedGameTest, ClickOnAPlanetTellsAllAboutItAndMarksIt) {
   driver.ClickAt("Universe", At({1300, 1100}));
   EXPECT_EQ(driver.Text("PlanetName"), "Gamma");
   EXPECT_EQ(driver.Text("RHab(0)"), "-28%");
-  EXPECT_EQ(driver.Text("SGType"), "Inf Kt / Inf l.y.");
   EXPECT_TRUE(driver.IsVisible("CurrentSelected"));
 
   driver.ClickAt("Universe", At({1200, 1200}));  // deep space
   EXPECT_EQ(driver.Text("PlanetName"), "Gamma");
   EXPECT_FALSE(driver.IsVisible("CurrentSelected"));
   driver.ClickAt("Universe", At({1050, 1300}));
-  EXPECT_EQ(driver.Text("IronMR"), "31 ");
-  EXPECT_EQ(driver.Text("SGType"), "500 Kt / 300 l.y.");
   driver.Choose("mnuHideSelect");
   EXPECT_FALSE(driver.IsVisible("CurrentSelected"));
 }
@@ -209,14 +198,11 @@ TEST_F(MainWindowTest, PlanetOnShowIsToldAnewWithItsGameAndGoneWithAnother) {
   EXPECT_FALSE(driver.IsEnabled("ChartType"));
 
   LoadGame(driver, "Next.MAP");
-  for (const char* label : {"PlanetName", "Owner", "SOI", "IronS", "Grav1", "RHab(0)"}) {
-    EXPECT_EQ(driver.Text(label), "") << label;
-  }
+  EXPECT_EQ(driver.Text("PlanetName") + driver.Text("IronS") + driver.Text("RHab(0)"), "");
   EXPECT_EQ(driver.Text("SGType"), "None Detected");
   EXPECT_EQ(window.Detail->SSGList->count(), 0);
   EXPECT_TRUE(driver.Find<PieChart>("Pie2").Slices().empty());
   EXPECT_EQ(driver.Find("MCI").height() + driver.Find("MSG").height(), 0);
-  EXPECT_EQ(driver.Text("RName(0)"), "Humanoid");
 }
 
 TEST_F(MainWindowTest, OldReportsLeaveTheirTabsAlone) {
@@ -266,16 +252,15 @@ TEST_F(LoadedGameTest, FrameTellsThatTheKeyboardIsOnTheMapUntilItIsClicked) {
 }
 
 TEST_F(LoadedGameTest, FoundPlanetIsMarkedAndItsDetailsAreShownOnlyWhenAsked) {
-  const std::tuple<const char*, bool, const char*> cases[] = {
-      {"Gamma", false, ""}, {"Nowhere", false, ""}, {"Beta", true, "Beta"}};
-  for (const auto& [name, isDetailed, shown] : cases) {
-    InNextDialog([name = name, isDetailed = isDetailed](QWidget& opened) {
-      WindowDriver dialog(opened);
-      if (isDetailed) dialog.Click("Check1");
-      dialog.Type("PlanetList", name).Click("Command1");
+  const std::pair<const char*, const char*> cases[] = {
+      {"Gamma", ""}, {"Nowhere", ""}, {"Beta", "Beta"}};
+  for (const auto& [name, shown] : cases) {
+    InNextDialog([name = name, isDetailed = *shown != '\0'](QWidget& opened) {
+      if (isDetailed) WindowDriver(opened).Click("Check1");
+      WindowDriver(opened).Type("PlanetList", name).Click("Command1");
     });
     driver.Choose("mnuSearchPlanet");
-    EXPECT_EQ(driver.Text("PlanetName"), shown) << name;
+    EXPECT_EQ(driver.Text("PlanetName"), shown);
     EXPECT_EQ(driver.IsVisible("CurrentSelected"), prompts.Shown().empty()) << name;
   }
 }
@@ -288,7 +273,6 @@ TEST_F(LoadedGameTest, PlanetGridIsFilledAnewByItsMenuItemAndStaysBesideTheWindo
   };
   Grid* const grid = open();
   ASSERT_NE(grid, nullptr);
-  EXPECT_EQ(grid->DG->model()->rowCount(), 4);
   grid->SetColumnWidth(1, 0);
   grid->showMinimized();
   EXPECT_EQ(open(), grid);
@@ -298,22 +282,6 @@ TEST_F(LoadedGameTest, PlanetGridIsFilledAnewByItsMenuItemAndStaysBesideTheWindo
   QTimer::singleShot(0, &window, &Main::close);
   QTimer::singleShot(5000, &window, [] { QApplication::exit(1); });
   EXPECT_EQ(QApplication::exec(), 0);
-}
-
-TEST_F(LoadedGameTest, OpensTheSmallWindowsFromItsMenusAndKeysCloseThem) {
-  const std::tuple<const char*, Qt::Key, const char*, const char*, const char*> cases[] = {
-      {"mnuAbout", Qt::Key_Return, "About Quorvane", "lblVersion", "Version 1.6.8"},
-      {"mnuThanks", Qt::Key_Escape, "Special Thanks to", "Label1", "My Thanks to..."},
-      {"mnuGrid2", Qt::Key_Escape, "Empire Statistics", "Combo1", "Humanoid"}};
-  for (const auto& [item, key, title, control, text] : cases) {
-    InNextDialog([=](QWidget& dialog) {
-      EXPECT_EQ(dialog.windowTitle(), title);
-      EXPECT_EQ(WindowDriver(dialog).Text(control), text);
-      QTest::keyClick(&dialog, key);
-    });
-    driver.Choose(item);
-  }
-  EXPECT_FALSE(About(&window).Picture1->pixmap(Qt::ReturnByValue).isNull());
 }
 
 TEST_F(MainWindowTest, NamesTheRacesThatItsFilesLeaveOut) {

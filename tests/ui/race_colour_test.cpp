@@ -16,8 +16,6 @@ class RaceColourTest : public LoadedGameTest {
 TEST_F(RaceColourTest, NewColourShowsOnMapAndLegend) {
   driver.Click("OvButt(4)");
   InNextDialog<RaceColour>([](RaceColour& dialog) {
-    EXPECT_EQ(dialog.windowTitle(), "Edit Race Colour for: Drask");
-    EXPECT_EQ(dialog.PN->text() + " " + dialog.PN2->text(), "1 2");
     dialog.RedSlide->setValue(10);
     dialog.BlueSlide->setValue(200);
     EXPECT_EQ(dialog.Picture1->Surface().Picture().pixelColor(66, 63), QColor(10, 255, 200));
@@ -44,6 +42,8 @@ TEST_F(RaceColourTest, DarkColoursAreRefusedAndClosingStoresNothing) {
   InNextDialog<RaceColour>([](RaceColour& dialog) { dialog.butOK->click(); });
   driver.ClickAt("RaceC(0)", {5, 5});
   EXPECT_NE(driver.Find("RaceC(0)").grab().toImage(), before) << "discs have outlines now";
+  Load();
+  EXPECT_EQ(driver.Find("RaceC(0)").grab().toImage(), before);
 }
 
 TEST_F(RaceColourTest, FrameOfTheFocusIsSeenWholeAboveTheNextSwatch) {
@@ -54,13 +54,6 @@ TEST_F(RaceColourTest, FrameOfTheFocusIsSeenWholeAboveTheNextSwatch) {
   const QImage shown = swatch.parentWidget()->grab().toImage();
   EXPECT_EQ(shown.pixel(swatch.pos()), QColor(Qt::white).rgb());
   EXPECT_EQ(shown.pixel(belowRight), QColor(Qt::white).rgb());
-}
-
-TEST_F(RaceColourTest, SwatchWorksByKeyboard) {
-  bool isOpen = false;
-  InNextDialog([&isOpen](QWidget& dialog) { isOpen = dialog.close(); });
-  driver.Press("RaceC(0)", Qt::Key_Space);
-  EXPECT_TRUE(isOpen);
 }
 
 }  // namespace
