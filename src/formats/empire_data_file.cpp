@@ -50,8 +50,7 @@ void ApplyEmpireData(std::string_view text, GameSession& session) {
 
 Result<std::string> EmpireDataText(const GameSession& session) {
   std::string text;
-  for (int number = 1; number <= session.PlayerCount; ++number) {
-    const PlayerRecord& player = session.Player(number);
+  for (const PlayerRecord& player : session.Players()) {
     if (!IsItemText(player.Name())) continue;
     const Result<std::string> record = RecordText(player);
     if (!record) return Failure{"Nothing was saved. " + player.Name() + ": " + record.Message()};
@@ -62,8 +61,8 @@ Result<std::string> EmpireDataText(const GameSession& session) {
 
 std::string SavedRacesMessage(std::string saved, const GameSession& session) {
   std::string names;
-  for (int number = 1; number <= session.PlayerCount; ++number) {
-    const std::string& name = session.Player(number).Name();
+  for (const PlayerRecord& player : session.Players()) {
+    const std::string& name = player.Name();
     if (!IsItemText(name)) names += (names.empty() ? "" : ", ") + Excerpt(name);
   }
   if (names.empty()) return saved;

@@ -39,8 +39,8 @@ using SlotMarks = std::array<bool, kColourSlots + 1>;
 
 SlotMarks SlotsHeld(const GameSession& session) {
   SlotMarks isHeld = {};
-  for (int player = 1; player <= session.PlayerCount; ++player) {
-    isHeld.at(static_cast<std::size_t>(session.Player(player).ColourSlot())) = true;
+  for (const PlayerRecord& player : session.Players()) {
+    isHeld.at(static_cast<std::size_t>(player.ColourSlot())) = true;
   }
   return isHeld;
 }
@@ -53,8 +53,8 @@ int LowestFree(const SlotMarks& isUsed) {
 // Players without a slot get the lowest free one. In a file that names a race twice, a slot that
 // the race gave up counts as used, until no other is left.
 void FillFreeSlots(GameSession& session, SlotMarks isUsed) {
-  for (int player = 1; player <= session.PlayerCount; ++player) {
-    FieldValue& slot = session.Player(player)[PlayerField::ColourSlot];
+  for (PlayerRecord& player : session.Players()) {
+    FieldValue& slot = player[PlayerField::ColourSlot];
     if (slot.Number() != 0) continue;
     if (LowestFree(isUsed) == 0) isUsed = SlotsHeld(session);
     slot = LowestFree(isUsed);

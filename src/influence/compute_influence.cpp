@@ -25,8 +25,7 @@ constexpr std::size_t kPlanetsBetweenQuestions = 50'000;
 InfluenceList ListPlanets(const GameSession& session) {
   InfluenceList planets;
   std::map<int, ShareKind> kinds;  // by radius
-  for (int i = 1; i <= session.PlanetCount; ++i) {
-    const PlanetRecord& planet = session.Planet(i);
+  for (const PlanetRecord& planet : session.Planets()) {
     const auto whole = [&](PlanetField field) { return ToWhole16(planet[field].Number()); };
     const std::int16_t radius = whole(PlanetField::SoiRadius);
     const std::int16_t owner = whole(PlanetField::OwnerIndex);

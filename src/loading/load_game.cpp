@@ -75,13 +75,8 @@ Result<void> MergeReports(GameSession& session, const Progress& progress) {
 
 // Immunities and traits are not in the reports: nobody has any until the empire data file says so.
 void ClearTraits(PlayerRecord& player) {
-  for (const PlayerField field :
-       {PlayerField::GravImmune, PlayerField::TempImmune, PlayerField::RadImmune}) {
-    player[field] = 0;
-  }
-  for (std::size_t trait = 0; trait < kLesserTraitCount; ++trait) {
-    player.Field(static_cast<std::size_t>(PlayerField::LesserTraits) + trait) = 0;
-  }
+  for (const std::size_t kind : {0U, 1U, 2U}) player.Immunity(kind) = 0;
+  for (std::size_t trait = 0; trait < kLesserTraitCount; ++trait) player.Trait(trait) = 0;
   player[PlayerField::PrimaryTrait] = "";
   player[PlayerField::NotesText] = "";
 }
@@ -122,8 +117,7 @@ Result<GameSession> LoadGame(const GameChoice& choice, std::string_view myRaceNa
     return reports.Error();
   }
   if (!AnalysePlayers(session, progress)) return Failure{kLoadingStopped};
-  for (int i = 1; i <= session.PlanetCount; ++i) {
-    PlanetRecord& planet = session.Planet(i);
+  for (PlanetRecord& planet : session.Planets()) {
     planet[PlanetField::ScoreValue] = PlanetScore(planet);
   }
   if (const Result<void> companions = ReadCompanions(session); !companions) {

@@ -35,10 +35,10 @@ void PaintColourDiscs(Colour colour, DrawingSurface& surface, SurfacePoint centr
   constexpr int kDiscs = 10;
   surface.SetPen({.Mode = DrawMode::Copy, .Style = DrawStyle::Solid, .Filled = true, .Width = 1});
   for (int disc = kDiscs; disc > 0; --disc) {
-    const auto dimmed = [disc](int component) {
+    const auto byDisc = [disc](int component) {
       return ToWhole32(static_cast<double>(component) / disc);
     };
-    const Colour shade = {dimmed(colour.Red), dimmed(colour.Green), dimmed(colour.Blue)};
+    const Colour shade = {byDisc(colour.Red), byDisc(colour.Green), byDisc(colour.Blue)};
     surface.SetFillColour(shade);
     surface.Circle(centre, step * disc, outline.value_or(shade));
   }

@@ -62,7 +62,7 @@ void DrawCurrentHabValues(const GameSession& session, const MapView& view,
     const FieldValue& reported = planet[PlanetField::HabValue];
     if (FieldText(reported).empty()) continue;
     const int value = ToWhole16(reported.Number());
-    DrawDisc(surface, at, HabRadius(value, !planet.AgeText().empty()), HabColour(value));
+    DrawDisc(surface, at, HabRadius(value, planet.IsExplored()), HabColour(value));
   }
 }
 
@@ -73,11 +73,10 @@ void DrawEstimatedHabValues(const GameSession& session, const MapView& view,
   int value = 0;
   for (int number = 1; number <= session.PlanetCount; ++number) {
     const PlanetRecord& planet = session.Planet(number);
-    const bool isKnown = planet[PlanetField::Radiation].Number() > 0;
-    if (race > 0 && isKnown) value = EstimatedHab(session, race, number);
+    if (race > 0 && planet.IsEnvironmentKnown()) value = EstimatedHab(session, race, number);
     if (!view.Contains(planet.X(), planet.Y())) continue;
     const SurfacePoint at = PositionOf(planet, view);
-    if (planet.AgeText().empty()) {
+    if (!planet.IsExplored()) {
       DrawUnexploredDisc(surface, at);
     } else if (race > 0) {
       DrawDisc(surface, at, HabRadius(value, true), HabColour(value));

@@ -49,8 +49,8 @@ Shades ShadesOf(const GameSession& session, int player) {
   Shades shades;
   for (int strength = 0; strength <= kFullStrength; ++strength) {
     // Divided first, unlike `TimesHundredths`: 7 % of 150 is a hair above 10.5, and a shade of 11.
-    const auto dimmed = [&](int component) { return ToWhole16(strength / 100.0 * component); };
-    shades.push_back({dimmed(full->Red), dimmed(full->Green), dimmed(full->Blue)});
+    const auto byStrength = [&](int component) { return ToWhole16(strength / 100.0 * component); };
+    shades.push_back({byStrength(full->Red), byStrength(full->Green), byStrength(full->Blue)});
   }
   return shades;
 }

@@ -17,7 +17,7 @@ void DrawConcentration(const GameSession& session, const MapView& view, DrawingS
   surface.SetPen(pen);
   for (const auto& [planet, at] : PlanetsInView(session, view)) {
     const int concentration = ToWhole16(planet[mineral].Number());
-    if (concentration == 0 && planet.AgeText().empty()) {
+    if (concentration == 0 && !planet.IsExplored()) {
       DrawUnexploredDisc(surface, at);
     } else {
       DrawDisc(surface, at, concentration, colour);

@@ -18,8 +18,7 @@ bool IsNear(double place, double pointer, double reach) {
 
 std::vector<PlanetInView> PlanetsInView(const GameSession& session, const MapView& view) {
   std::vector<PlanetInView> planets;
-  for (int number = 1; number <= session.PlanetCount; ++number) {
-    const PlanetRecord& planet = session.Planet(number);
+  for (const PlanetRecord& planet : session.Planets()) {
     if (view.Contains(planet.X(), planet.Y()))
       planets.push_back({planet, PositionOf(planet, view)});
   }

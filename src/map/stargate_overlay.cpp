@@ -37,8 +37,8 @@ struct Link {
 
 std::vector<Gate> GatesOf(const GameSession& session) {
   std::vector<Gate> gates;
-  for (int number = 1; number <= session.PlanetCount; ++number) {
-    const Gate gate = GateOf(session.Planet(number));
+  for (const PlanetRecord& planet : session.Planets()) {
+    const Gate gate = GateOf(planet);
     if (gate.Range > 0) gates.push_back(gate);
   }
   return gates;

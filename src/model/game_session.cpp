@@ -1,6 +1,29 @@
 #include "model/game_session.h"
 
 namespace quorvane {
+namespace {
+
+// Record 0 of a table is no planet and no player.
+template <typename Record, typename Table>
+std::span<Record> Numbered(Table& table, int count) {
+  if (count == 0) return {};
+  return std::span<Record>(table).subspan(1, static_cast<std::size_t>(count));
+}
+
+}  // namespace
+
+std::span<PlanetRecord> GameSession::Planets() {
+  return Numbered<PlanetRecord>(PlanetTable, PlanetCount);
+}
+std::span<const PlanetRecord> GameSession::Planets() const {
+  return Numbered<const PlanetRecord>(PlanetTable, PlanetCount);
+}
+std::span<PlayerRecord> GameSession::Players() {
+  return Numbered<PlayerRecord>(PlayerTable, PlayerCount);
+}
+std::span<const PlayerRecord> GameSession::Players() const {
+  return Numbered<const PlayerRecord>(PlayerTable, PlayerCount);
+}
 
 void GameSession::Reset() {
   PlanetCount = 0;

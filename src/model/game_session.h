@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -55,6 +56,13 @@ struct GameSession : GameChoice {
   const PlayerRecord& Player(int number) const {
     return PlayerTable.at(static_cast<std::size_t>(number));
   }
+
+  /// The planets 1 … `PlanetCount`, in map order.
+  std::span<PlanetRecord> Planets();
+  std::span<const PlanetRecord> Planets() const;
+  /// The players 1 … `PlayerCount`.
+  std::span<PlayerRecord> Players();
+  std::span<const PlayerRecord> Players() const;
 
   /// Empties the session as every load begins: no planets, default race colours.
   void Reset();

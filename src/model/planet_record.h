@@ -82,6 +82,10 @@ class PlanetRecord {
   /// Whether a starbase is known to orbit the planet.
   bool HasStarbase() const { return !Starbase().empty() && Starbase() != kNoStarbase; }
   const std::string& AgeText() const { return (*this)[PlanetField::AgeText].Text(); }
+  /// Whether anybody has ever reported of the planet.
+  bool IsExplored() const { return !AgeText().empty(); }
+  /// Whether gravity, temperature and radiation are known; nobody lives with a radiation of 0.
+  bool IsEnvironmentKnown() const { return (*this)[PlanetField::Radiation].Number() > 0; }
   double Population() const { return (*this)[PlanetField::Population].Number(); }
   int SoiRadius() const { return WholeOf(PlanetField::SoiRadius); }
   /// Number of the owner in the player table; 0: nobody.

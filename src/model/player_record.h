@@ -51,6 +51,19 @@ class PlayerRecord {
     return Field(static_cast<std::size_t>(field));
   }
 
+  /// The flag of a lesser trait 0 … 13: 1 where the race has it.
+  FieldValue& Trait(std::size_t trait) {
+    return Field(NumberOf(PlayerField::LesserTraits) + trait);
+  }
+  const FieldValue& Trait(std::size_t trait) const {
+    return Field(NumberOf(PlayerField::LesserTraits) + trait);
+  }
+  /// Whether the race is immune to gravity (0), temperature (1) or radiation (2): 1 where it is.
+  FieldValue& Immunity(std::size_t kind) { return Field(NumberOf(PlayerField::GravImmune) + kind); }
+  const FieldValue& Immunity(std::size_t kind) const {
+    return Field(NumberOf(PlayerField::GravImmune) + kind);
+  }
+
   const std::string& Name() const { return (*this)[PlayerField::Name].Text(); }
   /// The player's slot in the race colours, 1 … 16; 0: no colour, the player is not drawn.
   int ColourSlot() const { return static_cast<int>((*this)[PlayerField::ColourSlot].Number()); }
@@ -58,6 +71,8 @@ class PlayerRecord {
   bool operator==(const PlayerRecord&) const = default;
 
  private:
+  static std::size_t NumberOf(PlayerField field) { return static_cast<std::size_t>(field); }
+
   std::array<FieldValue, kPlayerFieldCount + 1> fields_;  // 0 is not used
 };
 

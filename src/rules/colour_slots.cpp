@@ -4,8 +4,8 @@ namespace quorvane {
 
 int ColourSlotOf(const GameSession& session, std::string_view raceName) {
   int slot = 0;
-  for (int player = 1; player <= session.PlayerCount; ++player) {
-    if (session.Player(player).Name() == raceName) slot = session.Player(player).ColourSlot();
+  for (const PlayerRecord& player : session.Players()) {
+    if (player.Name() == raceName) slot = player.ColourSlot();
   }
   return slot;
 }

@@ -34,8 +34,7 @@ void GatherPlayer(GameSession& session, int number) {
   int planets = 0;
   int largePlanets = 0;
   double sums[std::size(kTotals)] = {};
-  for (int i = 1; i <= session.PlanetCount; ++i) {
-    const PlanetRecord& planet = session.Planet(i);
+  for (const PlanetRecord& planet : session.Planets()) {
     if (planet.OwnerIndex() != number) continue;
     ++planets;
     if (planet.Population() > kLargePopulation) ++largePlanets;
@@ -56,8 +55,7 @@ void GatherPlayer(GameSession& session, int number) {
 void DiscoverPlayers(GameSession& session) {
   session.PlayerCount = 0;
   std::unordered_set<std::string_view> leftOut;  // a damaged report may name thousands
-  for (int i = 1; i <= session.PlanetCount; ++i) {
-    PlanetRecord& planet = session.Planet(i);
+  for (PlanetRecord& planet : session.Planets()) {
     const std::string& owner = planet.Owner();
     int player = owner.empty() ? 0 : session.FindPlayerByName(owner);
     if (!owner.empty() && player == 0) {
@@ -79,8 +77,8 @@ void GatherStatistics(GameSession& session) {
 void ConvertTerritories(GameSession& session) {
   const double grid = session.GridSize;
   const double side = session.UniverseExtent - kUniverseOrigin;
-  for (int number = 1; number <= session.PlayerCount; ++number) {
-    FieldValue& territory = session.Player(number)[PlayerField::Territory];
+  for (PlayerRecord& player : session.Players()) {
+    FieldValue& territory = player[PlayerField::Territory];
     // Divided first: 507 points of a universe of 1200 light years count as 1727, not as 1728.
     territory = FloorToWhole32(territory.Number() / (grid * grid) * (side * side));
   }

@@ -37,8 +37,7 @@ void Store(PlayerRecord& player, const HabRanges& ranges) {
 
 HabRanges Scan(const GameSession& session, int player) {
   HabRanges ranges;
-  for (int number = 1; number <= session.PlanetCount; ++number) {
-    const PlanetRecord& planet = session.Planet(number);
+  for (const PlanetRecord& planet : session.Planets()) {
     if (planet.Owner().empty() || planet.OwnerIndex() != player) continue;
     ranges.Gravity.Include(planet[PlanetField::Gravity].Number());
     ranges.Temperature.Include(planet[PlanetField::Temperature].Number());

@@ -48,9 +48,6 @@ double OtherEnd(const PlayerRecord& player, PlayerField limit) {
   const auto field = static_cast<std::size_t>(limit);
   return player.Field(IsMinimum(limit) ? field + 1 : field - 1).Number();
 }
-const FieldValue& Immunity(const PlayerRecord& player, PlayerField limit) {
-  return player.Field(static_cast<std::size_t>(PlayerField::GravImmune) + IndexOf(limit) / 2);
-}
 
 }  // namespace
 
@@ -67,7 +64,7 @@ std::array<std::string, kAverageCount> AverageTexts(const PlayerRecord& player) 
 }
 
 std::string RangeCaption(const PlayerRecord& player, PlayerField limit) {
-  if (Immunity(player, limit).ReadsAs(1)) return std::string(kImmuneCaption);
+  if (player.Immunity(IndexOf(limit) / 2).ReadsAs(1)) return std::string(kImmuneCaption);
   return FieldText(player[limit]);
 }
 

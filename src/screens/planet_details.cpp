@@ -15,7 +15,7 @@ std::string OrNone(const std::string& owner) { return owner.empty() ? "None" : o
 
 void AppendIdentity(std::vector<DetailText>& texts, const PlanetRecord& planet) {
   const auto text = [&](Field field) { return FieldText(planet[field]); };
-  const bool isExplored = !planet.AgeText().empty();
+  const bool isExplored = planet.IsExplored();
   const std::string age(Trimmed(planet.AgeText()));
   texts.insert(texts.end(), {{"PlanetName", planet.Name()},
                              {"StarsScore", text(Field::ScoreValue)},
@@ -78,7 +78,7 @@ std::vector<DetailText> DescribePlanet(const GameSession& session, int planet) {
 }
 
 std::vector<std::string> HabTexts(const GameSession& session, int planet) {
-  const bool isKnown = session.Planet(planet)[Field::Radiation].Number() > 0;
+  const bool isKnown = session.Planet(planet).IsEnvironmentKnown();
   std::vector<std::string> texts;
   for (int player = 1; player <= session.PlayerCount; ++player) {
     texts.push_back(isKnown ? NumberText(EstimatedHab(session, player, planet)) + "%" : "N/A");

@@ -55,13 +55,13 @@ std::vector<PlanetGridColumn> ColumnsFor(const GameSession& session) {
   std::vector<PlanetGridColumn> columns;
   columns.reserve(kFixedColumns.size() + static_cast<std::size_t>(session.PlayerCount));
   for (const auto& [heading, width] : kFixedColumns) columns.push_back({heading, width});
-  for (int player = 1; player <= session.PlayerCount; ++player) {
-    columns.push_back({.Heading = session.Player(player).Name() + "\r\nEst Hab %"});
+  for (const PlayerRecord& player : session.Players()) {
+    columns.push_back({.Heading = player.Name() + "\r\nEst Hab %"});
   }
   return columns;
 }
 
-Colour Darkened(Colour colour) {
+Colour AThirdOf(Colour colour) {
   const auto third = [](int component) { return static_cast<int>(ToWhole16(component / 3.0)); };
   return {third(colour.Red), third(colour.Green), third(colour.Blue)};
 }
@@ -89,7 +89,7 @@ PlanetGridRow RowFor(const GameSession& session, int number, std::size_t columnC
   const PlanetRecord& planet = session.Planet(number);
   const Colour* colour = session.ColourOf(planet.OwnerIndex());
   PlanetGridRow row;
-  if (colour != nullptr) row.Background = Darkened(*colour);
+  if (colour != nullptr) row.Background = AThirdOf(*colour);
   row.Cells.reserve(columnCount);
   for (std::size_t field = 1; field <= kFieldColumns; ++field) {
     row.Cells.push_back(FieldCell(session, planet, static_cast<PlanetField>(field)));

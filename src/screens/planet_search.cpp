@@ -4,8 +4,7 @@ namespace quorvane {
 
 std::vector<std::string> PlanetEntries(const GameSession& session) {
   std::vector<std::string> entries;
-  for (int number = 1; number <= session.PlanetCount; ++number) {
-    const PlanetRecord& planet = session.Planet(number);
+  for (const PlanetRecord& planet : session.Planets()) {
     const std::string owner = planet.Owner().empty() ? "" : " (" + planet.Owner() + ")";
     entries.push_back(planet.Name() + owner);
   }

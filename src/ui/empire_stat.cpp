@@ -5,6 +5,7 @@
 #include <QLineEdit>
 #include <QScopedValueRollback>
 #include <QVBoxLayout>
+#include <utility>
 
 #include "formats/empire_data_file.h"
 #include "model/text.h"
@@ -16,10 +17,6 @@ namespace quorvane {
 namespace {
 
 constexpr const char* kSelectorText = "Select an Empire";
-
-FieldValue& At(PlayerRecord& player, PlayerField first, std::size_t index) {
-  return player.Field(static_cast<std::size_t>(first) + index);
-}
 
 bool IsEnter(const QKeyEvent& key) {
   return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
@@ -112,8 +109,8 @@ void EmpireStat::ConnectControls() {
 
 // The box would choose its first entry when it is filled; only then is it listened to.
 void EmpireStat::FillSelector() {
-  for (int player = 1; player <= session_.PlayerCount; ++player) {
-    Combo1->addItem(ToQString(session_.Player(player).Name()));
+  for (const PlayerRecord& player : std::as_const(session_).Players()) {
+    Combo1->addItem(ToQString(player.Name()));
   }
   Combo1->setCurrentIndex(-1);
   Combo1->setEditText(kSelectorText);
@@ -182,7 +179,7 @@ void EmpireStat::ShowData_Click(std::size_t index) {
 
 void EmpireStat::ImmuneMark_Click(std::size_t index) {
   if (FillingControls) return;  // the range labels follow when all boxes are set
-  At(Current(), PlayerField::GravImmune, index) = Race->ImmuneMark[index]->isChecked() ? 1 : 0;
+  Current().Immunity(index) = Race->ImmuneMark[index]->isChecked() ? 1 : 0;
   Race->ShowRanges(Current());
 }
 
@@ -193,7 +190,7 @@ void EmpireStat::RacePRT_Click() {
 
 void EmpireStat::LRT_Click(std::size_t index) {
   if (FillingControls) return;
-  At(Current(), PlayerField::LesserTraits, index) = Race->LRT[index]->isChecked() ? 1 : 0;
+  Current().Trait(index) = Race->LRT[index]->isChecked() ? 1 : 0;
 }
 
 void EmpireStat::RaceNotes_Change() {

@@ -85,8 +85,8 @@ Result<GameSession> Main::RunLoad() {
 void Main::ShowLoadedGame() {
   ResetWindow();
   setWindowTitle(PlainTitle(ToQString(MainCaption(QUORVANE_VERSION, &session_))));
-  for (int player = 1; player <= session_.PlayerCount; ++player) {
-    Combo1->addItem(ToQString(session_.Player(player).Name()));
+  for (const PlayerRecord& player : session_.Players()) {
+    Combo1->addItem(ToQString(player.Name()));
   }
   RaceLegend->ShowPlayers(session_);
   Detail->ShowLoadedGame(session_);

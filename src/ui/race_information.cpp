@@ -46,8 +46,6 @@ constexpr const char* kHelp =
 
 // The fields of a kind lie side by side, and so do those of the kinds.
 constexpr auto kFirstRange = static_cast<std::size_t>(PlayerField::GravMin);
-constexpr auto kFirstImmunity = static_cast<std::size_t>(PlayerField::GravImmune);
-constexpr auto kFirstTrait = static_cast<std::size_t>(PlayerField::LesserTraits);
 
 }  // namespace
 
@@ -145,14 +143,14 @@ QGridLayout* RaceInformation::NewTraitGrid() {
 
 void RaceInformation::ShowPlayer(const PlayerRecord& player) {
   for (std::size_t kind = 0; kind < ImmuneMark.size(); ++kind) {
-    ImmuneMark[kind]->setChecked(player.Field(kFirstImmunity + kind).ReadsAs(1));
+    ImmuneMark[kind]->setChecked(player.Immunity(kind).ReadsAs(1));
   }
   ShowRanges(player);
   const QString trait = ToQString(FieldText(player[PlayerField::PrimaryTrait]));
   RacePRT->setCurrentIndex(RacePRT->findText(trait));
   RacePRT->setEditText(trait);
   for (std::size_t i = 0; i < LRT.size(); ++i) {
-    LRT[i]->setChecked(player.Field(kFirstTrait + i).ReadsAs(1));
+    LRT[i]->setChecked(player.Trait(i).ReadsAs(1));
   }
 }
 
