@@ -2,6 +2,7 @@
 #include <QKeySequence>
 #include <QListView>
 #include <QMenu>
+#include <QRegularExpression>
 #include <QTabWidget>
 #include <fstream>
 #include <sstream>
@@ -44,7 +45,8 @@ class CaptionsTest : public LoadedGameTest {
     for (int tab = 0; tabs != nullptr && tab < tabs->count(); ++tab) words << tabs->tabText(tab);
     words.removeAll("");
     words.removeDuplicates();
-    const QString line = words.join(" | ").replace('\n', '/').remove('\r') + " |";
+    QString line = words.join(" | ").replace('\n', '/').remove('\r') + " |";
+    line.replace(QRegularExpression("Version [0-9.]+"), "Version ...");
     // A menu and the item that opens it tell the same.
     if (words.size() > 1 && line != told.value(told.size() - 1)) told << line;
     for (const QObject* part : object.children()) {
