@@ -84,7 +84,7 @@ class PlanetRecord {
   const std::string& AgeText() const { return (*this)[PlanetField::AgeText].Text(); }
   /// Whether anybody has ever reported of the planet.
   bool IsExplored() const { return !AgeText().empty(); }
-  /// Whether gravity, temperature and radiation are known; nobody lives with a radiation of 0.
+  /// Whether gravity, temperature and radiation are known: radiation reads as 0 until then.
   bool IsEnvironmentKnown() const { return (*this)[PlanetField::Radiation].Number() > 0; }
   double Population() const { return (*this)[PlanetField::Population].Number(); }
   int SoiRadius() const { return WholeOf(PlanetField::SoiRadius); }

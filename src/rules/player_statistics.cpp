@@ -75,12 +75,12 @@ void GatherStatistics(GameSession& session) {
 }
 
 void ConvertTerritories(GameSession& session) {
-  const double grid = session.GridSize;
+  const double gridSteps = session.GridSize;
   const double side = session.UniverseExtent - kUniverseOrigin;
   for (PlayerRecord& player : session.Players()) {
     FieldValue& territory = player[PlayerField::Territory];
     // Divided first: 507 points of a universe of 1200 light years count as 1727, not as 1728.
-    territory = FloorToWhole32(territory.Number() / (grid * grid) * (side * side));
+    territory = FloorToWhole32(territory.Number() / (gridSteps * gridSteps) * (side * side));
   }
 }
 

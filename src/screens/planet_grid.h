@@ -8,7 +8,7 @@
 
 namespace quorvane {
 
-/// The width of a column that leaves it to the grid.
+/// The width of a column that leaves it to the planet grid.
 inline constexpr int kDefaultColumnWidth = -1;
 
 struct PlanetGridColumn {
