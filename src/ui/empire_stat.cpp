@@ -5,7 +5,6 @@
 #include <QLineEdit>
 #include <QScopedValueRollback>
 #include <QVBoxLayout>
-#include <utility>
 
 #include "formats/empire_data_file.h"
 #include "model/text.h"
@@ -109,7 +108,7 @@ void EmpireStat::ConnectControls() {
 
 // The box would choose its first entry when it is filled; only then is it listened to.
 void EmpireStat::FillSelector() {
-  for (const PlayerRecord& player : std::as_const(session_).Players()) {
+  for (const PlayerRecord& player : session_.Players()) {
     Combo1->addItem(ToQString(player.Name()));
   }
   Combo1->setCurrentIndex(-1);

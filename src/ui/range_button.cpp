@@ -21,6 +21,7 @@ RangeButton::RangeButton(const QString& name, const QString& meaning, QWidget* p
 
 void RangeButton::ShowValue(const QString& value) {
   setText(value);
+  setShortcut({});  // an "&" in a value from a file is no access key
   setAccessibleName(QString("%1: %2").arg(meaning_, value));
   UpdateToolTip();
 }

@@ -71,6 +71,7 @@ TEST_F(EmpireStatTest, LongNamesAndSumsAreShortenedAndTheTooltipTellsThem) {
   PlayerRecord& player = session.Player(1);
   player[PlayerField::Name] = FieldValue(name);
   player[PlayerField::Territory] = player[PlayerField::GravMin] = FieldValue(ToText(sum));
+  player[PlayerField::GravMax] = "a&b";
   Open(name.c_str());
   EXPECT_EQ(window->size(), usual);
   EXPECT_EQ(window->Combo1->toolTip(), ToQString(name));
@@ -78,6 +79,7 @@ TEST_F(EmpireStatTest, LongNamesAndSumsAreShortenedAndTheTooltipTellsThem) {
   EXPECT_EQ(window->Totals->ShowData[14]->toolTip(), sum + "\nTotal Territory in ly");
   EXPECT_EQ(OnTab(1).Find("ShowData(8)").toolTip(), sum);
   EXPECT_EQ(driver->Find("ShowData(9)").toolTip(), "");
+  EXPECT_TRUE(window->Race->ShowData[9]->shortcut().isEmpty()) << "no access key";
 }
 
 TEST_F(EmpireStatTest, ShowsAPlayerWhenTheTextIsExactlyItsName) {
