@@ -54,21 +54,6 @@ void SelectPlanet(MapState& state, const GameSession& session, int planet) {
   state.SelectedY = exists ? session.Planet(planet).Y() : 0;
 }
 
-bool ArmZoom(MapState& state, bool isZoomIn) {
-  if (!isZoomIn || state.ZoomArmed != 0) return false;
-  state.ClickMode = kStartZoomBox;
-  state.ZoomArmed = 1;
-  return true;
-}
-
-bool LeaveZoom(MapState& state, bool isZoomIn) {
-  if (isZoomIn) return false;
-  state.View.ShowAll(state.View.UniverseExtent);
-  state.ClickMode = kOrdinaryClick;
-  state.ZoomArmed = 0;
-  return true;
-}
-
 MapClick ClickMap(MapState& state, SurfacePoint at) {
   if (state.ClickMode == kOrdinaryClick) return MapClick::Pick;
   if (state.ClickMode == kStartZoomBox) {

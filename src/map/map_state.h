@@ -37,16 +37,6 @@ MapState FirstMapState(const GameSession& session);
 /// @param planet its number; 0, or one that the game does not have: nothing is selected then
 void SelectPlanet(MapState& state, const GameSession& session, int planet);
 
-/// Honours a Zoom In button that has just been pressed: the next click on the map starts the zoom
-/// box, and until the box is drawn the map keeps what it shows.
-/// @return whether that has happened, so that nothing is to be drawn now
-bool ArmZoom(MapState& state, bool isZoomIn);
-
-/// Goes back to the full view and ordinary clicks when the Zoom In button is up; a button that is
-/// down keeps the view.
-/// @return whether the view is now the full one for that reason
-bool LeaveZoom(MapState& state, bool isZoomIn);
-
 /// What a click on the map means.
 enum class MapClick {
   Pick,          // of the planet that lies there

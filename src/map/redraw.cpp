@@ -4,13 +4,18 @@ namespace quorvane {
 
 Redraw SettleSwitches(const OverlaySwitches& switches, MapState& state) {
   Redraw redraw = {.Switches = switches};
-  const bool isZoomIn = switches.IsOn(OverlayKind::ZoomIn);
-  redraw.IsDue = !ArmZoom(state, isZoomIn);
-  redraw.IsFullView = LeaveZoom(state, isZoomIn);
-  redraw.StopsDrawing = !redraw.IsDue || redraw.IsFullView;
-  if (!redraw.IsDue) return redraw;
+  if (!switches.IsOn(OverlayKind::ZoomIn)) {
+    state.View.ShowAll(state.View.UniverseExtent);
+    state.ClickMode = kOrdinaryClick;
+    state.ZoomArmed = 0;
+    redraw.IsFullView = true;
+  } else if (state.ZoomArmed == 0) {
+    state.ClickMode = kStartZoomBox;
+    state.ZoomArmed = 1;
+    redraw.IsDue = false;
+    return redraw;
+  }
   if (switches.IsOn(OverlayKind::ClearMap)) redraw.Switches.ClearMap();
-  redraw.ReadsDrawing = redraw.Switches.IsOn(OverlayKind::QvlDrawing);
   return redraw;
 }
 

@@ -14,13 +14,15 @@ struct Redraw {
   /// The whole universe is shown, and no button waits for a zoom box.
   bool IsFullView = false;
   /// Clicks on the map do no longer draw, because a zoom begins or ends.
-  bool StopsDrawing = false;
+  bool StopsDrawing() const { return !IsDue || IsFullView; }
   /// The drawing layer is to be read anew from its file.
-  bool ReadsDrawing = false;
+  bool ReadsDrawing() const { return IsDue && Switches.IsOn(OverlayKind::QvlDrawing); }
 };
 
-/// Settles the switches before a redraw: a pressed Zoom In button is honoured, a released one gives
-/// the full view back, and Clear Map turns everything off, itself included.
+/// Settles the switches before a redraw. A Zoom In button that has just been pressed arms the zoom:
+/// the next click on the map starts the zoom box, and until the box is drawn the map keeps what it
+/// shows. While it is up the view is the full one and clicks are ordinary. Clear Map turns
+/// everything off, itself included.
 Redraw SettleSwitches(const OverlaySwitches& switches, MapState& state);
 
 }  // namespace quorvane

@@ -91,14 +91,14 @@ void Main::DrawOverlays() {
   if (isDrawing_) return;
   const QScopedValueRollback oneRedraw(isDrawing_, true);
   Redraw redraw = SettleSwitches(Overlays->Switches(), state_);
-  if (redraw.StopsDrawing) Detail->Tools->StopDrawing();
+  if (redraw.StopsDrawing()) Detail->Tools->StopDrawing();
   if (!redraw.IsDue) return;
   if (redraw.IsFullView) {
     constexpr int kButtonsOfFullView = 11;  // the estimated habitability is left as it is
     Overlays->EnableButtons(kButtonsOfFullView);
     Map->PlaceSelector();
   }
-  const bool hasDrawing = redraw.ReadsDrawing && Board->ReadLayer();
+  const bool hasDrawing = redraw.ReadsDrawing() && Board->ReadLayer();
   redraw.Switches.Set(OverlayKind::QvlDrawing, hasDrawing);
   Overlays->Show(redraw.Switches);
   Board->ForgetShapes();

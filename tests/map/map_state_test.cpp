@@ -35,17 +35,19 @@ OverlaySwitches On(std::initializer_list<OverlayKind> kinds) {
 TEST(SettleSwitches, ArmsAZoomOnceAndKeepsTheViewUntilTheButtonIsReleased) {
   MapState state = {.View = FullView()};
   Redraw redraw = SettleSwitches(On({OverlayKind::ZoomIn, OverlayKind::QvlDrawing}), state);
-  EXPECT_TRUE(!redraw.IsDue && redraw.StopsDrawing && !redraw.ReadsDrawing && !redraw.IsFullView);
+  EXPECT_TRUE(!redraw.IsDue && redraw.StopsDrawing() && !redraw.ReadsDrawing() &&
+              !redraw.IsFullView);
   EXPECT_EQ(state.ClickMode, kStartZoomBox);
   state.View = Zoomed(300, 400, 200);
   state.ClickMode = kEndZoomBox;
   redraw = SettleSwitches(On({OverlayKind::ZoomIn, OverlayKind::QvlDrawing}), state);
-  EXPECT_TRUE(redraw.IsDue && !redraw.StopsDrawing && redraw.ReadsDrawing && !redraw.IsFullView);
+  EXPECT_TRUE(redraw.IsDue && !redraw.StopsDrawing() && redraw.ReadsDrawing() &&
+              !redraw.IsFullView);
   EXPECT_EQ(state.ClickMode, kEndZoomBox);
   EXPECT_EQ(EdgesOf(state.View), EdgesOf(Zoomed(300, 400, 200)));
 
   redraw = SettleSwitches({}, state);
-  EXPECT_TRUE(redraw.IsDue && redraw.StopsDrawing && redraw.IsFullView);
+  EXPECT_TRUE(redraw.IsDue && redraw.StopsDrawing() && redraw.IsFullView);
   EXPECT_EQ(state.ClickMode, kOrdinaryClick);
   EXPECT_EQ(state.View.MapScale, 10);
   EXPECT_FALSE(SettleSwitches(On({OverlayKind::ZoomIn}), state).IsDue) << "again";
@@ -56,7 +58,7 @@ TEST(SettleSwitches, ClearMapTurnsAllOffButTheZoom) {
   const OverlaySwitches zoom = On({OverlayKind::ZoomIn});
   const auto all = {OverlayKind::ZoomIn, OverlayKind::ClearMap, OverlayKind::QvlDrawing};
   const Redraw redraw = SettleSwitches(On(all), state);
-  EXPECT_TRUE(redraw.Switches == zoom && !redraw.ReadsDrawing);
+  EXPECT_TRUE(redraw.Switches == zoom && !redraw.ReadsDrawing());
 }
 
 TEST(SelectPlanet, KeepsItsStoredPlaceOrNone) {
