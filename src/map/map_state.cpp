@@ -25,8 +25,8 @@ void MoveEdges(int& low, int& high, int step, int universeExtent) {
 // Shows the window that the zoom box encloses. Its corners are whole light years.
 bool ShowZoomBox(MapState& state) {
   MapView& view = state.View;
-  const int xMin = ToWhole16(state.BoxCorner.X / view.MapScale);
-  const int yMin = ToWhole16(state.BoxCorner.Y / view.MapScale);
+  const int xMin = ToWhole16(state.BoxCorner.X / view.MapScale) + view.ViewXMin;
+  const int yMin = ToWhole16(state.BoxCorner.Y / view.MapScale) + view.ViewYMin;
   // The corner is part of what is rounded: half a light year goes to the even edge, so that it
   // depends on the corner whether it counts.
   const int xMax = ToWhole16(state.BoxSide / view.MapScale + xMin);
@@ -41,6 +41,11 @@ bool ShowZoomBox(MapState& state) {
 }
 
 }  // namespace
+
+std::optional<StoredPoint> MapState::Selected() const {
+  if (SelectedX == 0 || SelectedY == 0) return std::nullopt;
+  return StoredPoint{static_cast<double>(SelectedX), static_cast<double>(SelectedY)};
+}
 
 MapState FirstMapState(const GameSession& session) {
   MapState state;

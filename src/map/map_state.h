@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include "map/map_view.h"
 
 namespace quorvane {
@@ -28,6 +30,10 @@ struct MapState {
   /// 1 while a finished picture of the influence borders is kept for reuse. Another game, other
   /// colours and another size of the picture set it to 0.
   int BordersCached = 0;
+
+  /// The selected planet's stored position. None for a planet on the edge at 0, which the map never
+  /// marks.
+  std::optional<StoredPoint> Selected() const;
 };
 
 /// How every game is shown at first: the whole universe, nothing selected, no borders kept.
@@ -45,8 +51,8 @@ enum class MapClick {
   BoxEnded,      // the view shows now what the zoom box encloses
 };
 
-/// Takes a click, wherever it begins or ends a zoom box. The box's window begins at the place of
-/// the full map that was clicked first.
+/// Takes a click, wherever it begins or ends a zoom box. The box's window begins at the place that
+/// was clicked first.
 MapClick ClickMap(MapState& state, SurfacePoint at);
 
 /// Takes a move of the pointer: an open zoom box grows to the right and downwards, whichever way

@@ -1,5 +1,6 @@
 #include "map/map_view.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "model/game_session.h"
@@ -13,7 +14,7 @@ void MapView::ShowAll(int universeExtent) {
   ViewYMin = 0;
   ViewXMax = universeExtent;
   ViewYMax = universeExtent;
-  MapScale = universeExtent > kUniverseOrigin ? kMapUnits / (universeExtent - kUniverseOrigin) : 0;
+  MapScale = UniverseWidth() > 0 ? kMapUnits / UniverseWidth() : 0;
 }
 
 void MapView::ShowWindow(int xMin, int yMin, int width) {
@@ -23,6 +24,8 @@ void MapView::ShowWindow(int xMin, int yMin, int width) {
   ViewYMax = yMin + width;
   MapScale = kMapUnits / (ViewXMax - ViewXMin);
 }
+
+int MapView::UniverseWidth() const { return std::max(UniverseExtent - kUniverseOrigin, 0); }
 
 GamePoint MapView::ToGame(SurfacePoint point) const {
   // Divided by the scale itself, and rounded down before Y is turned round: both decide which light

@@ -50,6 +50,12 @@ struct MapView {
   /// years and above 0.
   void ShowWindow(int xMin, int yMin, int width);
 
+  /// The width of the universe in light years, which the map shows from edge to edge at full view;
+  /// 0 while no game is loaded.
+  int UniverseWidth() const;
+  /// How many light years the map shows from edge to edge.
+  int WidthShown() const { return IsFull() ? UniverseWidth() : ViewXMax - ViewXMin; }
+
   /// Whether the window is the whole universe.
   bool IsFull() const { return ViewXMax - ViewXMin == UniverseExtent; }
   /// Whether a stored position lies strictly inside the window.
@@ -57,6 +63,10 @@ struct MapView {
   bool ContainsX(int x) const { return x > ViewXMin && x < ViewXMax; }
   bool ContainsY(int y) const { return y > ViewYMin && y < ViewYMax; }
 
+  /// The stored position that lies at a point of the picture; meaningful for a scale above 0.
+  StoredPoint ToStored(SurfacePoint point) const {
+    return {point.X / MapScale + ViewXMin, point.Y / MapScale + ViewYMin};
+  }
   /// Where a stored position is drawn.
   SurfacePoint ToSurface(StoredPoint point) const {
     return {(point.X - ViewXMin) * MapScale, (point.Y - ViewYMin) * MapScale};
@@ -69,6 +79,8 @@ struct MapView {
   int ZoomFactor() const;
   /// The size of planet marks: 1 at full view, growing with the zoom.
   int DotSize() const;
+
+  bool operator==(const MapView&) const = default;
 };
 
 }  // namespace quorvane
