@@ -92,12 +92,45 @@ void PlainSurface::Circle(SurfacePoint centre, double radius, Colour colour) {
 }
 
 void PlainSurface::Print(SurfacePoint topLeft, std::string_view text) {
+  PrintInto(picture_, CornerOf(topLeft), text, foreColour_);
+}
+
+void PlainSurface::PrintOutline(SurfacePoint topLeft, std::string_view text, Colour colour) {
+  const int reach = std::max(qRound(ratio_), 1);
+  // Letters just outside the picture have pixels around them in it.
+  QImage letters(picture_.size() + QSize(2 * reach, 2 * reach), picture_.format());
+  letters.setDotsPerMeterX(picture_.dotsPerMeterX());
+  letters.setDotsPerMeterY(picture_.dotsPerMeterY());
+  letters.fill(Qt::black);
+  PrintInto(letters, CornerOf(topLeft) + QPointF(reach, reach), text, {255, 255, 255});
+  for (int y = 0; y < letters.height(); ++y) {
+    for (int x = 0; x < letters.width(); ++x) {
+      if (letters.pixel(x, y) == qRgb(0, 0, 0)) continue;
+      for (int down = -2 * reach; down <= 0; ++down) {
+        for (int right = -2 * reach; right <= 0; ++right) {
+          const QPoint at(x + right, y + down);
+          if (picture_.valid(at)) picture_.setPixel(at, RgbOf(colour));
+        }
+      }
+    }
+  }
+}
+
+QPointF PlainSurface::CornerOf(SurfacePoint topLeft) const {
   const QPointF at = DevicePoint(topLeft);
-  QPainter painter(&picture_);
+  return {std::floor(at.x() + 0.5), std::floor(at.y() + 0.5)};
+}
+
+void PlainSurface::PrintInto(QImage& picture, QPointF corner, std::string_view text,
+                             Colour colour) const {
+  QPainter painter(&picture);
   painter.setFont(Font());
-  painter.setPen(QColor(RgbOf(foreColour_)));
-  const QPointF corner(std::floor(at.x() + 0.5), std::floor(at.y() + 0.5));
+  painter.setPen(QColor(RgbOf(colour)));
   painter.drawText(corner + QPointF(0, QFontMetricsF(Font()).ascent()), TextOf(text));
+}
+
+double PlainSurface::TextHeight() const {
+  return QFontMetricsF(Font()).height() / (picture_.height() / units_.height());
 }
 
 double PlainSurface::TextWidth(std::string_view text) const {

@@ -38,13 +38,17 @@ class PlainSurface : public DrawingSurface {
   void Line(SurfacePoint from, SurfacePoint to, Colour colour) override;
   void Circle(SurfacePoint centre, double radius, Colour colour) override;
   void Print(SurfacePoint topLeft, std::string_view text) override;
+  void PrintOutline(SurfacePoint topLeft, std::string_view text, Colour colour) override;
   double TextWidth(std::string_view text) const override;
+  double TextHeight() const override;
 
   int WidthInTwips() const override { return size_.width() * 15; }
   int WidthToCover(double distance) const override;
 
  private:
   QPointF DevicePoint(SurfacePoint point) const;
+  QPointF CornerOf(SurfacePoint topLeft) const;
+  void PrintInto(QImage& picture, QPointF corner, std::string_view text, Colour colour) const;
   int DevicePenWidth() const;
   QFont Font() const;
   void Put(int x, int y, Colour colour);

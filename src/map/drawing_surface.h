@@ -82,8 +82,12 @@ class DrawingSurface {
   virtual void Circle(SurfacePoint centre, double radius, Colour colour) = 0;
   /// Text in the fore colour, its top left corner at the position.
   virtual void Print(SurfacePoint topLeft, std::string_view text) = 0;
-  /// How wide `Print` would make a text, in logical units.
+  /// All pixels that `Print` would give a letter, and those around them, as far as a pixel of an
+  /// ordinary screen is wide.
+  virtual void PrintOutline(SurfacePoint topLeft, std::string_view text, Colour colour) = 0;
+  /// How wide `Print` would make a text, and how high any text, in logical units.
   virtual double TextWidth(std::string_view text) const = 0;
+  virtual double TextHeight() const = 0;
 
   /// The surface's own width in twips (1/1440 inch, 15 to a pixel of an ordinary screen); pen
   /// widths follow from it.

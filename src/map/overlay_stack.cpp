@@ -42,7 +42,11 @@ void Draw(const MapDrawing& map, DrawingSurface& surface) {
 }
 
 void DrawNames(const MapDrawing& map, DrawingSurface& surface) {
-  DrawPlanetNames(map.Session, map.State.View, surface, map.Switches.IsOn(Kind::NamesColoured));
+  DrawPlanetNames(map.Session, map.State.View, surface,
+                  {.Coloured = map.Switches.IsOn(Kind::NamesColoured),
+                   .Outlined = map.Options.OutlineNames,
+                   .Fewer = map.Options.FewerNames,
+                   .Selected = map.State.Selected()});
 }
 
 void DrawEstimatedHab(const MapDrawing& map, DrawingSurface& surface) {
@@ -51,7 +55,8 @@ void DrawEstimatedHab(const MapDrawing& map, DrawingSurface& surface) {
 
 void DrawStargateLinks(const MapDrawing& map, DrawingSurface& surface) {
   DrawStargates(map.Session, map.State.View, surface,
-                map.Switches.IsOn(Kind::CompleteStargateNetwork));
+                map.Switches.IsOn(Kind::CompleteStargateNetwork),
+                map.Options.GatesOfSelectedOnly ? map.State.Selected() : std::nullopt);
 }
 
 void DrawUserDrawing(const MapDrawing& map, DrawingSurface& surface) {

@@ -3,6 +3,7 @@
 #include <span>
 
 #include "map/drawing_surface.h"
+#include "map/map_options.h"
 #include "map/map_state.h"
 #include "map/overlay_kind.h"
 #include "model/drawing_record.h"
@@ -25,6 +26,7 @@ struct MapDrawing {
   const quorvane::Progress& Progress;
   /// The user's drawings as their file has them.
   std::span<const DrawingRecord> Drawing = {};
+  MapOptions Options = {};
 };
 
 /// Blanks the map and draws every overlay that is on, each over the previous ones, in one fixed

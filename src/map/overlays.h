@@ -1,8 +1,10 @@
 #pragma once
 
+#include <optional>
 #include <string_view>
 
 #include "map/drawing_surface.h"
+#include "map/map_options.h"
 #include "map/map_view.h"
 #include "model/game_session.h"
 #include "model/progress.h"
@@ -33,8 +35,9 @@ void DrawScannedPlanets(const GameSession& session, const MapView& view, Drawing
 /// in view.
 /// @param isComplete whether dangerous links, up to five times the gate's range, are drawn as well,
 ///        from yellow to red as they get longer
+/// @param only a stored position: none but the links that begin or end there
 void DrawStargates(const GameSession& session, const MapView& view, DrawingSurface& surface,
-                   bool isComplete);
+                   bool isComplete, std::optional<StoredPoint> only = std::nullopt);
 
 /// Every planet in view as a white dot with a black rim.
 void DrawPlanets(const GameSession& session, const MapView& view, DrawingSurface& surface);
@@ -68,10 +71,22 @@ void DrawDifficultyOfAttack(const GameSession& session, const MapView& view,
 /// population nears what its habitability lets live there, blue to purple where nobody can live.
 void DrawGrowth(const GameSession& session, const MapView& view, DrawingSurface& surface);
 
+/// How names are printed.
+struct NameStyle {
+  /// Whether owned planets' names take their owner's colour; all others are white.
+  bool Coloured = false;
+  /// Whether every letter has a dark outline. No outline covers a letter.
+  bool Outlined = false;
+  /// Whether names are left out that would overlap one that matters more: first comes the selected
+  /// planet, then the user's own planets, starbases, and large populations.
+  bool Fewer = false;
+  /// The selected planet's stored position.
+  std::optional<StoredPoint> Selected = std::nullopt;
+};
+
 /// Prints the name of every planet in view, centred under the planet.
-/// @param coloured whether owned planets' names take their owner's colour; all others are white
 void DrawPlanetNames(const GameSession& session, const MapView& view, DrawingSurface& surface,
-                     bool coloured);
+                     const NameStyle& style);
 
 /// The concentration of one mineral on every planet in view, as a disc of that radius in the
 /// mineral's colour. The discs are drawn in whatever mode the surface was left in, so that they

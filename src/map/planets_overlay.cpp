@@ -1,3 +1,7 @@
+#include <algorithm>
+#include <functional>
+#include <optional>
+#include <tuple>
 #include <vector>
 
 #include "map/overlays.h"
@@ -40,6 +44,61 @@ std::vector<OwnedPlanet> OwnedPlanetsInView(const GameSession& session, const Ma
   return owned;
 }
 
+// A planet's name where it is printed.
+struct PlacedName {
+  const PlanetRecord& Planet;
+  SurfacePoint TopLeft;
+  double Width;
+  double Height;
+
+  bool Overlaps(const PlacedName& other) const {
+    return TopLeft.X < other.TopLeft.X + other.Width && other.TopLeft.X < TopLeft.X + Width &&
+           TopLeft.Y < other.TopLeft.Y + other.Height && other.TopLeft.Y < TopLeft.Y + Height;
+  }
+};
+
+std::vector<PlacedName> NamesInView(const GameSession& session, const MapView& view,
+                                    const DrawingSurface& surface) {
+  std::vector<PlacedName> names;
+  const double height = surface.TextHeight();
+  for (const auto& [planet, at] : PlanetsInView(session, view)) {
+    const double width = surface.TextWidth(planet.Name());
+    names.push_back(
+        {planet, {at.X - width / 2, at.Y + kNameBelow * view.DotSize()}, width, height});
+  }
+  return names;
+}
+
+// Greater for a planet whose name matters more.
+std::tuple<bool, bool, bool, double> WeightOf(const PlanetRecord& planet,
+                                              const GameSession& session,
+                                              const std::optional<StoredPoint>& selected) {
+  const StoredPoint place = {static_cast<double>(planet.X()), static_cast<double>(planet.Y())};
+  return {selected == place, planet.Owner() == session.MyRaceName, planet.HasStarbase(),
+          planet.Population()};
+}
+
+// The names that overlap none that matters more, in the order given. Of two that matter alike the
+// first one is kept.
+std::vector<PlacedName> NamesApart(const GameSession& session,
+                                   const std::optional<StoredPoint>& selected,
+                                   const std::vector<PlacedName>& names) {
+  std::vector<const PlacedName*> byWeight;
+  for (const PlacedName& name : names) byWeight.push_back(&name);
+  std::ranges::stable_sort(byWeight, std::ranges::greater(), [&](const PlacedName* name) {
+    return WeightOf(name->Planet, session, selected);
+  });
+  std::vector<const PlacedName*> kept;
+  for (const PlacedName* name : byWeight) {
+    const auto overlaps = [&](const PlacedName* other) { return name->Overlaps(*other); };
+    if (std::ranges::none_of(kept, overlaps)) kept.push_back(name);
+  }
+  std::ranges::sort(kept);  // all are parts of one vector
+  std::vector<PlacedName> apart;
+  for (const PlacedName* name : kept) apart.push_back(*name);
+  return apart;
+}
+
 }  // namespace
 
 void DrawPlanets(const GameSession& session, const MapView& view, DrawingSurface& surface) {
@@ -76,14 +135,18 @@ void DrawOwnedPlanets(const GameSession& session, const MapView& view, DrawingSu
 }
 
 void DrawPlanetNames(const GameSession& session, const MapView& view, DrawingSurface& surface,
-                     bool coloured) {
-  const int dotSize = view.DotSize();
-  surface.SetFontSize(kSmallestNameFont + ToWhole16(dotSize / 2.0));
-  for (const auto& [planet, at] : PlanetsInView(session, view)) {
-    const Colour* ownColour = coloured ? session.ColourOf(planet.OwnerIndex()) : nullptr;
-    surface.SetForeColour(ownColour != nullptr ? *ownColour : kWhite);
-    surface.Print({at.X - surface.TextWidth(planet.Name()) / 2, at.Y + kNameBelow * dotSize},
-                  planet.Name());
+                     const NameStyle& style) {
+  surface.SetFontSize(kSmallestNameFont + ToWhole16(view.DotSize() / 2.0));
+  std::vector<PlacedName> names = NamesInView(session, view, surface);
+  if (style.Fewer) names = NamesApart(session, style.Selected, names);
+  // All outlines come first, so that no neighbour's outline covers a letter.
+  for (const PlacedName& name : names) {
+    if (style.Outlined) surface.PrintOutline(name.TopLeft, name.Planet.Name(), kBlack);
+  }
+  for (const PlacedName& name : names) {
+    const Colour* owners = style.Coloured ? session.ColourOf(name.Planet.OwnerIndex()) : nullptr;
+    surface.SetForeColour(owners != nullptr ? *owners : kWhite);
+    surface.Print(name.TopLeft, name.Planet.Name());
   }
 }
 

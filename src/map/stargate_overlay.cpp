@@ -166,12 +166,25 @@ void DrawTopDown(std::span<const Gate> gates, const MapView& view, DrawingSurfac
   }
 }
 
+// The links of one planet alone, in the order in which they come among all.
+void DrawLinksOf(StoredPoint planet, std::span<const Gate> gates, const MapView& view,
+                 DrawingSurface& surface, bool isComplete) {
+  const auto isThere = [&](const Gate& gate) { return PlaceOf(gate) == planet; };
+  for (const Gate& from : gates) {
+    for (const Gate& to : gates) {
+      if (&from == &to || (!isThere(from) && !isThere(to))) continue;
+      DrawLink(LinkOf(from, to, view, isComplete), surface);
+    }
+  }
+}
+
 }  // namespace
 
 void DrawStargates(const GameSession& session, const MapView& view, DrawingSurface& surface,
-                   bool isComplete) {
+                   bool isComplete, std::optional<StoredPoint> only) {
   surface.SetPen({.Mode = DrawMode::Copy, .Style = DrawStyle::Solid, .Width = 1});
   const std::vector<Gate> gates = GatesOf(session);
+  if (only) return DrawLinksOf(*only, gates, view, surface, isComplete);
   if (surface.BeginTopDown(gates.size() * gates.size())) {
     DrawTopDown(gates, view, surface, isComplete);
     surface.EndTopDown();

@@ -35,6 +35,10 @@ void StoppableSurface::Print(SurfacePoint topLeft, std::string_view text) {
   if (GoesOn()) surface_.Print(topLeft, text);
 }
 
+void StoppableSurface::PrintOutline(SurfacePoint topLeft, std::string_view text, Colour colour) {
+  if (GoesOn()) surface_.PrintOutline(topLeft, text, colour);
+}
+
 double StoppableSurface::TextWidth(std::string_view text) const {
   return isStopped_ ? 0 : surface_.TextWidth(text);
 }

@@ -37,7 +37,9 @@ class StoppableSurface : public DrawingSurface {
   bool LineHidesItsReverse(SurfacePoint from, SurfacePoint to, Colour colour) override;
   void Circle(SurfacePoint centre, double radius, Colour colour) override;
   void Print(SurfacePoint topLeft, std::string_view text) override;
+  void PrintOutline(SurfacePoint topLeft, std::string_view text, Colour colour) override;
   double TextWidth(std::string_view text) const override;
+  double TextHeight() const override { return surface_.TextHeight(); }
 
   int WidthInTwips() const override { return surface_.WidthInTwips(); }
   int WidthToCover(double distance) const override { return surface_.WidthToCover(distance); }

@@ -124,6 +124,39 @@ void PictureSurface::Circle(SurfacePoint centre, double radius, Colour colour) {
 }
 
 void PictureSurface::Print(SurfacePoint topLeft, std::string_view text) {
+  const std::optional<PlacedText> placed = PlaceText(topLeft, text, 0);
+  if (!placed) return;
+  const TextLayout& layout = placed->Layout;
+  if (layout.Glyphs.isEmpty()) {
+    Canvas(DrawMode::Copy).Runs(placed->Pixel(), layout.Runs, foreColour_);
+  } else if (topDown_) {
+    DrawGlyphsBelow(placed->Corner, layout, placed->Box);
+  } else {
+    DrawGlyphs(placed->Corner, layout, picture_);
+  }
+}
+
+void PictureSurface::PrintOutline(SurfacePoint topLeft, std::string_view text, Colour colour) {
+  const int reach = std::max(qRound(ratio_), 1);
+  const std::optional<PlacedText> placed = PlaceText(topLeft, text, reach);
+  if (!placed) return;
+  if (placed->Layout.Glyphs.isEmpty()) {
+    Canvas(DrawMode::Copy)
+        .Runs(placed->Pixel(), texts_.OutlineOf(placed->Font, text, reach), RgbOf(colour));
+    return;
+  }
+  const QRgb foreColour = std::exchange(foreColour_, RgbOf(colour));
+  for (int down = -reach; down <= reach; ++down) {
+    for (int right = -reach; right <= reach; ++right) {
+      DrawGlyphs(placed->Corner + QPointF(right, down), placed->Layout, picture_);
+    }
+  }
+  foreColour_ = foreColour;
+}
+
+std::optional<PictureSurface::PlacedText> PictureSurface::PlaceText(SurfacePoint topLeft,
+                                                                    std::string_view text,
+                                                                    int reach) {
   const QPointF at = DevicePoint(topLeft);
   SizedFont& font = texts_.FontOf(fontPoints_, picture_);
   const InkRange* const ink = font.InkOf(text);
@@ -131,27 +164,22 @@ void PictureSurface::Print(SurfacePoint topLeft, std::string_view text) {
                                ? font.MostCharacterWidth * static_cast<double>(text.size())
                                : std::numeric_limits<double>::infinity();
   // A position that is no number fails here as well.
-  const bool mayBeInPicture = at.x() < picture_.width() && at.y() < picture_.height() &&
-                              at.x() > -mostWidth && at.y() > -font.Height;
+  const bool mayBeInPicture = at.x() < picture_.width() + reach &&
+                              at.y() < picture_.height() + reach && at.x() > -mostWidth - reach &&
+                              at.y() > -font.Height - reach;
   const QPointF corner(std::floor(at.x() + 0.5), std::floor(at.y() + 0.5));
-  if (!mayBeInPicture) return;
-  if (ink != nullptr && IsHidden(ink->Box(mostWidth).translated(corner))) return;
+  if (!mayBeInPicture) return std::nullopt;
+  if (ink != nullptr && IsHidden(ink->Box(mostWidth).translated(corner))) return std::nullopt;
   const TextLayout& layout = texts_.Of(font, text);
-  if (!(at.x() > -layout.Width)) return;
+  if (!(at.x() > -layout.Width - reach)) return std::nullopt;
   // Other characters may reach anywhere; what is kept of their texts does not.
   const double margin = layout.Glyphs.isEmpty() ? std::ceil(layout.Height) : kFarthestPixel;
-  const QRectF box = ink != nullptr ? ink->Box(layout.Width)
-                                    : QRectF(0, 0, layout.Width, layout.Height)
-                                          .marginsAdded({margin, margin, margin, margin});
-  if (IsHidden(box.translated(corner))) return;
-  if (layout.Glyphs.isEmpty()) {
-    const PixelPlace pixel = {static_cast<int>(corner.x()), static_cast<int>(corner.y())};
-    Canvas(DrawMode::Copy).Runs(pixel, layout.Runs, foreColour_);
-  } else if (topDown_) {
-    DrawGlyphsBelow(corner, layout, box.translated(corner));
-  } else {
-    DrawGlyphs(corner, layout, picture_);
-  }
+  const QRectF box = (ink != nullptr ? ink->Box(layout.Width)
+                                     : QRectF(0, 0, layout.Width, layout.Height)
+                                           .marginsAdded({margin, margin, margin, margin}))
+                         .translated(corner);
+  if (IsHidden(box)) return std::nullopt;
+  return PlacedText{font, layout, corner, box};
 }
 
 void PictureSurface::DrawGlyphs(QPointF corner, const TextLayout& layout, QImage& picture) const {
@@ -188,6 +216,10 @@ bool PictureSurface::IsHidden(const QRectF& box) {
 
 double PictureSurface::TextWidth(std::string_view text) const {
   return texts_.Of(texts_.FontOf(fontPoints_, picture_), text).Width / pixelsPerUnitX_;
+}
+
+double PictureSurface::TextHeight() const {
+  return texts_.FontOf(fontPoints_, picture_).Height / pixelsPerUnitY_;
 }
 
 PixelCanvas PictureSurface::Canvas(DrawMode mode) {

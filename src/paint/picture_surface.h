@@ -58,12 +58,26 @@ class PictureSurface : public DrawingSurface {
   bool LineHidesItsReverse(SurfacePoint from, SurfacePoint to, Colour colour) override;
   void Circle(SurfacePoint centre, double radius, Colour colour) override;
   void Print(SurfacePoint topLeft, std::string_view text) override;
+  void PrintOutline(SurfacePoint topLeft, std::string_view text, Colour colour) override;
   double TextWidth(std::string_view text) const override;
+  double TextHeight() const override;
 
   int WidthInTwips() const override { return TwipsFromPixels(size_.width()); }
   int WidthToCover(double distance) const override;
 
  private:
+  // A text that may have pixels in the picture.
+  struct PlacedText {
+    SizedFont& Font;
+    const TextLayout& Layout;
+    QPointF Corner;
+    QRectF Box;  // around all its pixels
+
+    PixelPlace Pixel() const {
+      return {static_cast<int>(Corner.x()), static_cast<int>(Corner.y())};
+    }
+  };
+
   // What is drawn from the top down, before it is laid over the picture.
   struct TopDown {
     QImage Picture;
@@ -74,6 +88,8 @@ class PictureSurface : public DrawingSurface {
   PixelCanvas Canvas(DrawMode mode);
   // Whether nothing in a box of the picture can be seen.
   bool IsHidden(const QRectF& box);
+  // @param reach how many pixels beyond its letters belong to the text
+  std::optional<PlacedText> PlaceText(SurfacePoint topLeft, std::string_view text, int reach);
   void DrawGlyphs(QPointF corner, const TextLayout& layout, QImage& picture) const;
   // The same below the picture that is drawn from the top down, when all lies in a box.
   void DrawGlyphsBelow(QPointF corner, const TextLayout& layout, const QRectF& box);

@@ -158,6 +158,26 @@ void AddMoved(const std::vector<PixelRun>& character, QPoint by, const QRect& bo
   }
 }
 
+// All pixels that lie so near to one of the runs.
+std::vector<PixelRun> Widened(const std::vector<PixelRun>& runs, int reach) {
+  std::vector<PixelRun> wide;
+  for (const PixelRun& run : runs) {
+    for (int y = run.Y - reach; y <= run.Y + reach; ++y) {
+      wide.push_back({static_cast<std::int16_t>(y), static_cast<std::int16_t>(run.First - reach),
+                      static_cast<std::int16_t>(run.Last + reach)});
+    }
+  }
+  std::ranges::sort(wide, {}, [](const PixelRun& run) { return std::pair(run.Y, run.First); });
+  std::vector<PixelRun> joined;
+  for (const PixelRun& run : wide) {
+    const bool touches =
+        !joined.empty() && joined.back().Y == run.Y && run.First <= joined.back().Last + 1;
+    if (!touches) joined.push_back(run);
+    joined.back().Last = std::max(joined.back().Last, run.Last);
+  }
+  return joined;
+}
+
 // Characters may lie anywhere in the height, but are kept for so many steps of a pixel only.
 constexpr int kSteps = 64;
 
@@ -190,7 +210,7 @@ const InkRange* SizedFont::InkOf(std::string_view text) const {
   return IsLatin(text) ? &AccentedInk : nullptr;
 }
 
-TextLayouts::TextLayouts() : characters_(kMostBytes), layouts_(kMostBytes) {}
+TextLayouts::TextLayouts() : characters_(kMostBytes), layouts_(kMostBytes), outlines_(kMostBytes) {}
 
 SizedFont& TextLayouts::FontOf(double points, const QPaintDevice& picture) {
   const auto known = fonts_.find(points);
@@ -218,10 +238,20 @@ const TextLayout& TextLayouts::Of(SizedFont& font, std::string_view text) {
   return layouts_.Add(key_, std::move(layout), bytes);
 }
 
+const std::vector<PixelRun>& TextLayouts::OutlineOf(SizedFont& font, std::string_view text,
+                                                    int reach) {
+  const TextLayout& layout = Of(font, text);  // makes the key
+  if (const Runs* const known = outlines_.Find(key_)) return *known;
+  Runs outline = Widened(layout.Runs, reach);
+  const std::size_t bytes = key_.size() + BytesOf(outline);
+  return outlines_.Add(key_, std::move(outline), bytes);
+}
+
 void TextLayouts::Clear() {
   fonts_.clear();
   characters_.Clear();
   layouts_.Clear();
+  outlines_.Clear();
 }
 
 TextLayout TextLayouts::LayOut(SizedFont& font, std::string_view text) {

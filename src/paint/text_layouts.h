@@ -85,6 +85,11 @@ class TextLayouts {
   /// @param text  UTF-8; line breaks and TABs in it are drawn like any other character
   /// @return a layout that stays until this is called again
   const TextLayout& Of(SizedFont& font, std::string_view text);
+  /// The pixels of such a text, of which the layout has runs, and all that lie so near to one of
+  /// them in both directions.
+  /// @param reach in pixels, the same until `Clear`
+  /// @return runs that do not touch each other, which stay until this is called again
+  const std::vector<PixelRun>& OutlineOf(SizedFont& font, std::string_view text, int reach);
   /// Forgets all, for a picture with other dots per inch.
   void Clear();
 
@@ -103,6 +108,7 @@ class TextLayouts {
   RecentCache<std::uint64_t, Runs> characters_;
   // By text and number of the font.
   RecentCache<std::string, TextLayout> layouts_;
+  RecentCache<std::string, Runs> outlines_;
   std::string key_;
 };
 

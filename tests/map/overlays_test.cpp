@@ -71,7 +71,7 @@ TEST(DrawPlanetNames, SitCentredBelowThePlanetInTheOwnersColourAndGrowWithTheZoo
       {200, {"text 4750,5250 \"Alpha\" #ff0000 8pt", "text 4850,5250 \"007\" #ffffff 8pt"}}};
   for (const auto& [width, printed] : cases) {
     const MapView view = Zoomed(500 - width / 2, 500 - width / 2, width);
-    EXPECT_EQ(Drawn(DrawPlanetNames, game.Build(), view, true), printed);
+    EXPECT_EQ(Drawn(DrawPlanetNames, game.Build(), view, NameStyle{.Coloured = true}), printed);
   }
 }
 
@@ -274,7 +274,8 @@ TEST(DrawStargates, ArrowheadsPointAtTheReceivingGateWhereverItLies) {
       {"south", {1500, 1470}, {Arrow("5000,5100 5040,5060"), Arrow("5000,5100 4960,5060")}},
       {"south east", {1530, 1470}, {Arrow("5100,5100 5100,5050"), Arrow("5100,5100 5050,5100")}}};
   for (const auto& [what, to, mark] : cases) {
-    const Texts lines = Drawn(DrawStargates, Gates({1500, 1500}, 50, to, 1), FullView(), false);
+    const Texts lines =
+        Drawn(DrawStargates, Gates({1500, 1500}, 50, to, 1), FullView(), false, std::nullopt);
     ASSERT_EQ(lines.size(), 5U) << what;
     EXPECT_EQ(Texts(lines.begin(), lines.begin() + 2), mark) << what;
   }
@@ -292,7 +293,7 @@ TEST(DrawStargates, EachDirectionIsJudgedByTheRangeOfTheGateThatSends) {
       {0, 10000, true, {}}};
   for (const auto& [rangeThere, rangeBack, isComplete, expected] : cases) {
     const GameSession game = Gates({1400, 1500}, rangeThere, {1600, 1500}, rangeBack);
-    Texts links = Drawn(DrawStargates, game, FullView(), isComplete);
+    Texts links = Drawn(DrawStargates, game, FullView(), isComplete, std::nullopt);
     std::erase_if(links,
                   [](const std::string& line) { return line.ends_with("#00c800 copy solid w1"); });
     EXPECT_EQ(links, expected) << rangeThere << " " << rangeBack;

@@ -73,6 +73,11 @@ void RecordingSurface::Print(SurfacePoint topLeft, std::string_view text) {
         NumberText(fontPoints_) + "pt"});
 }
 
+void RecordingSurface::PrintOutline(SurfacePoint topLeft, std::string_view text, Colour colour) {
+  Draw({"outline", PlaceText(topLeft), After("\"", text) + "\"", ColourText(colour),
+        NumberText(fontPoints_) + "pt"});
+}
+
 double RecordingSurface::TextWidth(std::string_view text) const {
   return kCharacterWidth * static_cast<double>(text.size());
 }

@@ -16,11 +16,13 @@ using Texts = std::vector<std::string>;
 ///   line 0,0 10,20 #00ff00 copy solid w1
 ///   circle 5000,5000 r20 #000000 fill #ffffff copy solid w1
 ///   text 4800,5050 "Kestrel" #ffffff 6pt
+///   outline 4800,5050 "Kestrel" #000000 6pt
 ///   background none, background of 3 lines, clear
 class RecordingSurface : public DrawingSurface {
  public:
   /// Every character of a text is this wide.
   static constexpr double kCharacterWidth = 100;
+  static constexpr double kTextHeight = 150;
 
   explicit RecordingSurface(int widthInTwips = 6675) : widthInTwips_(widthInTwips) {}
 
@@ -41,7 +43,9 @@ class RecordingSurface : public DrawingSurface {
   void Line(SurfacePoint from, SurfacePoint to, Colour colour) override;
   void Circle(SurfacePoint centre, double radius, Colour colour) override;
   void Print(SurfacePoint topLeft, std::string_view text) override;
+  void PrintOutline(SurfacePoint topLeft, std::string_view text, Colour colour) override;
   double TextWidth(std::string_view text) const override;
+  double TextHeight() const override { return kTextHeight; }
   int WidthInTwips() const override { return widthInTwips_; }
   /// Text has no pixels to leave open: the overlays' own widths are seen.
   int WidthToCover(double) const override { return 1; }

@@ -68,12 +68,15 @@ class Twins {
     const double points = Between(1, 47);  // outlines of larger ones depend on the place
     const SurfacePoint at = {Between(-40, 110) + 0.0, Between(-40, 90) + 0.0};
     const bool isCleared = IsOneIn(20);
-    Draw([&](DrawingSurface& surface) {
+    const bool isOutlined = IsOneIn(2);
+    Draw([&, colour = RandomColour()](DrawingSurface& surface) {
       if (isCleared) surface.Clear();
       surface.SetFontSize(points);
+      if (isOutlined) surface.PrintOutline(at, text, colour);
       surface.Print(at, text);
     });
     EXPECT_EQ(fast_.TextWidth(text), plain_.TextWidth(text)) << text;
+    EXPECT_EQ(fast_.TextHeight(), plain_.TextHeight()) << points;
   }
 
   bool AreAlike() const { return fast_.Picture() == plain_.Picture(); }
