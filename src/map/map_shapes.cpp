@@ -56,6 +56,18 @@ MapShape ShapeOf(const DrawingRecord& record, const MapView& view) {
           .ColourNumber = record.ColourNumber};
 }
 
+SurfacePoint MovedTo(const MapView& view, SurfacePoint at, const MapView& from) {
+  return view == from ? at : view.ToSurface(from.ToStored(at));
+}
+
+MapShape MovedTo(const MapView& view, MapShape shape, const MapView& from) {
+  if (view == from) return shape;
+  shape.At = MovedTo(view, shape.At, from);
+  shape.To = MovedTo(view, shape.To, from);
+  shape.Radius *= view.MapScale / from.MapScale;
+  return shape;
+}
+
 void DrawShape(const MapShape& shape, DrawingSurface& surface) {
   const auto index = static_cast<std::size_t>(shape.ColourNumber) - 1;
   if (index >= DrawColours.size()) return;

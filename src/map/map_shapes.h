@@ -31,6 +31,10 @@ DrawingRecord RecordOf(const MapShape& shape, const MapView& view);
 /// Where the map shows a record.
 MapShape ShapeOf(const DrawingRecord& record, const MapView& view);
 
+/// Where another view of the same game shows a place, or a shape.
+SurfacePoint MovedTo(const MapView& view, SurfacePoint at, const MapView& from);
+MapShape MovedTo(const MapView& view, MapShape shape, const MapView& from);
+
 /// Draws a shape; one with a colour that nobody has is left out.
 void DrawShape(const MapShape& shape, DrawingSurface& surface);
 

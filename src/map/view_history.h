@@ -20,6 +20,8 @@ class ViewHistory {
   ///        which nobody would go back to
   void Visit(const MapView& view, bool continues = false);
 
+  /// The view on show.
+  const MapView& Shown() const { return views_[shown_]; }
   bool CanGoBack() const { return shown_ > 0; }
   bool CanGoForward() const { return shown_ + 1 < views_.size(); }
   /// The view before, or the one that was gone back from; both only where there is one.

@@ -18,6 +18,8 @@ class PictureBox : public QWidget {
   const PictureSurface& Surface() const { return surface_; }
   /// The pixel of the widget where a place of the picture is shown, with its fraction.
   QPointF WidgetPoint(SurfacePoint point) const;
+  /// The place of the picture at a pixel of the widget.
+  SurfacePoint LogicalPoint(QPointF position) const;
 
  signals:
   /// The surface is blank because it has a new size.
@@ -36,7 +38,6 @@ class PictureBox : public QWidget {
 
  private:
   void FitSurface();
-  SurfacePoint LogicalPoint(QPointF position) const;
 
   PictureSurface surface_;
 };

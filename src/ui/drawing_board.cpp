@@ -66,6 +66,7 @@ void DrawingBoard::Universe_MouseMove(SurfacePoint at) {
 // The first click begins a shape, the second ends it with the tool that is selected then.
 void DrawingBoard::StretchBand(SurfacePoint at) {
   if (!DrawLine->isVisible()) {
+    begun_ = {.Shape = {.At = at}, .View = map_.State().View};
     DrawLine->Place(at, at);
     DrawLine->SetLineColour(ColourOf(tools_));
     DrawLine->show();
@@ -96,8 +97,8 @@ void DrawingBoard::AddText(SurfacePoint at) {
 
 void DrawingBoard::AddShape(MapShape shape) {
   tools_.Layer->Append(RecordOf(shape, map_.State().View));
-  shapes_.push_back(std::move(shape));
-  DrawShape(shapes_.back(), map_.Universe->Surface());
+  DrawShape(shape, map_.Universe->Surface());
+  shapes_.push_back({std::move(shape), map_.State().View});
   map_.Universe->update();
 }
 
@@ -113,7 +114,13 @@ bool DrawingBoard::ReadLayer() {
 }
 
 void DrawingBoard::DrawShapes() {
-  for (const MapShape& shape : shapes_) DrawShape(shape, map_.Universe->Surface());
+  for (const auto& [shape, view] : shapes_) {
+    DrawShape(MovedTo(map_.State().View, shape, view), map_.Universe->Surface());
+  }
+}
+
+void DrawingBoard::FollowView() {
+  DrawLine->Place(MovedTo(map_.State().View, begun_.Shape.At, begun_.View), DrawLine->To());
 }
 
 void DrawingBoard::SaveQVL_Click() {

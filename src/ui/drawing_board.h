@@ -35,8 +35,10 @@ class DrawingBoard : public QObject {
   bool ReadLayer();
   /// The map was drawn anew: shapes that no overlay brings back are gone from it.
   void ForgetShapes() { shapes_.clear(); }
-  /// Draws the shapes again that were drawn since the map was; its picture has a new size.
+  /// Draws the shapes again that were drawn since the map was, where the view now has them.
   void DrawShapes();
+  /// Another view is shown: a shape in progress begins where it began in the universe.
+  void FollowView();
 
   /// The rubber band.
   LineShape* DrawLine = nullptr;
@@ -56,7 +58,13 @@ class DrawingBoard : public QObject {
   MapPanel& map_;
   DrawingTools& tools_;
   Prompts& prompts_;
-  std::vector<MapShape> shapes_;
+  // What was drawn, and the view in which it was.
+  struct Drawn {
+    MapShape Shape;
+    MapView View;
+  };
+  std::vector<Drawn> shapes_;
+  Drawn begun_;  // of the rubber band
 };
 
 }  // namespace quorvane

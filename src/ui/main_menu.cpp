@@ -27,12 +27,20 @@ QAction* AddItem(QMenu& menu, const char* name, const char* caption, const char*
   return item;
 }
 
+QAction* AddSwitch(QMenu& menu, const char* name, const char* caption,
+                   const QKeySequence& shortcut = {}) {
+  QAction* item = AddItem(menu, name, caption, nullptr, shortcut);
+  item->setCheckable(true);
+  return item;
+}
+
 }  // namespace
 
 MainMenu::MainMenu(QMenuBar& bar)
     : mnuFile(AddMenu(bar, "mnuFile", "&File")),
       mnuOver(AddMenu(bar, "mnuOver", "&Overlays")),
       mnuData(AddMenu(bar, "mnuData", "&Data")),
+      ViewMenu(AddMenu(bar, "ViewMenu", "&View")),
       mnuHelp(AddMenu(bar, "mnuHelp", "&Help")) {
   mnuMap = AddItem(*mnuFile, "mnuMap", "Load Data", "load");
   mnuSave = AddItem(*mnuFile, "mnuSave", "Save Map", "save", Qt::CTRL | Qt::Key_S);
@@ -50,6 +58,8 @@ MainMenu::MainMenu(QMenuBar& bar)
   mnuGrid2 =
       AddItem(*mnuData, "mnuGrid2", "&Empire Statistics", "statistics", Qt::CTRL | Qt::Key_E);
 
+  AddViewItems();
+
   mnuAbout = AddItem(*mnuHelp, "mnuAbout", "&About", "about");
   mnuThanks = AddItem(*mnuHelp, "mnuThanks", "&Thanks to...", nullptr);
 
@@ -59,6 +69,31 @@ MainMenu::MainMenu(QMenuBar& bar)
   mnuManual->setShortcut(Qt::Key_F1);
   mnuManual->setShortcutContext(Qt::ApplicationShortcut);
   bar.parentWidget()->addAction(mnuManual);
+}
+
+void MainMenu::AddViewItems() {
+  QMenu& menu = *ViewMenu;
+  ViewZoomIn = AddItem(menu, "ViewZoomIn", "Zoom &In", "zoom-in");
+  // The plus sign is a shifted key on many keyboards.
+  ViewZoomIn->setShortcuts({Qt::CTRL | Qt::Key_Plus, Qt::CTRL | Qt::Key_Equal});
+  ViewZoomOut = AddItem(menu, "ViewZoomOut", "Zoom &Out", "zoom-out", Qt::CTRL | Qt::Key_Minus);
+  ViewWholeUniverse =
+      AddItem(menu, "ViewWholeUniverse", "&Whole Universe", "whole-universe", Qt::CTRL | Qt::Key_0);
+  ViewZoomToSelected = AddItem(menu, "ViewZoomToSelected", "Zoom to &Selected Planet",
+                               "zoom-to-selected", Qt::CTRL | Qt::Key_J);
+  menu.addSeparator();
+  ViewBack = AddItem(menu, "ViewBack", "&Back", "back", Qt::ALT | Qt::Key_Left);
+  ViewForward = AddItem(menu, "ViewForward", "&Forward", "forward", Qt::ALT | Qt::Key_Right);
+  menu.addSeparator();
+  ViewOutlineNames = AddSwitch(menu, "ViewOutlineNames", "Outline &Names");
+  ViewFewerNames = AddSwitch(menu, "ViewFewerNames", "&Fewer Names");
+  ViewGatesOfSelected =
+      AddSwitch(menu, "ViewGatesOfSelected", "Gates of the Selected &Planet Only");
+  menu.addSeparator();
+  ViewKey = AddSwitch(menu, "ViewKey", "&Key to the Map", Qt::Key_F2);
+  ViewDistances = AddSwitch(menu, "ViewDistances", "&Distances", Qt::Key_F8);
+  ViewKeepDestination =
+      AddItem(menu, "ViewKeepDestination", "Keep as destination", nullptr, Qt::CTRL | Qt::Key_D);
 }
 
 }  // namespace quorvane

@@ -15,6 +15,7 @@ struct MainMenu {
   QMenu* mnuFile = nullptr;
   QMenu* mnuOver = nullptr;
   QMenu* mnuData = nullptr;
+  QMenu* ViewMenu = nullptr;
   QMenu* mnuHelp = nullptr;
 
   QAction* mnuMap = nullptr;
@@ -27,9 +28,25 @@ struct MainMenu {
   QAction* mnuGrid = nullptr;
   QAction* mnuGrid2 = nullptr;
 
+  QAction* ViewZoomIn = nullptr;
+  QAction* ViewZoomOut = nullptr;
+  QAction* ViewWholeUniverse = nullptr;
+  QAction* ViewZoomToSelected = nullptr;
+  QAction* ViewBack = nullptr;
+  QAction* ViewForward = nullptr;
+  QAction* ViewOutlineNames = nullptr;
+  QAction* ViewFewerNames = nullptr;
+  QAction* ViewGatesOfSelected = nullptr;
+  QAction* ViewKey = nullptr;
+  QAction* ViewDistances = nullptr;
+  QAction* ViewKeepDestination = nullptr;
+
   QAction* mnuAbout = nullptr;
   QAction* mnuThanks = nullptr;
   QAction* mnuManual = nullptr;
+
+ private:
+  void AddViewItems();
 };
 
 }  // namespace quorvane

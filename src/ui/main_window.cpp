@@ -26,6 +26,7 @@
 #include "ui/grid.h"
 #include "ui/legend.h"
 #include "ui/manual.h"
+#include "ui/map_navigator.h"
 #include "ui/map_panel.h"
 #include "ui/message_box_prompts.h"
 #include "ui/overlay_bar.h"
@@ -38,6 +39,8 @@ namespace {
 // How much of the window's height lies above and below its client area on the systems whose frame
 // the layout was made for; a thicker frame must not push the status line out of sight.
 constexpr int kFrameTwips = 735;
+// Under what the places of the docks are kept.
+constexpr const char* kDocks = "MainDocks";
 constexpr const char* kChooserText = "Select a Race, then click Show Boundary";
 
 // Controls that the arrow keys belong to while they have the focus.
@@ -90,10 +93,12 @@ QSize FirstSize(const QWidget& window) {
 
 }  // namespace
 
-Main::Main(std::filesystem::path startFolder, Prompts* prompts)
+Main::Main(std::filesystem::path startFolder, Prompts* prompts,
+           const std::filesystem::path& preferences)
     : Menu(*menuBar()),
       ownPrompts_(prompts == nullptr ? std::make_unique<MessageBoxPrompts>(*this) : nullptr),
-      prompts_(prompts == nullptr ? *ownPrompts_ : *prompts) {
+      prompts_(prompts == nullptr ? *ownPrompts_ : *prompts),
+      preferences_(preferences) {
   open_.StarsInstallDir = std::move(startFolder);
   setObjectName("Main");
   BuildArea();
@@ -101,6 +106,8 @@ Main::Main(std::filesystem::path startFolder, Prompts* prompts)
   ConnectMenus();
   Form_Load();
   resize(FirstSize(*this));
+  RememberPlace(*this, preferences_);
+  restoreState(preferences_.PlaceOf(kDocks));
   qApp->installEventFilter(this);
 }
 
@@ -110,6 +117,18 @@ void Main::Form_Load() {
   Menu.mnuData->setEnabled(false);
   Menu.mnuOver->setEnabled(false);
   setWindowTitle(ToQString(MainCaption(QUORVANE_VERSION, nullptr)));
+  const MapOptions& options = preferences_.Values().Map;
+  Menu.ViewOutlineNames->setChecked(options.OutlineNames);
+  Menu.ViewFewerNames->setChecked(options.FewerNames);
+  Menu.ViewGatesOfSelected->setChecked(options.GatesOfSelectedOnly);
+  Navigator->EnableCommands();
+  TellFault();
+}
+
+// What is wrong with the preferences is no reason to interrupt anybody.
+void Main::TellFault() {
+  const std::optional<std::string> fault = preferences_.TakeFault();
+  if (fault) theplanet->setText(" " + ToQString(*fault));
 }
 
 void Main::BuildArea() {
@@ -131,6 +150,7 @@ void Main::BuildArea() {
   Combo1->setEnabled(false);
   Combo1->setGeometry(PixelRect(RaceChooserRect()));
   Map = new MapPanel(*area_, state_);
+  Navigator = new MapNavigator(*Map, state_, Menu);
   RaceLegend = new Legend(*area_);
   Detail = new DetailsPanel(area_);
   Board = new DrawingBoard(session_, *Map, *Detail->Tools, prompts_);
@@ -158,6 +178,7 @@ void Main::ConnectParts() {
     if (!std::exchange(isChoiceDrawn_, false)) Combo1_Click();
   });
   connect(Map, &MapPanel::Resized, this, &Main::Map_Resized);
+  connect(Navigator, &MapNavigator::Moved, this, &Main::Navigator_Moved);
   connect(Map->Universe, &PictureBox::MouseDown, this, &Main::Universe_MouseDown);
   connect(Map->Universe, &PictureBox::MouseMove, this, &Main::Universe_MouseMove);
   connect(Board, &DrawingBoard::Cleared, this, &Main::Board_Cleared);
@@ -183,6 +204,10 @@ void Main::ConnectMenus() {
   connect(Menu.mnuHideSelect, &QAction::triggered, this, &Main::mnuHideSelect_Click);
   connect(Menu.mnuGrid, &QAction::triggered, this, &Main::mnuGrid_Click);
   connect(Menu.mnuGrid2, &QAction::triggered, this, &Main::mnuGrid2_Click);
+  for (const QAction* option :
+       {Menu.ViewOutlineNames, Menu.ViewFewerNames, Menu.ViewGatesOfSelected}) {
+    connect(option, &QAction::triggered, this, &Main::ViewOption_Click);
+  }
   connect(Menu.mnuAbout, &QAction::triggered, this, &Main::mnuAbout_Click);
   connect(Menu.mnuThanks, &QAction::triggered, this, &Main::mnuThanks_Click);
   connect(Menu.mnuManual, &QAction::triggered, this, &Main::mnuManual_Click);
@@ -199,10 +224,17 @@ void Main::moveEvent(QMoveEvent* event) {
   Form_Resize();
 }
 
+void Main::closeEvent(QCloseEvent* event) {
+  preferences_.KeepPlace(kDocks, saveState());
+  QMainWindow::closeEvent(event);
+}
+
+// Docks take their room from the window that is laid out.
 void Main::Form_Resize() {
   const int height = std::min(TwipsFromPixels(frameGeometry().height()),
                               TwipsFromPixels(scroll_->height()) + kFrameTwips);
-  const int width = TwipsFromPixels(frameGeometry().width());
+  const int docked = width() - scroll_->width();
+  const int width = TwipsFromPixels(frameGeometry().width() - docked);
   const std::optional<MainLayout> layout = LayOutMain(height, width);
   if (!layout) return;
   const TwipRect needed = {.Width = std::max(layout->Detail.Right(), RaceChooserRect().Right()),
@@ -219,6 +251,14 @@ void Main::Form_Resize() {
 
 bool Main::eventFilter(QObject* target, QEvent* event) {
   const auto* widget = qobject_cast<QWidget*>(target);
+  if (target == scroll_ && event->type() == QEvent::Resize) Form_Resize();  // a dock came or went
+  if (event->type() == QEvent::ShortcutOverride && widget != nullptr && widget->window() == this) {
+    const auto* key = static_cast<QKeyEvent*>(event);
+    const bool scrolls = Navigator->LeavesAltToArrowKeys() && ScrollKeyOf(key->key()) &&
+                         key->modifiers() == Qt::AltModifier && !UsesArrowKeys(widget);
+    if (scrolls) event->accept();
+    if (scrolls) return true;
+  }
   if (event->type() == QEvent::KeyPress && widget != nullptr && widget->window() == this) {
     const auto* key = static_cast<QKeyEvent*>(event);
     const bool isUsed = key->key() == Qt::Key_Escape
@@ -241,6 +281,7 @@ bool Main::Form_KeyDown(int key, Qt::KeyboardModifiers modifiers) {
   if (!scroll || !ScrollView(state_, *scroll, ShiftMaskOf(modifiers))) return false;
   DrawOverlays();
   Map->PlaceSelector();
+  Navigator->Visit(true);
   return true;
 }
 

@@ -13,6 +13,7 @@
 #include "model/result.h"
 #include "ui/main_menu.h"
 #include "ui/open_file.h"
+#include "ui/preferences.h"
 #include "ui/prompts.h"
 
 class QScrollArea;
@@ -26,6 +27,7 @@ class Grid;
 class Legend;
 class LongStep;
 class Manual;
+class MapNavigator;
 class MapPanel;
 class OverlayBar;
 
@@ -37,7 +39,9 @@ class Main : public QMainWindow {
  public:
   /// @param startFolder  where the open dialog starts
   /// @param prompts      how to talk to the user; nullptr: message boxes
-  explicit Main(std::filesystem::path startFolder, Prompts* prompts = nullptr);
+  /// @param preferences  where the user's preferences are kept; empty: nowhere
+  explicit Main(std::filesystem::path startFolder, Prompts* prompts = nullptr,
+                const std::filesystem::path& preferences = {});
   ~Main() override;
 
   /// "Load Data": lets the user choose a game in the open dialog and loads it.
@@ -52,6 +56,7 @@ class Main : public QMainWindow {
 
   MainMenu Menu;
   MapPanel* Map = nullptr;
+  MapNavigator* Navigator = nullptr;
   OverlayBar* Overlays = nullptr;
   DetailsPanel* Detail = nullptr;
   DrawingBoard* Board = nullptr;
@@ -64,6 +69,7 @@ class Main : public QMainWindow {
  protected:
   void resizeEvent(QResizeEvent* event) override;
   void moveEvent(QMoveEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
   bool eventFilter(QObject* target, QEvent* event) override;
 
  private:
@@ -72,6 +78,8 @@ class Main : public QMainWindow {
   bool Form_KeyDown(int key, Qt::KeyboardModifiers modifiers);
   bool GiveUpZoomBox();
   void Map_Resized();
+  void Navigator_Moved();
+  void ViewOption_Click();
   void Combo1_Click();
   void Board_Cleared();
   void RaceC_Click(int index);
@@ -93,6 +101,10 @@ class Main : public QMainWindow {
   void ConnectMenus();
   void EnableOverlays(bool isEnabled);
   void PickPlanet(SurfacePoint at);
+  void Selection_Changed();
+  void ShowFullView();
+  void Repaint();
+  void TellFault();
   Result<GameSession> RunLoad();
   void ShowLoadedGame();
   void ResetWindow();
@@ -101,6 +113,7 @@ class Main : public QMainWindow {
 
   std::unique_ptr<Prompts> ownPrompts_;
   Prompts& prompts_;
+  PreferencesFile preferences_;
   OpenState open_;
   std::unique_ptr<OpenFile> openFile_;
   std::unique_ptr<FindPlanet> findPlanet_;

@@ -26,6 +26,7 @@
 #include "ui/long_step.h"
 #include "ui/main_window.h"
 #include "ui/manual.h"
+#include "ui/map_navigator.h"
 #include "ui/map_panel.h"
 #include "ui/overlay_bar.h"
 #include "ui/texts.h"
@@ -112,11 +113,12 @@ void Main::ResetWindow() {
   Map->Blank();
   Map->ShowZoomBox();
   Map->PlaceSelector();
+  Navigator->BeginGame();
 }
 
 void Main::mnuHideSelect_Click() {
   SelectPlanet(state_, session_, 0);
-  Map->PlaceSelector();
+  Selection_Changed();
 }
 
 void Main::mnuSearchPlanet_Click() {
@@ -124,7 +126,7 @@ void Main::mnuSearchPlanet_Click() {
     findPlanet_ = std::make_unique<FindPlanet>(session_, state_, prompts_, this);
   }
   findPlanet_->exec();
-  Map->PlaceSelector();
+  Selection_Changed();
   const bool isSelected = state_.SelectedX != 0;
   if (!isSelected || findPlanet_->ShowFoundDetails != 1) return;
   Universe_MouseDown(state_.View.ToSurface(
@@ -150,6 +152,7 @@ void Main::mnuManual_Click() {
 
 void Main::mnuSave_Click() {
   if (!session_.IsLoaded()) return prompts_.Inform(kNothingToSave);
+  Navigator->DrawDueFrame();
   const std::filesystem::path file = MapPictureFile(session_);
   prompts_.Inform("Map saved to " + TextFromPath(file));
   const Result<void> saved = SavePicture(file, Map->Universe->Surface().Picture());

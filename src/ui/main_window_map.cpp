@@ -13,6 +13,7 @@
 #include "ui/legend.h"
 #include "ui/long_step.h"
 #include "ui/main_window.h"
+#include "ui/map_navigator.h"
 #include "ui/map_panel.h"
 #include "ui/overlay_bar.h"
 #include "ui/race_colour.h"
@@ -26,8 +27,54 @@ void Main::Map_Resized() {
   state_.BordersCached = 0;
   if (redraw_ != nullptr) return redraw_->Stop();  // it begins again
   if (!session_.IsLoaded() || isDrawing_) return;
+  Repaint();
+}
+
+// Paints what the map shows already, drawings that are not saved yet included.
+void Main::Repaint() {
   PaintMap(Overlays->Switches());
   Board->DrawShapes();
+  Map->Universe->update();
+}
+
+// The wheel, a pinch or a key shows another part of the universe: the map is painted anew, and
+// what lies above it follows. The drawing layer is not read again, so nothing of it is lost.
+void Main::Navigator_Moved() {
+  if (isDrawing_) return;  // the map is being painted with this view
+  const QScopedValueRollback oneRedraw(isDrawing_, true);
+  Overlays->ShowZoom(state_.ZoomArmed == 1);
+  if (state_.ZoomArmed == 0) ShowFullView();
+  Board->FollowView();
+  Repaint();
+  Map->PlaceSelector();
+  Map->ShowZoomBox();
+  if (Navigator->Pointer()) Universe_MouseMove(*Navigator->Pointer());
+}
+
+void Main::ViewOption_Click() {
+  Preferences preferences = preferences_.Values();
+  preferences.Map = {.OutlineNames = Menu.ViewOutlineNames->isChecked(),
+                     .FewerNames = Menu.ViewFewerNames->isChecked(),
+                     .GatesOfSelectedOnly = Menu.ViewGatesOfSelected->isChecked()};
+  preferences_.Keep(preferences);
+  TellFault();
+  if (session_.IsLoaded()) Repaint();
+}
+
+// Nothing is left of a zoom.
+void Main::ShowFullView() {
+  constexpr int kButtonsOfFullView = 11;  // the estimated habitability is left as it is
+  Detail->Tools->StopDrawing();
+  Overlays->EnableButtons(kButtonsOfFullView);
+  Map->PlaceSelector();
+}
+
+// Some overlays depend on which planet is selected.
+void Main::Selection_Changed() {
+  Map->PlaceSelector();
+  Navigator->EnableCommands();
+  const MapOptions& options = preferences_.Values().Map;
+  if (session_.IsLoaded() && (options.FewerNames || options.GatesOfSelectedOnly)) Repaint();
 }
 
 void Main::Combo1_Click() {
@@ -62,7 +109,7 @@ void Main::Universe_MouseMove(SurfacePoint at) {
 void Main::PickPlanet(SurfacePoint at) {
   const int planet = PlanetAt(session_, state_.View, at);
   SelectPlanet(state_, session_, planet);
-  Map->PlaceSelector();
+  Selection_Changed();
   if (planet > 0) Detail->ShowPlanet(session_, planet);
 }
 
@@ -93,22 +140,20 @@ void Main::DrawOverlays() {
   Redraw redraw = SettleSwitches(Overlays->Switches(), state_);
   if (redraw.StopsDrawing()) Detail->Tools->StopDrawing();
   if (!redraw.IsDue) return;
-  if (redraw.IsFullView) {
-    constexpr int kButtonsOfFullView = 11;  // the estimated habitability is left as it is
-    Overlays->EnableButtons(kButtonsOfFullView);
-    Map->PlaceSelector();
-  }
+  if (redraw.IsFullView) ShowFullView();
   const bool hasDrawing = redraw.ReadsDrawing() && Board->ReadLayer();
   redraw.Switches.Set(OverlayKind::QvlDrawing, hasDrawing);
   Overlays->Show(redraw.Switches);
   Board->ForgetShapes();
   PaintMap(redraw.Switches);
   if (hasDrawing) Detail->Tools->SelectColour(1);
+  Navigator->Visit();
 }
 
 // A map that gets another size meanwhile is painted again.
 void Main::PaintMap(OverlaySwitches switches) {
   isChoiceDrawn_ = false;
+  Navigator->FrameBegins();
   switches.RaceName = ToText(Combo1->currentText());
   PictureSurface& universe = Map->Universe->Surface();
   bool isComplete = false;
@@ -124,7 +169,8 @@ void Main::PaintMap(OverlaySwitches switches) {
                                    .Universe = universe,
                                    .Universe2 = Map->Universe2->Surface(),
                                    .Progress = progress,
-                                   .Drawing = Detail->Tools->Layer->Records()});
+                                   .Drawing = Detail->Tools->Layer->Records(),
+                                   .Options = preferences_.Values().Map});
     Map->Universe->update();
   } while (universe.Picture().size() != drawn);
   ShowWhetherStopped(!isComplete, kDrawingStopped);

@@ -2,6 +2,7 @@
 
 #include <QActionGroup>
 #include <QMenu>
+#include <QSignalBlocker>
 
 #include "screens/main_layout.h"
 #include "ui/icons.h"
@@ -47,6 +48,13 @@ void OverlayBar::Show(const OverlaySwitches& switches) {
       items_[index]->setChecked(isOn);
     }
   }
+}
+
+void OverlayBar::ShowZoom(bool isZoomed) {
+  const auto zoom = static_cast<std::size_t>(OverlayKind::ZoomIn);
+  const QSignalBlocker notSwitched(OvButt[zoom]);
+  OvButt[zoom]->setChecked(isZoomed);
+  items_[zoom]->setChecked(isZoomed);
 }
 
 void OverlayBar::EnableButtons(int end, bool isEnabled) {

@@ -24,6 +24,8 @@ class OverlayBar : public QObject {
   OverlaySwitches Switches() const;
   /// Sets every button and menu item; each that changes acts as when it is clicked.
   void Show(const OverlaySwitches& switches);
+  /// Shows whether the map is zoomed, when something else than the button has zoomed it.
+  void ShowZoom(bool isZoomed);
   /// Enables buttons 0 up to, without, `end`; the menu items that mirror them stay as they are.
   void EnableButtons(int end, bool isEnabled = true);
   /// Enables the overlays that only new-style reports know: values after terraforming and the
