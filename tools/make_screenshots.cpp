@@ -15,6 +15,7 @@
 
 #include "map/planets_in_view.h"
 #include "ui/details_panel.h"
+#include "ui/distances_dock.h"
 #include "ui/empire_stat.h"
 #include "ui/grid.h"
 #include "ui/grid_heading.h"
@@ -163,6 +164,32 @@ void TakeDetails(Main& window, const ScreenshotJob& job) {
   window.Detail->setCurrentIndex(0);
 }
 
+// The map zoomed by the wheel, with names above territories and both docks open.
+void TakeDocks(Main& window, const ScreenshotJob& job) {
+  window.resize(1280, 800);
+  window.findChild<QAction*>("ViewWholeUniverse")->trigger();
+  OverlaySwitches several;
+  for (const OverlayKind kind :
+       {OverlayKind::InfluenceBorders, OverlayKind::OwnedPlanets, OverlayKind::NamesColoured}) {
+    several.Set(kind, true);
+  }
+  window.Overlays->Show(several);
+  window.DrawOverlays();
+  ClickPlanet(window, HomeWorld(window.Session()));
+  window.findChild<QAction*>("ViewKey")->trigger();
+  Save(window, job, "main-key");
+  window.findChild<QAction*>("ViewKey")->trigger();
+  window.findChild<QAction*>("ViewDistances")->trigger();
+  window.findChild<QAction*>("ViewZoomToSelected")->trigger();
+  emit window.Map->Universe->MouseMove({2500, 3000});
+  emit window.DistancesDock->PlanetChosen(1);
+  window.findChild<QAction*>("ViewKeepDestination")->trigger();
+  ClickPlanet(window, HomeWorld(window.Session()));
+  Save(window, job, "main-distances");
+  window.findChild<QAction*>("ViewKey")->trigger();
+  Save(window, job, "main-docks");
+}
+
 void TakePictures(const ScreenshotJob& job) {
   Main window(ToPath(job.GameFolder));
   window.Map->Timer1->stop();  // the marker's colours are random
@@ -201,6 +228,7 @@ void TakePictures(const ScreenshotJob& job) {
   Save(window, job, "main-zoomed");
   window.resize(1000, 700);
   Save(window, job, "main-1000x700");
+  TakeDocks(window, job);
 }
 
 }  // namespace

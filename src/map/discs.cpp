@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "map/map_key.h"
 #include "model/rounding.h"
 
 namespace quorvane {
@@ -24,6 +25,14 @@ void DrawDisc(DrawingSurface& surface, SurfacePoint at, double radius, Colour co
 
 void DrawUnexploredDisc(DrawingSurface& surface, SurfacePoint at) {
   DrawDisc(surface, at, kUnexploredRadius, kUnexploredColour);
+}
+
+KeyLine UnexploredKeyLine() {
+  const auto draw = [](DrawingSurface& surface, SurfacePoint at) {
+    surface.SetPen(kDiscPen);
+    DrawUnexploredDisc(surface, at);
+  };
+  return {"dull: not explored", draw, kUnexploredRadius};
 }
 
 Colour RoundedColour(double red, double green, double blue) {

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "map/discs.h"
+#include "map/map_key.h"
 #include "map/overlays.h"
 #include "map/palette.h"
 #include "map/planets_in_view.h"
@@ -22,11 +23,24 @@ constexpr int kNearZero = 10;  // percent; values up to here are sized on a scal
 struct HabClass {
   int Highest;
   Colour ClassColour;
+  const char* Words;
+  int Example;
 };
-constexpr HabClass kHabClasses[] = {{-kNearZero - 1, kRed},
-                                    {-1, kMagenta},
-                                    {kNearZero, kYellow},
-                                    {std::numeric_limits<int>::max(), kGreen}};
+constexpr HabClass kHabClasses[] = {
+    {-kNearZero - 1, kRed, "red: hostile, the larger the worse", -20},
+    {-1, kMagenta, "magenta: habitable after terraforming", -5},
+    {kNearZero, kYellow, "yellow: barely habitable, up to 10 %", 5},
+    {std::numeric_limits<int>::max(), kGreen, "green: habitable, the larger the better", 50}};
+
+// The classes of habitability after terraforming.
+struct TerraClass {
+  Colour ClassColour;
+  int RadiusHundredths;  // for each percent
+  const char* Words;
+  double Example;
+};
+constexpr TerraClass kHostile = {kRed, 333, "red: stays hostile, the larger the worse", -20};
+constexpr TerraClass kHabitable = {kGreen, 150, "green: habitable then, the larger the better", 50};
 
 Colour HabColour(int value) {
   return std::ranges::find_if(kHabClasses,
@@ -46,11 +60,17 @@ double HabRadius(int value, bool isReported) {
   return std::max(std::fabs(radius), kSmallestRadius);
 }
 
-void DrawTerraformed(const PlanetInView& planet, DrawingSurface& surface, int hundredths,
-                     Colour colour) {
-  const double value = planet.Planet[PlanetField::TerraValue].Number();
-  const double radius = RoundHalfEven(TimesHundredths(std::fabs(value), hundredths));
-  DrawDisc(surface, planet.At, radius, colour);
+void DrawHab(DrawingSurface& surface, SurfacePoint at, int value, bool isReported) {
+  DrawDisc(surface, at, HabRadius(value, isReported), HabColour(value));
+}
+
+double TerraRadius(const TerraClass& terra, double value) {
+  return RoundHalfEven(TimesHundredths(std::fabs(value), terra.RadiusHundredths));
+}
+
+void DrawTerraformed(DrawingSurface& surface, SurfacePoint at, const TerraClass& terra,
+                     double value) {
+  DrawDisc(surface, at, TerraRadius(terra, value), terra.ClassColour);
 }
 
 }  // namespace
@@ -62,7 +82,7 @@ void DrawCurrentHabValues(const GameSession& session, const MapView& view,
     const FieldValue& reported = planet[PlanetField::HabValue];
     if (FieldText(reported).empty()) continue;
     const int value = ToWhole16(reported.Number());
-    DrawDisc(surface, at, HabRadius(value, planet.IsExplored()), HabColour(value));
+    DrawHab(surface, at, value, planet.IsExplored());
   }
 }
 
@@ -79,7 +99,7 @@ void DrawEstimatedHabValues(const GameSession& session, const MapView& view,
     if (!planet.IsExplored()) {
       DrawUnexploredDisc(surface, at);
     } else if (race > 0) {
-      DrawDisc(surface, at, HabRadius(value, true), HabColour(value));
+      DrawHab(surface, at, value, true);
     }
   }
 }
@@ -95,11 +115,43 @@ void DrawValueAfterTerraforming(const GameSession& session, const MapView& view,
     if (value(each) == 0) DrawUnexploredDisc(surface, each.At);
   }
   for (const PlanetInView& each : planets) {
-    if (value(each) < 0) DrawTerraformed(each, surface, 333, kRed);
+    if (value(each) < 0) DrawTerraformed(surface, each.At, kHostile, value(each));
   }
   for (const PlanetInView& each : planets) {
-    if (value(each) > 0) DrawTerraformed(each, surface, 150, kGreen);
+    if (value(each) > 0) DrawTerraformed(surface, each.At, kHabitable, value(each));
   }
+}
+
+std::vector<KeyLine> CurrentHabKey(const KeyAsked&) {
+  std::vector<KeyLine> lines;
+  for (const HabClass& each : kHabClasses) {
+    const auto draw = [&each](DrawingSurface& surface, SurfacePoint at) {
+      surface.SetPen(kMergedDiscPen);
+      DrawHab(surface, at, each.Example, true);
+    };
+    lines.push_back({each.Words, draw, HabRadius(each.Example, true)});
+  }
+  return lines;
+}
+
+std::vector<KeyLine> EstimatedHabKey(const KeyAsked& asked) {
+  std::vector<KeyLine> lines;
+  if (asked.Session.FindPlayerByName(asked.Switches.RaceName) > 0) lines = CurrentHabKey(asked);
+  lines.push_back(UnexploredKeyLine());
+  return lines;
+}
+
+std::vector<KeyLine> TerraformedKey(const KeyAsked&) {
+  std::vector<KeyLine> lines = {UnexploredKeyLine()};
+  lines[0].Words = "dull: worth nothing, or not known";
+  for (const TerraClass* each : {&kHostile, &kHabitable}) {
+    const auto draw = [each](DrawingSurface& surface, SurfacePoint at) {
+      surface.SetPen(kDiscPen);
+      DrawTerraformed(surface, at, *each, each->Example);
+    };
+    lines.push_back({each->Words, draw, TerraRadius(*each, each->Example)});
+  }
+  return lines;
 }
 
 }  // namespace quorvane

@@ -3,6 +3,7 @@
 #include <optional>
 #include <vector>
 
+#include "map/map_key.h"
 #include "map/overlays.h"
 #include "model/rounding.h"
 
@@ -11,6 +12,7 @@ namespace {
 
 constexpr int kFullStrength = 100;  // percent
 constexpr int kColumnsPerProgressStep = 10;
+constexpr int kEdgeWidth = 1;          // at full view, beside that of the picture
 constexpr double kEdgeDistance = 1.5;  // grid steps on either side of a change of holder
 
 // Where the grid's columns (or rows) are drawn; nothing for those outside the window.
@@ -70,8 +72,8 @@ void DrawColumn(const InfluenceGrid& grid, const ShadesOfPlayers& shadesOfPlayer
   }
 }
 
-Pen DotPen(const MapView& view, const DrawingSurface& surface, int widthAtFullView) {
-  const int twipsPerUnit = surface.WidthInTwips() / kSurfaceUnits;  // without the fraction
+Pen DotPen(const MapView& view, int mapWidthInTwips, int widthAtFullView) {
+  const int twipsPerUnit = mapWidthInTwips / kSurfaceUnits;  // without the fraction
   const int width = view.IsFull() ? twipsPerUnit + widthAtFullView
                                   : ToWhole16(view.ZoomFactor() * (twipsPerUnit + 1) / 1.1);
   return {.Mode = DrawMode::Copy,
@@ -143,7 +145,7 @@ bool DrawInfluenceBorders(const GameSession& session, const MapView& view, Drawi
   const GridLines rows = RowsInView(session, view);
 
   progress.Show(0, grid.Size() + 1);
-  Pen pen = DotPen(view, surface, 2);
+  Pen pen = DotPen(view, surface.WidthInTwips(), 2);
   // The rule leaves gaps at some sizes and zooms; territories are closed areas at all of them.
   const double gap = std::max(WidestGap(columns), WidestGap(rows));
   pen.Width = std::max(pen.Width, surface.WidthToCover(gap));
@@ -162,9 +164,43 @@ bool DrawInfluenceBorders(const GameSession& session, const MapView& view, Drawi
 void DrawTerritoryEdges(const GameSession& session, const MapView& view, DrawingSurface& surface) {
   const GridLines columns = ColumnsInView(session, view);
   const GridLines rows = RowsInView(session, view);
-  surface.SetPen(DotPen(view, surface, 1));
+  surface.SetPen(DotPen(view, surface.WidthInTwips(), kEdgeWidth));
   DrawEdgesBetweenRows(session, view, columns, rows, surface);
   DrawEdgesBetweenColumns(session, view, columns, rows, surface);
+}
+
+namespace {
+
+// A piece of territory, closed as on the map.
+KeyLine TerritoryKeyLine(const char* words, const GameSession& session, int strength) {
+  constexpr double kReach = 100;
+  const Shades shades = ShadesOf(session, SampleRace(session));
+  const Colour shade =
+      shades.empty() ? SampleRaceColour(session) : shades[static_cast<std::size_t>(strength)];
+  const auto draw = [shade](DrawingSurface& surface, SurfacePoint at) {
+    surface.SetPen({.Width = surface.WidthToCover(2 * kReach)});
+    surface.Point(at, shade);
+  };
+  return {words, draw, kReach};
+}
+
+}  // namespace
+
+std::vector<KeyLine> InfluenceKey(const KeyAsked& asked) {
+  return {TerritoryKeyLine("territory in its holder's colour", asked.Session, kFullStrength),
+          TerritoryKeyLine("darker: held less firmly", asked.Session, kFullStrength / 2)};
+}
+
+std::vector<KeyLine> TerritoryEdgesKey(const KeyAsked& asked) {
+  constexpr double kReach = 100;
+  constexpr double kSteps = 30;  // between the dots
+  const auto draw = [pen = DotPen(asked.View, asked.MapWidthInTwips, kEdgeWidth),
+                     colour = SampleRaceColour(asked.Session)](DrawingSurface& surface,
+                                                               SurfacePoint at) {
+    surface.SetPen(pen);
+    for (double x = -kReach; x <= kReach; x += kSteps) surface.Point({at.X + x, at.Y}, colour);
+  };
+  return {{"dots in both holders' colours: a border", draw, kReach}};
 }
 
 }  // namespace quorvane

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "map/map_key.h"
 #include "model/game_session.h"
 #include "model/rounding.h"
 
@@ -98,6 +99,14 @@ void DrawDrawingLayer(std::span<const DrawingRecord> layer, const MapView& view,
   }
   std::ranges::for_each(layer.rbegin(), layer.rend(), draw);
   surface.EndTopDown();
+}
+
+std::vector<KeyLine> DrawingKey(const KeyAsked&) {
+  constexpr double kReach = 100;
+  const auto draw = [](DrawingSurface& surface, SurfacePoint at) {
+    DrawShape(LineBetween({at.X - kReach, at.Y}, {at.X + kReach, at.Y}, 1), surface);
+  };
+  return {{"lines, circles and texts: drawn by hand", draw, kReach}};
 }
 
 }  // namespace quorvane

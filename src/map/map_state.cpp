@@ -59,6 +59,15 @@ void SelectPlanet(MapState& state, const GameSession& session, int planet) {
   state.SelectedY = exists ? session.Planet(planet).Y() : 0;
 }
 
+int SelectedPlanet(const MapState& state, const GameSession& session) {
+  if (!state.Selected()) return 0;
+  for (int number = session.PlanetCount; number > 0; --number) {
+    const PlanetRecord& planet = session.Planet(number);
+    if (planet.X() == state.SelectedX && planet.Y() == state.SelectedY) return number;
+  }
+  return 0;
+}
+
 MapClick ClickMap(MapState& state, SurfacePoint at) {
   if (state.ClickMode == kOrdinaryClick) return MapClick::Pick;
   if (state.ClickMode == kStartZoomBox) {

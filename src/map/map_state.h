@@ -27,6 +27,8 @@ struct MapState {
   /// Stored position of the planet picked last; 0, 0: none.
   int SelectedX = 0;
   int SelectedY = 0;
+  /// The number of the planet that is kept as a destination; 0: none.
+  int Destination = 0;
   /// 1 while a finished picture of the influence borders is kept for reuse. Another game, other
   /// colours and another size of the picture set it to 0.
   int BordersCached = 0;
@@ -42,6 +44,9 @@ MapState FirstMapState(const GameSession& session);
 /// Makes a planet the selected one.
 /// @param planet its number; 0, or one that the game does not have: nothing is selected then
 void SelectPlanet(MapState& state, const GameSession& session, int planet);
+
+/// The number of the selected planet, the last one where several lie at its place; 0: none.
+int SelectedPlanet(const MapState& state, const GameSession& session);
 
 /// What a click on the map means.
 enum class MapClick {

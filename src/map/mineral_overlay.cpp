@@ -1,6 +1,10 @@
 #include <cmath>
+#include <string>
+#include <utility>
+#include <vector>
 
 #include "map/discs.h"
+#include "map/map_key.h"
 #include "map/overlays.h"
 #include "map/palette.h"
 #include "map/planets_in_view.h"
@@ -26,6 +30,8 @@ void DrawConcentration(const GameSession& session, const MapView& view, DrawingS
 }
 
 struct Concentrations {
+  Concentrations(double ironium, double boranium, double germanium)
+      : Ironium(ironium), Boranium(boranium), Germanium(germanium) {}
   explicit Concentrations(const PlanetRecord& planet)
       : Ironium(planet[PlanetField::IronMC].Number()),
         Boranium(planet[PlanetField::BoraMC].Number()),
@@ -39,25 +45,57 @@ struct Concentrations {
   double Germanium;
 };
 
+double AverageRadius(const Concentrations& minerals) {
+  return RoundHalfEven((minerals.Boranium + minerals.Germanium + minerals.Ironium) / 3);
+}
+
 void DrawAverage(DrawingSurface& surface, SurfacePoint at, const Concentrations& minerals) {
-  const double average = (minerals.Boranium + minerals.Germanium + minerals.Ironium) / 3;
   const Colour mixed = RoundedColour(TimesHundredths(minerals.Germanium, 255),
                                      TimesHundredths(minerals.Boranium, 255),
                                      TimesHundredths(minerals.Ironium, 255));
-  DrawDisc(surface, at, RoundHalfEven(average), mixed);
+  DrawDisc(surface, at, AverageRadius(minerals), mixed);
+}
+
+constexpr double kFull = 255;
+constexpr double kGoodValue = 25;
+
+// A class of what planets are worth for settling.
+struct SettlingClass {
+  double Radius;
+  Colour (*ColourOf)(double value);
+  const char* Words;
+  double Example;
+};
+constexpr SettlingClass kGood = {
+    125,
+    [](double value) { return RoundedColour(TimesHundredths(value - kGoodValue, 255), kFull, 0); },
+    "green, large: well worth settling", 40};
+constexpr SettlingClass kFair = {
+    100, [](double value) { return RoundedColour(kFull, TimesHundredths(value, 510) + 128, 0); },
+    "orange to yellow: worth something", 10};
+// 5.66 and no 45th of 255: a value of -28 is a blue of 158, not of 159.
+constexpr SettlingClass kWorthless = {
+    50,
+    [](double value) { return RoundedColour(kFull, 0, TimesHundredths(std::fabs(value), 566)); },
+    "red to purple, small: worth nothing", -10};
+
+const SettlingClass& SettlingClassOf(double value) {
+  if (value >= kGoodValue) return kGood;
+  return value > 0 ? kFair : kWorthless;
 }
 
 void DrawSettlingValue(DrawingSurface& surface, SurfacePoint at, double value) {
-  constexpr double kGoodValue = 25;
-  constexpr double kFull = 255;
-  if (value >= kGoodValue) {
-    DrawDisc(surface, at, 125, RoundedColour(TimesHundredths(value - kGoodValue, 255), kFull, 0));
-  } else if (value > 0) {
-    DrawDisc(surface, at, 100, RoundedColour(kFull, TimesHundredths(value, 510) + 128, 0));
-  } else {
-    // 5.66 and no 45th of 255: a value of -28 is a blue of 158, not of 159.
-    DrawDisc(surface, at, 50, RoundedColour(kFull, 0, TimesHundredths(std::fabs(value), 566)));
-  }
+  const SettlingClass& settling = SettlingClassOf(value);
+  DrawDisc(surface, at, settling.Radius, settling.ColourOf(value));
+}
+
+std::vector<KeyLine> ConcentrationKey(Colour colour, std::string words) {
+  constexpr double kRich = 90;
+  const auto draw = [colour](DrawingSurface& surface, SurfacePoint at) {
+    surface.SetPen(kDiscPen);
+    DrawDisc(surface, at, kRich, colour);
+  };
+  return {{std::move(words) + ", the wider the richer", draw, kRich}, UnexploredKeyLine()};
 }
 
 }  // namespace
@@ -99,6 +137,51 @@ void DrawEmpireExpansion(const GameSession& session, const MapView& view, Drawin
       DrawUnexploredDisc(surface, at);
     }
   }
+}
+
+std::vector<KeyLine> IroniumKey(const KeyAsked&) {
+  return ConcentrationKey(kIroniumColour, "blue: ironium");
+}
+
+std::vector<KeyLine> BoraniumKey(const KeyAsked&) {
+  return ConcentrationKey(kBoraniumColour, "green: boranium");
+}
+
+std::vector<KeyLine> GermaniumKey(const KeyAsked&) {
+  return ConcentrationKey(kGermaniumColour, "yellow: germanium");
+}
+
+std::vector<KeyLine> AverageMineralKey(const KeyAsked&) {
+  constexpr double kMuch = 100;
+  constexpr double kLittle = 20;
+  const std::pair<const char*, Concentrations> mixtures[] = {
+      {"blue: mostly ironium", {kMuch, kLittle, kLittle}},
+      {"green: mostly boranium", {kLittle, kMuch, kLittle}},
+      {"red: mostly germanium", {kLittle, kLittle, kMuch}},
+      {"white: rich in all, the wider the richer", {kMuch, kMuch, kMuch}}};
+  std::vector<KeyLine> lines;
+  for (const auto& [words, minerals] : mixtures) {
+    const auto draw = [minerals = minerals](DrawingSurface& surface, SurfacePoint at) {
+      surface.SetPen(kDiscPen);
+      DrawAverage(surface, at, minerals);
+    };
+    lines.push_back({words, draw, AverageRadius(minerals)});
+  }
+  lines.push_back(UnexploredKeyLine());
+  return lines;
+}
+
+std::vector<KeyLine> ExpansionKey(const KeyAsked&) {
+  std::vector<KeyLine> lines;
+  for (const SettlingClass* each : {&kGood, &kFair, &kWorthless}) {
+    const auto draw = [each](DrawingSurface& surface, SurfacePoint at) {
+      surface.SetPen(kDiscPen);
+      DrawSettlingValue(surface, at, each->Example);
+    };
+    lines.push_back({each->Words, draw, each->Radius});
+  }
+  lines.push_back(UnexploredKeyLine());
+  return lines;
 }
 
 }  // namespace quorvane

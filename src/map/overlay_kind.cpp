@@ -17,6 +17,14 @@ static_assert(IsTableInOrder(), "buttons and menus find an overlay's texts by it
 
 }  // namespace
 
+bool OverlaySwitches::ShowsAnything() const {
+  OverlaySwitches overlays = *this;
+  for (const OverlayKind view : {OverlayKind::ClearMap, OverlayKind::ZoomIn}) {
+    overlays.Set(view, false);
+  }
+  return overlays.on_.any();
+}
+
 void OverlaySwitches::ClearMap() {
   const bool isZoomed = IsOn(OverlayKind::ZoomIn);
   on_.reset();

@@ -87,6 +87,8 @@ class OverlaySwitches {
  public:
   bool IsOn(OverlayKind kind) const { return on_.test(static_cast<std::size_t>(kind)); }
   void Set(OverlayKind kind, bool isOn) { on_.set(static_cast<std::size_t>(kind), isOn); }
+  /// Whether any overlay is on, however the map is zoomed.
+  bool ShowsAnything() const;
   /// What Clear Map does: everything off, itself included, but the zoom stays as it is.
   void ClearMap();
   /// What every load does: all off but territory edges and empire expansion, which stay.

@@ -1,7 +1,10 @@
 #include "map/overlay_stack.h"
 
 #include <optional>
+#include <string>
+#include <vector>
 
+#include "map/map_key.h"
 #include "map/map_shapes.h"
 #include "map/overlays.h"
 #include "map/stoppable_surface.h"
@@ -11,6 +14,7 @@ namespace {
 
 using Kind = OverlayKind;
 using DrawLayer = void (*)(const MapDrawing& map, DrawingSurface& surface);
+using LayerKey = std::vector<KeyLine> (*)(const KeyAsked& asked);
 
 void Blank(DrawingSurface& surface) {
   surface.SetBackground(nullptr);
@@ -63,10 +67,11 @@ void DrawUserDrawing(const MapDrawing& map, DrawingSurface& surface) {
   DrawDrawingLayer(map.Drawing, map.State.View, surface);
 }
 
-// One overlay above the borders: what switches it on and what draws it.
+// One overlay above the borders: what switches it on, what draws it and what explains it.
 struct Layer {
   Kind Switch;
   DrawLayer Draw;
+  LayerKey Key;
   std::optional<Kind> OtherSwitch = std::nullopt;  // switches the same drawing on as well
 
   bool IsOn(const OverlaySwitches& switches) const {
@@ -76,24 +81,24 @@ struct Layer {
 
 // The stack of overlays, the bottom one first.
 constexpr Layer kLayers[] = {
-    {Kind::ScannedPlanets, Draw<DrawScannedPlanets>},
-    {Kind::SafeStargateDistances, DrawStargateLinks, Kind::CompleteStargateNetwork},
-    {Kind::Planets, Draw<DrawPlanets>},
-    {Kind::CurrentHabValues, Draw<DrawCurrentHabValues>},
-    {Kind::OwnedPlanets, Draw<DrawOwnedPlanets>},
-    {Kind::DifficultyOfAttack, Draw<DrawDifficultyOfAttack>},
-    {Kind::Growth, Draw<DrawGrowth>},
-    {Kind::QvlDrawing, DrawUserDrawing},
-    {Kind::EstimateHabValues, DrawEstimatedHab},
-    {Kind::NamesColoured, DrawNames, Kind::NamesWhite},
-    {Kind::IroniumConcentration, Draw<DrawIroniumConcentration>},
-    {Kind::BoraniumConcentration, Draw<DrawBoraniumConcentration>},
-    {Kind::GermaniumConcentration, Draw<DrawGermaniumConcentration>},
-    {Kind::AverageMineralConcentration, Draw<DrawAverageMineralConcentration>},
-    {Kind::ReportAgeOverlay, Draw<DrawReportAge>},
-    {Kind::ValueAfterTerraforming, Draw<DrawValueAfterTerraforming>},
-    {Kind::EmpireExpansion, Draw<DrawEmpireExpansion>},
-    {Kind::TerritoryEdges, Draw<DrawTerritoryEdges>},
+    {Kind::ScannedPlanets, Draw<DrawScannedPlanets>, ScannedPlanetsKey},
+    {Kind::SafeStargateDistances, DrawStargateLinks, StargatesKey, Kind::CompleteStargateNetwork},
+    {Kind::Planets, Draw<DrawPlanets>, PlanetsKey},
+    {Kind::CurrentHabValues, Draw<DrawCurrentHabValues>, CurrentHabKey},
+    {Kind::OwnedPlanets, Draw<DrawOwnedPlanets>, OwnedPlanetsKey},
+    {Kind::DifficultyOfAttack, Draw<DrawDifficultyOfAttack>, DifficultyKey},
+    {Kind::Growth, Draw<DrawGrowth>, GrowthKey},
+    {Kind::QvlDrawing, DrawUserDrawing, DrawingKey},
+    {Kind::EstimateHabValues, DrawEstimatedHab, EstimatedHabKey},
+    {Kind::NamesColoured, DrawNames, NamesKey, Kind::NamesWhite},
+    {Kind::IroniumConcentration, Draw<DrawIroniumConcentration>, IroniumKey},
+    {Kind::BoraniumConcentration, Draw<DrawBoraniumConcentration>, BoraniumKey},
+    {Kind::GermaniumConcentration, Draw<DrawGermaniumConcentration>, GermaniumKey},
+    {Kind::AverageMineralConcentration, Draw<DrawAverageMineralConcentration>, AverageMineralKey},
+    {Kind::ReportAgeOverlay, Draw<DrawReportAge>, ReportAgeKey},
+    {Kind::ValueAfterTerraforming, Draw<DrawValueAfterTerraforming>, TerraformedKey},
+    {Kind::EmpireExpansion, Draw<DrawEmpireExpansion>, ExpansionKey},
+    {Kind::TerritoryEdges, Draw<DrawTerritoryEdges>, TerritoryEdgesKey},
 };
 
 }  // namespace
@@ -106,6 +111,21 @@ bool DrawOverlayStack(const MapDrawing& map) {
     if (layer.IsOn(map.Switches)) layer.Draw(map, surface);
   }
   return !surface.IsStopped();
+}
+
+std::vector<KeySection> MapKey(const KeyAsked& asked) {
+  std::vector<KeySection> sections;
+  const auto add = [&](Kind kind, LayerKey key) {
+    const OverlayTexts& texts = kOverlayTable[static_cast<std::size_t>(kind)];
+    sections.push_back({std::string(texts.MenuCaption), key(asked)});
+  };
+  if (asked.Switches.IsOn(Kind::InfluenceBorders)) add(Kind::InfluenceBorders, InfluenceKey);
+  for (const Layer& layer : kLayers) {
+    // Where both are on, the other switch decides what is drawn.
+    const bool isOther = layer.OtherSwitch && asked.Switches.IsOn(*layer.OtherSwitch);
+    if (layer.IsOn(asked.Switches)) add(isOther ? *layer.OtherSwitch : layer.Switch, layer.Key);
+  }
+  return sections;
 }
 
 }  // namespace quorvane

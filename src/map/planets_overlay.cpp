@@ -4,6 +4,7 @@
 #include <tuple>
 #include <vector>
 
+#include "map/map_key.h"
 #include "map/overlays.h"
 #include "map/palette.h"
 #include "map/planets_in_view.h"
@@ -43,6 +44,32 @@ std::vector<OwnedPlanet> OwnedPlanetsInView(const GameSession& session, const Ma
   }
   return owned;
 }
+
+void DrawPlanet(DrawingSurface& surface, SurfacePoint at, int dotSize) {
+  surface.SetFillColour(kBlack);
+  surface.Circle(at, kPlanetRim * dotSize, kBlack);
+  surface.SetFillColour(kWhite);
+  surface.Circle(at, kPlanetDot * dotSize, kWhite);
+}
+
+void DrawOwnedRim(DrawingSurface& surface, SurfacePoint at, bool hasStarbase, int dotSize) {
+  surface.SetFillColour(kBlack);
+  surface.Circle(at, (hasStarbase ? kStarbaseRim : kOwnedRim) * dotSize, kBlack);
+}
+
+void DrawOwnedDisc(DrawingSurface& surface, SurfacePoint at, bool hasStarbase, const MapView& view,
+                   Colour colour) {
+  Pen pen = MarkerPen(view);
+  surface.SetPen(pen);
+  surface.SetFillColour(colour);
+  surface.Circle(at, kOwnedDisc * view.DotSize(), kBlack);
+  if (!hasStarbase) return;
+  pen.Filled = false;
+  surface.SetPen(pen);
+  surface.Circle(at, kStarbaseRing * view.DotSize(), kYellow);
+}
+
+int NameFont(const MapView& view) { return kSmallestNameFont + ToWhole16(view.DotSize() / 2.0); }
 
 // A planet's name where it is printed.
 struct PlacedName {
@@ -104,39 +131,25 @@ std::vector<PlacedName> NamesApart(const GameSession& session,
 void DrawPlanets(const GameSession& session, const MapView& view, DrawingSurface& surface) {
   surface.SetPen(MarkerPen(view));
   for (const auto& [planet, at] : PlanetsInView(session, view)) {
-    surface.SetFillColour(kBlack);
-    surface.Circle(at, kPlanetRim * view.DotSize(), kBlack);
-    surface.SetFillColour(kWhite);
-    surface.Circle(at, kPlanetDot * view.DotSize(), kWhite);
+    DrawPlanet(surface, at, view.DotSize());
   }
 }
 
 void DrawOwnedPlanets(const GameSession& session, const MapView& view, DrawingSurface& surface) {
   const std::vector<OwnedPlanet> owned = OwnedPlanetsInView(session, view);
-  const Pen filled = MarkerPen(view);
-  Pen hollow = filled;
-  hollow.Filled = false;
-
-  surface.SetPen(filled);
-  surface.SetFillColour(kBlack);
+  surface.SetPen(MarkerPen(view));
   for (const OwnedPlanet& each : owned) {
-    const double radius = each.Planet.HasStarbase() ? kStarbaseRim : kOwnedRim;
-    surface.Circle(each.At, radius * view.DotSize(), kBlack);
+    DrawOwnedRim(surface, each.At, each.Planet.HasStarbase(), view.DotSize());
   }
   // The coloured discs come in a pass of their own, so that no neighbour's black rim covers one.
   for (const OwnedPlanet& each : owned) {
-    surface.SetPen(filled);
-    surface.SetFillColour(each.OwnersColour);
-    surface.Circle(each.At, kOwnedDisc * view.DotSize(), kBlack);
-    if (!each.Planet.HasStarbase()) continue;
-    surface.SetPen(hollow);
-    surface.Circle(each.At, kStarbaseRing * view.DotSize(), kYellow);
+    DrawOwnedDisc(surface, each.At, each.Planet.HasStarbase(), view, each.OwnersColour);
   }
 }
 
 void DrawPlanetNames(const GameSession& session, const MapView& view, DrawingSurface& surface,
                      const NameStyle& style) {
-  surface.SetFontSize(kSmallestNameFont + ToWhole16(view.DotSize() / 2.0));
+  surface.SetFontSize(NameFont(view));
   std::vector<PlacedName> names = NamesInView(session, view, surface);
   if (style.Fewer) names = NamesApart(session, style.Selected, names);
   // All outlines come first, so that no neighbour's outline covers a letter.
@@ -148,6 +161,54 @@ void DrawPlanetNames(const GameSession& session, const MapView& view, DrawingSur
     surface.SetForeColour(owners != nullptr ? *owners : kWhite);
     surface.Print(name.TopLeft, name.Planet.Name());
   }
+}
+
+std::vector<KeyLine> PlanetsKey(const KeyAsked& asked) {
+  const auto draw = [view = asked.View](DrawingSurface& surface, SurfacePoint at) {
+    surface.SetPen(MarkerPen(view));
+    DrawPlanet(surface, at, view.DotSize());
+  };
+  return {{"white: a planet", draw, kPlanetRim * asked.View.DotSize()}};
+}
+
+std::vector<KeyLine> OwnedPlanetsKey(const KeyAsked& asked) {
+  std::vector<KeyLine> lines;
+  for (const bool hasStarbase : {false, true}) {
+    const auto draw = [hasStarbase, view = asked.View, colour = SampleRaceColour(asked.Session)](
+                          DrawingSurface& surface, SurfacePoint at) {
+      surface.SetPen(MarkerPen(view));
+      DrawOwnedRim(surface, at, hasStarbase, view.DotSize());
+      DrawOwnedDisc(surface, at, hasStarbase, view, colour);
+    };
+    lines.push_back({hasStarbase ? "with a yellow ring: a starbase orbits it"
+                                 : "in its owner's colour: an owned planet",
+                     draw, kStarbaseRim * asked.View.DotSize()});
+  }
+  return lines;
+}
+
+std::vector<KeyLine> NamesKey(const KeyAsked& asked) {
+  const auto line = [&](const char* words, Colour colour) {
+    const auto draw = [colour, font = NameFont(asked.View), options = asked.Options](
+                          DrawingSurface& surface, SurfacePoint at) {
+      constexpr const char* kName = "Name";
+      surface.SetFontSize(font);
+      const SurfacePoint corner = {at.X - surface.TextWidth(kName) / 2,
+                                   at.Y - surface.TextHeight() / 2};
+      if (options.OutlineNames) surface.PrintOutline(corner, kName, kBlack);
+      surface.SetForeColour(colour);
+      surface.Print(corner, kName);
+    };
+    constexpr double kReach = 120;
+    return KeyLine{words, draw, kReach};
+  };
+  std::vector<KeyLine> lines;
+  if (asked.Switches.IsOn(OverlayKind::NamesColoured)) {
+    lines.push_back(
+        line("in its owner's colour: an owned planet", SampleRaceColour(asked.Session)));
+  }
+  lines.push_back(line("white: a planet's name", kWhite));
+  return lines;
 }
 
 }  // namespace quorvane

@@ -1,7 +1,9 @@
 #include <algorithm>
 #include <cmath>
+#include <vector>
 
 #include "map/discs.h"
+#include "map/map_key.h"
 #include "map/overlays.h"
 #include "map/planets_in_view.h"
 #include "model/rounding.h"
@@ -28,6 +30,10 @@ constexpr double kFewMines = 10;
 Colour GreenToRed(double red) {
   red = std::min(red, kFullRed);
   return RoundedColour(red, kFullRed - red, 0);
+}
+
+Colour DifficultyColour(double people, bool hasStarbase) {
+  return GreenToRed(std::floor(people / kPeoplePerShade) + (hasStarbase ? kStarbaseShades : 0));
 }
 
 // The share of its possible population that a planet has, in whole percent; below 0 where the
@@ -64,9 +70,7 @@ void DrawDifficultyOfAttack(const GameSession& session, const MapView& view,
   surface.SetPen(kPopulationPen);
   for (const auto& [planet, at] : PlanetsInView(session, view)) {
     if (!(planet.Population() > 0)) continue;
-    double red = std::floor(planet.Population() / kPeoplePerShade);
-    if (planet.HasStarbase()) red += kStarbaseShades;
-    DrawDisc(surface, at, kRadius, GreenToRed(red));
+    DrawDisc(surface, at, kRadius, DifficultyColour(planet.Population(), planet.HasStarbase()));
   }
 }
 
@@ -78,6 +82,41 @@ void DrawGrowth(const GameSession& session, const MapView& view, DrawingSurface&
     if (!isProductive || planet.Owner() != session.MyRaceName) continue;
     DrawDisc(surface, at, kRadius, GrowthColour(planet));
   }
+}
+
+namespace {
+
+KeyLine PopulationKeyLine(const char* words, Colour colour) {
+  const auto draw = [colour](DrawingSurface& surface, SurfacePoint at) {
+    surface.SetPen(kPopulationPen);
+    DrawDisc(surface, at, kRadius, colour);
+  };
+  return {words, draw, kRadius};
+}
+
+// The colour of a planet with such a habitability and so many people.
+Colour GrowthColourOf(double hab, double people) {
+  PlanetRecord planet;
+  planet[PlanetField::HabValue] = hab;
+  planet[PlanetField::Population] = people;
+  return GrowthColour(planet);
+}
+
+}  // namespace
+
+std::vector<KeyLine> DifficultyKey(const KeyAsked&) {
+  return {PopulationKeyLine("green: hardly anybody lives there", DifficultyColour(1000, false)),
+          PopulationKeyLine("orange: 700,000 people", DifficultyColour(700'000, false)),
+          PopulationKeyLine("red: a million, or fewer with a starbase",
+                            DifficultyColour(kLargestPopulation, true))};
+}
+
+std::vector<KeyLine> GrowthKey(const KeyAsked&) {
+  return {PopulationKeyLine("green: nearly empty", GrowthColourOf(100, 0)),
+          PopulationKeyLine("olive: half full", GrowthColourOf(100, kLargestPopulation / 2)),
+          PopulationKeyLine("red: full", GrowthColourOf(100, kLargestPopulation)),
+          PopulationKeyLine("purple: hostile", GrowthColourOf(-20, kLargestPopulation)),
+          PopulationKeyLine("blue: as hostile as can be", GrowthColourOf(-45, kLargestPopulation))};
 }
 
 }  // namespace quorvane

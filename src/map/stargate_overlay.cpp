@@ -7,6 +7,7 @@
 #include <span>
 #include <vector>
 
+#include "map/map_key.h"
 #include "map/overlays.h"
 #include "map/palette.h"
 #include "model/rounding.h"
@@ -196,6 +197,37 @@ void DrawStargates(const GameSession& session, const MapView& view, DrawingSurfa
       if (from != to) DrawLink(LinkOf(gates[from], gates[to], view, isComplete), surface);
     }
   }
+}
+
+std::vector<KeyLine> StargatesKey(const KeyAsked& asked) {
+  constexpr double kReach = 200;
+  // A link of 40 light years, which is as long as its sample on the map of a small universe.
+  constexpr int kDistance = 40;
+  const bool isComplete = asked.Switches.IsOn(OverlayKind::CompleteStargateNetwork);
+  const auto line = [&](const char* words, int range) {
+    MapView view;
+    view.ShowWindow(0, 0, 1000);
+    const Link link = LinkOf({0, 0, range}, {kDistance, 0, range}, view, /*isComplete=*/true);
+    const auto draw = [link](DrawingSurface& surface, SurfacePoint at) {
+      Link moved = link;
+      const auto move = [&](Stroke& stroke) {
+        for (SurfacePoint* end : {&stroke.From, &stroke.To}) {
+          *end = {end->X + at.X - kReach, end->Y + at.Y};
+        }
+      };
+      std::ranges::for_each(moved.Arrowheads, move);
+      move(moved.Line);
+      surface.SetPen({.Mode = DrawMode::Copy, .Style = DrawStyle::Solid, .Width = 1});
+      DrawLink(moved, surface);
+    };
+    return KeyLine{words, draw, kReach};
+  };
+  std::vector<KeyLine> lines = {line("green: safe, the way the arrows point", kDistance)};
+  if (isComplete) {
+    lines.push_back(line("yellow: just beyond the gate's range", kDistance - 1));
+    lines.push_back(line("red: five times the range, great losses", kDistance / 5));
+  }
+  return lines;
 }
 
 }  // namespace quorvane

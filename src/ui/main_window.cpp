@@ -102,12 +102,13 @@ Main::Main(std::filesystem::path startFolder, Prompts* prompts,
   open_.StarsInstallDir = std::move(startFolder);
   setObjectName("Main");
   BuildArea();
+  BuildDocks();
   ConnectParts();
   ConnectMenus();
   Form_Load();
   resize(FirstSize(*this));
   RememberPlace(*this, preferences_);
-  restoreState(preferences_.PlaceOf(kDocks));
+  arePlacesKnown_ = restoreState(preferences_.PlaceOf(kDocks));
   qApp->installEventFilter(this);
 }
 

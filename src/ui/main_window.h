@@ -6,6 +6,7 @@
 #include <QProgressBar>
 #include <filesystem>
 #include <memory>
+#include <optional>
 
 #include "map/map_state.h"
 #include "map/overlay_kind.h"
@@ -21,9 +22,11 @@ class QScrollArea;
 namespace quorvane {
 
 class DetailsPanel;
+class DistancesDock;
 class DrawingBoard;
 class FindPlanet;
 class Grid;
+class KeyDock;
 class Legend;
 class LongStep;
 class Manual;
@@ -61,6 +64,8 @@ class Main : public QMainWindow {
   DetailsPanel* Detail = nullptr;
   DrawingBoard* Board = nullptr;
   Legend* RaceLegend = nullptr;
+  quorvane::KeyDock* KeyDock = nullptr;
+  quorvane::DistancesDock* DistancesDock = nullptr;
   QComboBox* Combo1 = nullptr;
   QLabel* XYCoord = nullptr;
   QLabel* theplanet = nullptr;
@@ -97,6 +102,15 @@ class Main : public QMainWindow {
   void mnuExit_Click();
 
   void BuildArea();
+  void BuildDocks();
+  void AddDock(QDockWidget& dock, QAction& item);
+  void OpenDock(QDockWidget& dock);
+  void ShowKey();
+  void ShowDistances();
+  void ShowNearest();
+  void DistancesDock_PlanetChosen(int planet);
+  void ViewKeepDestination_Click();
+  void KeepDestination(int planet);
   void ConnectParts();
   void ConnectMenus();
   void EnableOverlays(bool isEnabled);
@@ -114,6 +128,7 @@ class Main : public QMainWindow {
   std::unique_ptr<Prompts> ownPrompts_;
   Prompts& prompts_;
   PreferencesFile preferences_;
+  bool arePlacesKnown_ = false;  // of the docks
   OpenState open_;
   std::unique_ptr<OpenFile> openFile_;
   std::unique_ptr<FindPlanet> findPlanet_;
@@ -121,6 +136,7 @@ class Main : public QMainWindow {
   std::unique_ptr<Manual> manual_;
   GameSession session_;
   MapState state_;
+  std::optional<SurfacePoint> pointer_;  // where it was over the map last
   QScrollArea* scroll_ = nullptr;
   QWidget* area_ = nullptr;
   bool isDrawing_ = false;

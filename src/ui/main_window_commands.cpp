@@ -98,6 +98,8 @@ void Main::ShowLoadedGame() {
   EnableOverlays(true);
   Overlays->EnableNewReportItems(session_.ReportStyle == kNewReportStyle);
   Menu.mnuData->setEnabled(true);
+  Map->ShowHint(!Overlays->Switches().ShowsAnything());
+  ShowKey();
 }
 
 // Every load begins with a blank map and all overlays released.
@@ -113,7 +115,10 @@ void Main::ResetWindow() {
   Map->Blank();
   Map->ShowZoomBox();
   Map->PlaceSelector();
+  pointer_.reset();
   Navigator->BeginGame();
+  ShowNearest();
+  ShowDistances();
 }
 
 void Main::mnuHideSelect_Click() {

@@ -73,6 +73,8 @@ void Main::ShowFullView() {
 void Main::Selection_Changed() {
   Map->PlaceSelector();
   Navigator->EnableCommands();
+  ShowNearest();
+  ShowDistances();
   const MapOptions& options = preferences_.Values().Map;
   if (session_.IsLoaded() && (options.FewerNames || options.GatesOfSelectedOnly)) Repaint();
 }
@@ -103,6 +105,8 @@ void Main::Universe_MouseMove(SurfacePoint at) {
   }
   XYCoord->setText(ToQString(PointerText(state_.View, at)));
   Board->Universe_MouseMove(at);
+  pointer_ = at;
+  ShowDistances();
 }
 
 // Tells all that is known of the planet that was clicked.
@@ -173,6 +177,9 @@ void Main::PaintMap(OverlaySwitches switches) {
                                    .Options = preferences_.Values().Map});
     Map->Universe->update();
   } while (universe.Picture().size() != drawn);
+  if (switches.ShowsAnything()) Map->ShowHint(false);
+  ShowKey();
+  ShowDistances();
   ShowWhetherStopped(!isComplete, kDrawingStopped);
 }
 

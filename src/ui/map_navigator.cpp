@@ -84,6 +84,7 @@ void MapNavigator::EnableCommands() {
   menu_.ViewZoomOut->setEnabled(isLoaded && !view.IsFull());
   menu_.ViewWholeUniverse->setEnabled(isLoaded && !view.IsFull());
   menu_.ViewZoomToSelected->setEnabled(isLoaded && state_.Selected().has_value());
+  menu_.ViewKeepDestination->setEnabled(isLoaded);
   menu_.ViewBack->setEnabled(history_.CanGoBack());
   menu_.ViewForward->setEnabled(history_.CanGoForward());
 }

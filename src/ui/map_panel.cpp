@@ -3,6 +3,7 @@
 #include <QFocusEvent>
 #include <QPainter>
 #include <QRandomGenerator>
+#include <algorithm>
 #include <array>
 #include <chrono>
 #include <optional>
@@ -56,6 +57,17 @@ class MapPicture : public PictureBox {
   bool isReachedByKeyboard_ = false;
 };
 
+// A text above the picture, as little in the way as the shapes.
+QLabel* NewNote(const char* name, QWidget& map) {
+  auto* note = new QLabel(&map);
+  note->setObjectName(name);
+  note->setTextFormat(Qt::PlainText);
+  note->setAttribute(Qt::WA_TransparentForMouseEvents);
+  note->setProperty("note", true);
+  note->hide();
+  return note;
+}
+
 PictureBox* NewMap(const char* name, QWidget& area) {
   auto* map = new MapPicture(&area);
   map->setObjectName(name);
@@ -71,6 +83,11 @@ MapPanel::MapPanel(QWidget& area, const MapState& state)
       state_(state) {
   Universe->setAccessibleName(tr("Map of the universe"));
   Universe2->hide();
+  MapHint = NewNote("MapHint", *Universe);
+  MapHint->setText("Choose what the map shows with the buttons above");
+  WayLine = new LineShape(*Universe, "WayLine");
+  WayLine->AddDarkSides();
+  WayLength = NewNote("WayLength", *Universe);
   CurrentSelected = new SquareShape(*Universe, "CurrentSelected");
   CurrentSelected->AddDarkSides();
   ZoomBox = new SquareShape(*Universe, "ZoomBox");
@@ -107,6 +124,36 @@ void MapPanel::ShowZoomBox() {
   ZoomBox->setVisible(isOpen);
 }
 
+void MapPanel::ShowWay(const std::optional<std::pair<StoredPoint, StoredPoint>>& ends,
+                       const QString& length) {
+  WayLine->setVisible(ends.has_value());
+  WayLength->setVisible(ends.has_value());
+  if (!ends) return;
+  const SurfacePoint from = state_.View.ToSurface(ends->first);
+  const SurfacePoint to = state_.View.ToSurface(ends->second);
+  WayLine->Place(from, to);
+  WayLength->setText(length);
+  WayLength->adjustSize();
+  // Beside the middle of the way, and inside the map even where that is outside.
+  constexpr QPoint kBeside(6, 6);
+  const QPoint middle = Universe->WidgetPoint({(from.X + to.X) / 2, (from.Y + to.Y) / 2}).toPoint();
+  const QPoint last(Universe->width() - WayLength->width(),
+                    Universe->height() - WayLength->height());
+  WayLength->move(std::clamp(middle.x() + kBeside.x(), 0, std::max(last.x(), 0)),
+                  std::clamp(middle.y() + kBeside.y(), 0, std::max(last.y(), 0)));
+}
+
+void MapPanel::ShowHint(bool isShown) {
+  MapHint->setVisible(isShown);
+  PlaceHint();
+}
+
+void MapPanel::PlaceHint() {
+  MapHint->adjustSize();
+  MapHint->move((Universe->width() - MapHint->width()) / 2,
+                (Universe->height() - MapHint->height()) / 2);
+}
+
 void MapPanel::PlaceSelector() {
   const std::optional<MarkerSquare> marker =
       MarkerAround(state_.View, state_.SelectedX, state_.SelectedY);
@@ -124,6 +171,7 @@ void MapPanel::Timer1_Timer() {
 // A hidden widget learns its size late; the twin's picture follows at once.
 void MapPanel::Universe_Resize() {
   Universe2->Surface().Resize(Universe->size(), Universe->devicePixelRatioF());
+  PlaceHint();
   emit Resized();
 }
 

@@ -1,7 +1,10 @@
 #pragma once
 
+#include <QLabel>
 #include <QObject>
 #include <QTimer>
+#include <optional>
+#include <utility>
 
 #include "map/map_state.h"
 #include "paint/picture_box.h"
@@ -26,6 +29,12 @@ class MapPanel : public QObject {
   void TakeDrawingPen();
   /// Shows the zoom box as it stands, or hides it while none is open.
   void ShowZoomBox();
+  /// Shows the way between two planets above the map, or hides it.
+  /// @param ends  their stored positions; nothing: there is no way to show
+  /// @param length  what is told of its length
+  void ShowWay(const std::optional<std::pair<StoredPoint, StoredPoint>>& ends,
+               const QString& length);
+  void ShowHint(bool isShown);
   /// Places the selection marker around the selected planet, or hides it where there is nothing to
   /// mark.
   void PlaceSelector();
@@ -34,6 +43,11 @@ class MapPanel : public QObject {
   PictureBox* Universe2 = nullptr;
   /// The area that is about to be shown, above the map while it is dragged.
   SquareShape* ZoomBox = nullptr;
+  /// The way from the selected planet to the kept destination, and its length beside its middle.
+  LineShape* WayLine = nullptr;
+  QLabel* WayLength = nullptr;
+  /// What to do while nothing is shown of a loaded game.
+  QLabel* MapHint = nullptr;
   /// The selection marker.
   SquareShape* CurrentSelected = nullptr;
   /// Animates the marker.
@@ -46,6 +60,7 @@ class MapPanel : public QObject {
  private:
   void Universe_Resize();
   void Timer1_Timer();
+  void PlaceHint();
 
   const MapState& state_;
 };

@@ -62,6 +62,12 @@ QPushButton[range="true"]:focus { border-color: #ffffff; }
 QPushButton[range="true"]:disabled { color: #7a8495; border-color: #3a4250; }
 QLabel[title="true"] { color: #ffffff; font-size: 15pt; }
 QLabel[heading="true"] { color: #9fb4d0; }
+QLabel[note="true"] { color: #b9c4d6; background: rgba(16, 19, 25, 190); padding: 2px 6px; }
+QDockWidget {
+  titlebar-close-icon: url(:/icons/close.svg); titlebar-normal-icon: url(:/icons/float.svg); }
+QDockWidget::title { background: #20242c; padding: 5px 8px; }
+QDockWidget QTreeWidget { background: #1f232b; border: 1px solid #454e5f; }
+QDockWidget QHeaderView::section { background: #333a47; border: none; padding: 2px 5px; }
 QProgressBar {
   border: 1px solid #454e5f; border-radius: 3px; background: #1f232b; text-align: center; }
 QProgressBar::chunk { background: #3d6ea5; border-radius: 2px; }

@@ -1,0 +1,144 @@
+#include "ui/key_dock.h"
+
+#include <QGridLayout>
+#include <QLocale>
+#include <QPainter>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <utility>
+
+#include "paint/picture_surface.h"
+#include "paint/twips.h"
+#include "ui/controls.h"
+#include "ui/texts.h"
+
+namespace quorvane {
+namespace {
+
+constexpr int kMargin = 8;
+constexpr int kWidestBar = 200;
+
+QString LightYears(int lightYears) { return QLocale(QLocale::English).toString(lightYears); }
+
+}  // namespace
+
+ScaleBar::ScaleBar(QWidget* parent) : QWidget(parent) {
+  setObjectName("KeyScaleBar");
+  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+}
+
+QSize ScaleBar::sizeHint() const { return {kWidestBar, fontMetrics().height() + 12}; }
+
+int ScaleBar::LightYears() const {
+  return pixelsPerLightYear_ > 0
+             ? ScaleBarLength(pixelsPerLightYear_, std::min(width() - 2, kWidestBar))
+             : 0;
+}
+
+void ScaleBar::ShowScale(double pixelsPerLightYear) {
+  pixelsPerLightYear_ = pixelsPerLightYear;
+  const QString length = quorvane::LightYears(LightYears()) + " l.y.";
+  setAccessibleName("Scale bar");
+  setAccessibleDescription(length);
+  setVisible(LightYears() > 0);
+  update();
+}
+
+void ScaleBar::paintEvent(QPaintEvent*) {
+  constexpr int kTick = 4;
+  QPainter painter(this);
+  painter.setPen(palette().color(QPalette::WindowText));
+  const double length = LightYears() * pixelsPerLightYear_;
+  const double base = fontMetrics().height() + kTick + 2.5;
+  const QPointF start(0.5, base);
+  const QPointF end(0.5 + length, base);
+  painter.drawLine(start, end);
+  painter.drawLine(start, start - QPointF(0, kTick));
+  painter.drawLine(end, end - QPointF(0, kTick));
+  painter.drawText(QPointF(4, fontMetrics().ascent()), accessibleDescription());
+}
+
+KeyDock::KeyDock(QWidget* parent) : QDockWidget("Key to the Map", parent) {
+  setObjectName("KeyDock");
+  auto* all = new QWidget(this);
+  auto* column = new QVBoxLayout(all);
+  column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+  KeyAcross = NewValue("KeyAcross", all);
+  KeyScaleBar = new ScaleBar(all);
+  content_ = new QWidget();
+  KeyList = NewScrollArea(content_);
+  KeyList->setObjectName("KeyList");
+  KeyList->setAccessibleName("Key to the Map");
+  KeyList->setFocusPolicy(Qt::StrongFocus);  // its keys scroll it
+  KeyList->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  column->addWidget(KeyAcross);
+  column->addWidget(KeyScaleBar);
+  column->addWidget(KeyList, 1);
+  setWidget(all);
+  ShowSections({}, {});
+}
+
+void KeyDock::ShowKey(const GameSession& session, const OverlaySwitches& switches,
+                      const MapView& view, const MapOptions& options, QSize map) {
+  const bool isLoaded = view.UniverseWidth() > 0;
+  KeyAcross->setText(isLoaded ? LightYears(view.WidthShown()) + " light years across"
+                              : "No game is loaded");
+  const double unitsPerPixel = 1.0 * kSurfaceUnits / std::max(map.width(), 1);
+  KeyScaleBar->ShowScale(isLoaded ? view.MapScale / unitsPerPixel : 0);
+  Shown shown = {.Switches = switches,
+                 .Options = options,
+                 .DotSize = view.DotSize(),
+                 .Map = map,
+                 .RaceColour = SampleRaceColour(session),
+                 .HasRanges = session.ReportStyle == kNewReportStyle,
+                 .IsRaceKnown = session.FindPlayerByName(switches.RaceName) > 0};
+  if (shown == std::exchange(shown_, shown)) return;
+  ShowSections(MapKey({.Session = session,
+                       .Switches = switches,
+                       .View = view,
+                       .Options = options,
+                       .MapWidthInTwips = TwipsFromPixels(map.width())}),
+               map);
+}
+
+void KeyDock::ShowSections(const std::vector<KeySection>& sections, QSize map) {
+  delete content_;
+  content_ = new QWidget();
+  auto* rows = new QGridLayout(content_);
+  rows->setContentsMargins(0, 0, kMargin, 0);
+  rows->setHorizontalSpacing(kMargin);
+  rows->setVerticalSpacing(3);
+  int row = 0;
+  for (const KeySection& section : sections) {
+    rows->addWidget(NewHeading(ToQString(section.Title), content_), row++, 0, 1, 2);
+    for (const KeyLine& line : section.Lines) {
+      QLabel* words = NewCaption(ToQString(line.Words), content_);
+      words->setWordWrap(true);
+      rows->addWidget(NewSample(line, map), row, 0, Qt::AlignCenter);
+      rows->addWidget(words, row++, 1);
+    }
+  }
+  if (sections.empty()) rows->addWidget(NewCaption("No overlay is on", content_), row++, 0, 1, 2);
+  rows->setRowStretch(row, 1);
+  rows->setColumnStretch(1, 1);
+  KeyList->setWidget(content_);
+}
+
+// A piece of the map with the sample in the middle, at the map's own scale.
+QWidget* KeyDock::NewSample(const KeyLine& line, QSize map) {
+  constexpr int kLeastSide = 18;
+  constexpr int kMostSide = 48;
+  const double unitsPerPixel = 1.0 * kSurfaceUnits / std::max(map.width(), 1);
+  const int side =
+      std::clamp(static_cast<int>(2 * line.Reach / unitsPerPixel) + 4, kLeastSide, kMostSide);
+  const QSizeF units = QSizeF(side, side) * unitsPerPixel;
+  PictureSurface surface({side, side}, devicePixelRatioF(), units);
+  line.Draw(surface, {units.width() / 2, units.height() / 2});
+  QPixmap picture = QPixmap::fromImage(surface.Picture());
+  picture.setDevicePixelRatio(devicePixelRatioF());
+  auto* sample = new QLabel(content_);
+  sample->setPixmap(picture);
+  return sample;
+}
+
+}  // namespace quorvane

@@ -1,0 +1,137 @@
+// The docks beside the main window's map.
+#include <QAction>
+#include <QDockWidget>
+#include <QScrollArea>
+#include <QStyle>
+#include <algorithm>
+#include <cmath>
+
+#include "map/planets_in_view.h"
+#include "rules/distances.h"
+#include "screens/main_layout.h"
+#include "ui/details_panel.h"
+#include "ui/distances_dock.h"
+#include "ui/key_dock.h"
+#include "ui/main_window.h"
+#include "ui/map_navigator.h"
+#include "ui/map_panel.h"
+#include "ui/overlay_bar.h"
+#include "ui/texts.h"
+
+namespace quorvane {
+
+void Main::BuildDocks() {
+  KeyDock = new quorvane::KeyDock(this);
+  AddDock(*KeyDock, *Menu.ViewKey);
+  connect(KeyDock->toggleViewAction(), &QAction::toggled, this, &Main::ShowKey);
+  DistancesDock = new quorvane::DistancesDock(this);
+  AddDock(*DistancesDock, *Menu.ViewDistances);
+  connect(DistancesDock->toggleViewAction(), &QAction::toggled, this, [this] {
+    ShowNearest();
+    ShowDistances();
+  });
+  connect(Menu.ViewKeepDestination, &QAction::triggered, this, &Main::ViewKeepDestination_Click);
+  connect(DistancesDock, &quorvane::DistancesDock::PlanetChosen, this,
+          &Main::DistancesDock_PlanetChosen);
+  connect(DistancesDock, &quorvane::DistancesDock::KeepAsked, this,
+          &Main::ViewKeepDestination_Click);
+  connect(DistancesDock, &quorvane::DistancesDock::ForgetAsked, this,
+          [this] { KeepDestination(0); });
+}
+
+// The menu item opens and closes the dock, and tells whether it is open.
+void Main::AddDock(QDockWidget& dock, QAction& item) {
+  addDockWidget(Qt::RightDockWidgetArea, &dock);
+  dock.hide();
+  connect(dock.toggleViewAction(), &QAction::toggled, &item, &QAction::setChecked);
+  connect(&item, &QAction::triggered, this, [this, &dock](bool isOpen) {
+    if (isOpen) return OpenDock(dock);
+    dock.hide();
+    Map->Universe->setFocus();
+  });
+}
+
+// A dock that was never placed takes the room beside the map and its details; where there is none
+// it floats above the window.
+void Main::OpenDock(QDockWidget& dock) {
+  constexpr int kLeastWidth = 200;
+  constexpr int kWantedWidth = 320;
+  const int room = scroll_->width() - Detail->geometry().right() - 1 -
+                   style()->pixelMetric(QStyle::PM_DockWidgetSeparatorExtent);
+  const bool isAlone = dock.isHidden() && !dock.isFloating() && scroll_->width() == width();
+  if (!arePlacesKnown_ && isAlone) {
+    dock.setFloating(room < kLeastWidth);
+    resizeDocks({&dock}, {std::clamp(room, kLeastWidth, kWantedWidth)}, Qt::Horizontal);
+  }
+  dock.show();
+  dock.raise();
+  if (QWidget* first = dock.widget()->nextInFocusChain(); first != nullptr) first->setFocus();
+}
+
+void Main::ShowKey() {
+  if (KeyDock->isHidden()) return;
+  OverlaySwitches switches = Overlays->Switches();
+  switches.RaceName = ToText(Combo1->currentText());
+  KeyDock->ShowKey(session_, switches, state_.View, preferences_.Values().Map,
+                   Map->Universe->size());
+}
+
+void Main::ShowNearest() {
+  constexpr std::size_t kMost = 10;
+  if (DistancesDock->isHidden()) return;
+  const int from = SelectedPlanet(state_, session_);
+  if (from == 0) return DistancesDock->ShowNearest({}, {});
+  DistancesDock->ShowNearest(DescribeNear(session_, from, NearestOwnPlanets(session_, from, kMost)),
+                             DescribeNear(session_, from, NearestStargates(session_, from, kMost)));
+}
+
+// Tells how far it is to the pointer, whose place counts in whole light years as in the status
+// line, and to the destination.
+void Main::ShowDistances() {
+  const bool isShown = !DistancesDock->isHidden();
+  const int from = isShown ? SelectedPlanet(state_, session_) : 0;
+  const int to = state_.Destination;
+  const WayTexts toKept = DescribeWay(session_, from, to);
+  if (from > 0 && to > 0 && from != to) {
+    const auto place = [this](int planet) {
+      const PlanetRecord& record = session_.Planet(planet);
+      return StoredPoint{static_cast<double>(record.X()), static_cast<double>(record.Y())};
+    };
+    Map->ShowWay(std::pair(place(from), place(to)), ToQString(toKept.LightYears));
+  } else {
+    Map->ShowWay({}, {});
+  }
+  if (!isShown) return;
+  WayTexts toPointer;
+  if (from > 0 && pointer_) {
+    const int planet = PlanetAt(session_, state_.View, *pointer_);
+    const StoredPoint at = state_.View.ToStored(*pointer_);
+    toPointer = planet > 0 ? DescribeWay(session_, from, planet)
+                           : DescribeWay(session_, from, {std::floor(at.X), std::floor(at.Y)});
+  }
+  DistancesDock->ShowWays(from > 0 ? session_.Planet(from).Name() : "", toPointer, toKept);
+}
+
+void Main::DistancesDock_PlanetChosen(int planet) {
+  SelectPlanet(state_, session_, planet);
+  Selection_Changed();
+  Detail->ShowPlanet(session_, planet);
+}
+
+// Keeps the planet under the pointer, else that of the row with the keyboard, else the selected
+// one.
+void Main::ViewKeepDestination_Click() {
+  int planet = 0;
+  if (Navigator->Pointer()) planet = PlanetAt(session_, state_.View, *Navigator->Pointer());
+  if (planet == 0) planet = DistancesDock->FocusedPlanet();
+  if (planet == 0) planet = SelectedPlanet(state_, session_);
+  if (planet > 0) KeepDestination(planet);
+}
+
+void Main::KeepDestination(int planet) {
+  state_.Destination = planet;
+  if (planet > 0) DistancesDock->show();
+  ShowDistances();
+}
+
+}  // namespace quorvane
