@@ -191,7 +191,7 @@ std::vector<KeyLine> NamesKey(const KeyAsked& asked) {
   const auto line = [&](const char* words, Colour colour) {
     const auto draw = [colour, font = NameFont(asked.View), options = asked.Options](
                           DrawingSurface& surface, SurfacePoint at) {
-      constexpr const char* kName = "Name";
+      constexpr const char* kName = "Abc";
       surface.SetFontSize(font);
       const SurfacePoint corner = {at.X - surface.TextWidth(kName) / 2,
                                    at.Y - surface.TextHeight() / 2};
@@ -199,8 +199,8 @@ std::vector<KeyLine> NamesKey(const KeyAsked& asked) {
       surface.SetForeColour(colour);
       surface.Print(corner, kName);
     };
-    constexpr double kReach = 120;
-    return KeyLine{words, draw, kReach};
+    constexpr double kReachPerPoint = 33;
+    return KeyLine{words, draw, kReachPerPoint * NameFont(asked.View)};
   };
   std::vector<KeyLine> lines;
   if (asked.Switches.IsOn(OverlayKind::NamesColoured)) {

@@ -180,6 +180,7 @@ void Main::ConnectParts() {
   });
   connect(Map, &MapPanel::Resized, this, &Main::Map_Resized);
   connect(Navigator, &MapNavigator::Moved, this, &Main::Navigator_Moved);
+  connect(Navigator, &MapNavigator::FrameDue, this, &Main::Navigator_FrameDue);
   connect(Map->Universe, &PictureBox::MouseDown, this, &Main::Universe_MouseDown);
   connect(Map->Universe, &PictureBox::MouseMove, this, &Main::Universe_MouseMove);
   connect(Board, &DrawingBoard::Cleared, this, &Main::Board_Cleared);

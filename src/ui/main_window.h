@@ -84,6 +84,7 @@ class Main : public QMainWindow {
   bool GiveUpZoomBox();
   void Map_Resized();
   void Navigator_Moved();
+  void Navigator_FrameDue();
   void ViewOption_Click();
   void Combo1_Click();
   void Board_Cleared();

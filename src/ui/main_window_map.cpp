@@ -37,13 +37,17 @@ void Main::Repaint() {
   Map->Universe->update();
 }
 
-// The wheel, a pinch or a key shows another part of the universe: the map is painted anew, and
-// what lies above it follows. The drawing layer is not read again, so nothing of it is lost.
+// The wheel, a pinch or a key shows another part of the universe.
 void Main::Navigator_Moved() {
-  if (isDrawing_) return;  // the map is being painted with this view
-  const QScopedValueRollback oneRedraw(isDrawing_, true);
   Overlays->ShowZoom(state_.ZoomArmed == 1);
   if (state_.ZoomArmed == 0) ShowFullView();
+}
+
+// The map is painted anew, and what lies above it follows. The drawing layer is not read again, so
+// nothing of it is lost.
+void Main::Navigator_FrameDue() {
+  if (isDrawing_) return;  // the map is being painted with this view
+  const QScopedValueRollback oneRedraw(isDrawing_, true);
   Board->FollowView();
   Repaint();
   Map->PlaceSelector();

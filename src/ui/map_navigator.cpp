@@ -92,7 +92,7 @@ void MapNavigator::EnableCommands() {
 void MapNavigator::DrawDueFrame() {
   if (!isFrameDue_) return;
   FrameBegins();
-  emit Moved();
+  emit FrameDue();
   frameEnd_.start(0);
 }
 
@@ -112,6 +112,7 @@ bool MapNavigator::eventFilter(QObject* target, QEvent* event) {
       break;
     case QEvent::MouseButtonPress:
       DrawDueFrame();  // nobody clicks on what was not shown yet
+      lastMovement_ = Movement::None;
       break;
     case QEvent::Leave:
       pointer_.reset();
@@ -198,13 +199,13 @@ void MapNavigator::Universe_MouseMove(QPointF position) {
 
 void MapNavigator::Zoom(QPointF position, double notches) {
   const SurfacePoint pointer = map_.Universe->LogicalPoint(position);
-  Show(motion_.Zoomed(state_.View, pointer, notches), Movement::Zoom);
+  Show(motion_.Zoomed(state_.View, pointer, notches), Movement::Wheel);
 }
 
 // Moves the map, and so its window the other way.
 void MapNavigator::Pan(QPointF pixels) {
   const SurfacePoint by = map_.Universe->LogicalPoint(-pixels);
-  Show(motion_.Panned(state_.View, by.X, by.Y), Movement::Pan);
+  Show(motion_.Panned(state_.View, by.X, by.Y), Movement::Wheel);
 }
 
 void MapNavigator::ZoomInTheMiddle(double notches) {
@@ -226,6 +227,7 @@ void MapNavigator::Show(const MapView& view, Movement movement) {
   history_.Visit(view, Continues(movement));
   isUsed_ = true;
   EnableCommands();
+  emit Moved();
   isFrameDue_ = true;
   if (!frameEnd_.isActive()) DrawDueFrame();
 }

@@ -47,15 +47,17 @@ class MapNavigator : public QObject {
   void EnableCommands();
 
  signals:
-  /// Another view is shown: the map is to be drawn.
+  /// The state of the view is another one.
   void Moved();
+  /// The map is to be drawn.
+  void FrameDue();
 
  protected:
   bool eventFilter(QObject* target, QEvent* event) override;
 
  private:
   // What moves the map. The steps of one movement follow each other quickly.
-  enum class Movement { None, Command, Zoom, Pan, Drag, ArrowKey };
+  enum class Movement { None, Command, Wheel, Drag, ArrowKey };
 
   void ConnectCommands();
   bool Universe_Wheel(const QWheelEvent& event);
