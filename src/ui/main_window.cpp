@@ -112,7 +112,10 @@ Main::Main(std::filesystem::path startFolder, Prompts* prompts,
   qApp->installEventFilter(this);
 }
 
-Main::~Main() { qApp->removeEventFilter(this); }
+Main::~Main() {
+  hide();  // its place is kept while there is somebody to keep it
+  qApp->removeEventFilter(this);
+}
 
 void Main::Form_Load() {
   Menu.mnuData->setEnabled(false);

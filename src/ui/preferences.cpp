@@ -3,9 +3,11 @@
 #include <QEvent>
 #include <QFile>
 #include <QFileInfo>
+#include <QScreen>
 #include <QSettings>
 #include <QVariant>
 #include <QWidget>
+#include <algorithm>
 #include <utility>
 
 #include "ui/texts.h"
@@ -36,7 +38,7 @@ class PlaceKeeper : public QObject {
  protected:
   bool eventFilter(QObject* target, QEvent* event) override {
     if (event->type() == QEvent::Show && !event->spontaneous() && !std::exchange(isPlaced_, true)) {
-      window_.restoreGeometry(preferences_.PlaceOf(window_.objectName()));
+      if (window_.restoreGeometry(preferences_.PlaceOf(window_.objectName()))) MoveOntoScreen();
     } else if (event->type() == QEvent::Hide && !event->spontaneous()) {
       preferences_.KeepPlace(window_.objectName(), window_.saveGeometry());
     }
@@ -44,6 +46,16 @@ class PlaceKeeper : public QObject {
   }
 
  private:
+  // The screen may be a smaller one than when the window was left.
+  void MoveOntoScreen() {
+    const QRect screen = window_.screen()->availableGeometry();
+    if (window_.windowState() != Qt::WindowNoState) return;
+    window_.resize(window_.size().boundedTo(screen.size()));
+    const QPoint last = screen.bottomRight() - window_.rect().bottomRight();
+    window_.move(std::max(std::min(window_.x(), last.x()), screen.left()),
+                 std::max(std::min(window_.y(), last.y()), screen.top()));
+  }
+
   QWidget& window_;
   PreferencesFile& preferences_;
   bool isPlaced_ = false;
