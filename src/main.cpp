@@ -52,6 +52,11 @@ std::filesystem::path StartFolder() {
       quorvane::ToPath(userData) / "quorvane");
 }
 
+std::filesystem::path PreferencesPlace() {
+  const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
+  return quorvane::ToPath(folder) / "quorvane" / "quorvane.ini";
+}
+
 // Opens the first dialog when the window has its place on the screen: it stands in the middle of
 // it.
 class FirstDialog : public QObject {
@@ -83,7 +88,7 @@ int main(int argc, char* argv[]) {
   quorvane::ApplyTheme(application);
   quorvane::InstallAccessibleRoles();
   QApplication::setWindowIcon(quorvane::ThemedIcon("quorvane"));
-  quorvane::Main window(StartFolder());
+  quorvane::Main window(StartFolder(), nullptr, PreferencesPlace());
   window.show();
   const FirstDialog firstDialog(window);
   return QApplication::exec();

@@ -183,13 +183,6 @@ std::string NumberTextWithLeadingBlank(double value) {
   return (value < 0 ? "" : " ") + NumberText(value);
 }
 
-std::string FixedText(double value, int decimals) {
-  std::array<char, 400> text;  // the largest number has 309 digits
-  const auto written = std::to_chars(text.data(), text.data() + text.size(), value,
-                                     std::chars_format::fixed, decimals);
-  return {text.data(), written.ptr};
-}
-
 void FieldValue::SetText(std::string_view text) {
   number_ = NumericValue(text);
   kind_ = FieldKind::Text;

@@ -26,10 +26,6 @@ std::string NumberText(double value);
 /// `NumberText` with one blank before a non-negative number (a negative one has its sign there).
 std::string NumberTextWithLeadingBlank(double value);
 
-/// A number with just so many decimals: 12.0, whatever the user's language.
-/// @param decimals 0 … 15
-std::string FixedText(double value, int decimals);
-
 enum class FieldKind : std::uint8_t { Empty, Text, Whole, Real };
 
 /// One field of a planet or player record. It knows its `NumericValue` from the moment it is set,

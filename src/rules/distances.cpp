@@ -2,72 +2,67 @@
 
 #include <algorithm>
 #include <cmath>
-#include <iterator>
-#include <utility>
-
-#include "model/field_value.h"
-#include "rules/stargates.h"
+#include <functional>
+#include <tuple>
 
 namespace quorvane {
 namespace {
 
-template <typename IsWanted>
-std::vector<int> Nearest(const GameSession& session, int planet, std::size_t most,
-                         const IsWanted& isWanted) {
-  std::vector<std::pair<double, int>> found;
+bool HasStargate(const PlanetRecord& planet) { return GateOf(planet).Range > 0; }
+
+std::vector<NearPlanet> NearestPlanets(const GameSession& session, int planet,
+                                       const std::function<bool(const PlanetRecord&)>& isWanted) {
+  if (planet < 1 || planet > session.PlanetCount) return {};
+  std::vector<NearPlanet> near;
+  const PlanetRecord& from = session.Planet(planet);
   for (int number = 1; number <= session.PlanetCount; ++number) {
-    const PlanetRecord& other = session.Planet(number);
-    if (number == planet || !isWanted(other)) continue;
-    found.emplace_back(LightYearsBetween(session.Planet(planet), other), number);
+    const PlanetRecord& to = session.Planet(number);
+    if (number != planet && isWanted(to)) near.push_back({number, LightYearsBetween(from, to)});
   }
-  const auto end = found.begin() + static_cast<std::ptrdiff_t>(std::min(most, found.size()));
-  std::partial_sort(found.begin(), end, found.end());
-  std::vector<int> numbers;
-  std::transform(found.begin(), end, std::back_inserter(numbers),
-                 [](const auto& each) { return each.second; });
-  return numbers;
+  const std::size_t count = std::min(near.size(), kNearestPlanets);
+  std::partial_sort(near.begin(), near.begin() + static_cast<std::ptrdiff_t>(count), near.end(),
+                    [](const NearPlanet& left, const NearPlanet& right) {
+                      return std::tie(left.LightYears, left.Number) <
+                             std::tie(right.LightYears, right.Number);
+                    });
+  near.resize(count);
+  return near;
 }
 
 }  // namespace
 
-double LightYearsBetween(double x, double y, double otherX, double otherY) {
-  // The root of a sum of squares is exact wherever the distance is a whole number: 9 light years
-  // must not become a hair more, which would be a year more.
-  return std::sqrt((x - otherX) * (x - otherX) + (y - otherY) * (y - otherY));
+double LightYearsBetween(double fromX, double fromY, double toX, double toY) {
+  // Exact for whole light years: a way of 81 is not a little more, which would take a year longer.
+  return std::sqrt((toX - fromX) * (toX - fromX) + (toY - fromY) * (toY - fromY));
 }
 
-double LightYearsBetween(const PlanetRecord& planet, const PlanetRecord& other) {
-  return LightYearsBetween(planet.X(), planet.Y(), other.X(), other.Y());
+double LightYearsBetween(const PlanetRecord& from, const PlanetRecord& to) {
+  return LightYearsBetween(from.X(), from.Y(), to.X(), to.Y());
 }
 
 int YearsAtWarp(double lightYears, int warp) {
   return static_cast<int>(std::ceil(lightYears / (warp * warp)));
 }
 
-std::string GateWayText(const PlanetRecord& from, const PlanetRecord& to) {
+GateWay GateWayBetween(const PlanetRecord& from, const PlanetRecord& to) {
+  if (!HasStargate(from) || !HasStargate(to)) return {};
   const Gate sender = GateOf(from);
-  const Gate receiver = GateOf(to);
-  if (sender.Range <= 0 || receiver.Range <= 0) return "no";
-  const int distance = GateDistance(sender, receiver);
-  switch (ReachOf(sender.Range, distance)) {
-    case GateReach::Safe:
-      return "safe";
-    case GateReach::None:
-      return "no";
-    case GateReach::Dangerous:
-      break;
-  }
-  return "damage, " + FixedText(static_cast<double>(distance) / sender.Range, 1) + " x range";
+  const int distance = GateDistance(sender, GateOf(to));
+  const GateReach reach = ReachOf(sender.Range, distance);
+  if (reach == GateReach::None) return {};
+  return {reach, static_cast<double>(distance) / sender.Range};
 }
 
-std::vector<int> NearestOwnPlanets(const GameSession& session, int planet, std::size_t most) {
-  return Nearest(session, planet, most,
-                 [&](const PlanetRecord& other) { return other.Owner() == session.MyRaceName; });
+std::vector<NearPlanet> NearestOwnPlanets(const GameSession& session, int planet) {
+  // Without a race of one's own the planets that nobody owns would bear its name.
+  if (session.MyRaceName.empty()) return {};
+  return NearestPlanets(session, planet, [&](const PlanetRecord& other) {
+    return other.Owner() == session.MyRaceName;
+  });
 }
 
-std::vector<int> NearestStargates(const GameSession& session, int planet, std::size_t most) {
-  return Nearest(session, planet, most,
-                 [](const PlanetRecord& other) { return GateOf(other).Range > 0; });
+std::vector<NearPlanet> NearestStargates(const GameSession& session, int planet) {
+  return NearestPlanets(session, planet, HasStargate);
 }
 
 }  // namespace quorvane

@@ -1,32 +1,52 @@
 #pragma once
 
-#include <string>
+#include <cstddef>
 #include <vector>
 
 #include "model/game_session.h"
+#include "model/planet_record.h"
+#include "rules/stargates.h"
 
 namespace quorvane {
 
-/// How far two places lie apart, in light years. Both are stored coordinates.
-double LightYearsBetween(double x, double y, double otherX, double otherY);
-double LightYearsBetween(const PlanetRecord& planet, const PlanetRecord& other);
+/// The warp speeds that ways are told for; slower ones serve nobody who plans a way.
+inline constexpr int kSlowestWarp = 4;
+inline constexpr int kFastestWarp = 10;
+inline constexpr std::size_t kWarpCount = kFastestWarp - kSlowestWarp + 1;
 
-/// How many years a fleet flies: at warp w it comes w * w light years far in a year, and a part of
-/// a year counts as a whole one.
-/// @param warp 1 … 10
+/// The way between two places in stored coordinates, as a fleet flies it.
+double LightYearsBetween(double fromX, double fromY, double toX, double toY);
+double LightYearsBetween(const PlanetRecord& from, const PlanetRecord& to);
+
+/// How many years a fleet is on its way: at warp w it flies w * w light years a year, and a year
+/// that it needs only a part of counts whole. 81 light years take 1 year at warp 9, any more 2.
+/// @param warp from 1
 int YearsAtWarp(double lightYears, int warp);
 
-/// What happens to ships that a planet's stargate sends to another planet, which has to have one as
-/// well: "safe", "damage, 2.3 x range" or "no".
-std::string GateWayText(const PlanetRecord& from, const PlanetRecord& to);
+/// What becomes of ships that a stargate sends.
+struct GateWay {
+  GateReach Reach = GateReach::None;
+  /// The distance in ranges of the sending gate; 0 where it sends nothing.
+  double Ranges = 0;
+};
 
-/// The planets nearest to one, itself left out, the nearest first and by number where several lie
-/// equally far.
-/// @param planet  its number, from 1
-/// @param most    how many, if there are so many
-/// @return their numbers
-std::vector<int> NearestOwnPlanets(const GameSession& session, int planet, std::size_t most);
-/// The same among the planets with a stargate, whoever owns them.
-std::vector<int> NearestStargates(const GameSession& session, int planet, std::size_t most);
+/// The way through the stargates of two planets: both need one, and the sender's range decides.
+GateWay GateWayBetween(const PlanetRecord& from, const PlanetRecord& to);
+
+/// A planet and how far away it is.
+struct NearPlanet {
+  int Number = 0;
+  double LightYears = 0;
+};
+
+/// How many planets a list of the nearest ones has at most.
+inline constexpr std::size_t kNearestPlanets = 10;
+
+/// The planets of the user's own race that are nearest to a planet, the nearest first and of
+/// equally near ones the lower number. The planet itself is none of them, and a planet that the
+/// game does not have is near to nothing.
+std::vector<NearPlanet> NearestOwnPlanets(const GameSession& session, int planet);
+/// The same of planets with stargates, whoever owns them.
+std::vector<NearPlanet> NearestStargates(const GameSession& session, int planet);
 
 }  // namespace quorvane

@@ -1,54 +1,74 @@
 #include "screens/distance_texts.h"
 
 #include "model/field_value.h"
-#include "rules/distances.h"
+#include "model/rounding.h"
 
 namespace quorvane {
 namespace {
 
-WayTexts TextsOf(std::string to, double lightYears) {
-  WayTexts texts = {.To = std::move(to), .LightYears = LightYearsText(lightYears)};
-  int warp = kSlowestWarp;
-  for (std::string& years : texts.Years) years = std::to_string(YearsAtWarp(lightYears, warp++));
-  return texts;
+std::string OneDecimalText(double value) {
+  const std::string text = NumberText(RoundToDecimals(value, 1));
+  return text.find('.') == text.npos ? text + ".0" : text;
+}
+
+std::string YearsText(double lightYears, int warp) {
+  const int years = YearsAtWarp(lightYears, warp);
+  return std::to_string(years) + (years == 1 ? " year" : " years");
+}
+
+std::string GateText(const GateWay& way) {
+  if (way.Reach == GateReach::Safe) return "safe";
+  if (way.Reach == GateReach::None) return "no";
+  return "damage, " + OneDecimalText(way.Ranges) + " x range";
+}
+
+const PlanetRecord* PlanetOrNone(const GameSession& session, int number) {
+  return number >= 1 && number <= session.PlanetCount ? &session.Planet(number) : nullptr;
+}
+
+void TellLength(DistanceTexts& texts, double lightYears) {
+  texts.LightYears = WayLengthText(lightYears);
+  for (std::size_t step = 0; step < kWarpCount; ++step) {
+    texts.Years[step] = YearsText(lightYears, kSlowestWarp + static_cast<int>(step));
+  }
+}
+
+std::vector<NearRow> RowsOf(const GameSession& session, const std::vector<NearPlanet>& planets) {
+  std::vector<NearRow> rows;
+  rows.reserve(planets.size());
+  for (const NearPlanet& planet : planets) {
+    rows.push_back({planet.Number, session.Planet(planet.Number).Name(),
+                    OneDecimalText(planet.LightYears), YearsText(planet.LightYears, kListedWarp)});
+  }
+  return rows;
 }
 
 }  // namespace
 
-std::string LightYearsText(double lightYears) { return FixedText(lightYears, 1) + " l.y."; }
+std::string WayLengthText(double lightYears) { return OneDecimalText(lightYears) + " l.y."; }
 
-WayTexts DescribeWay(const GameSession& session, int from, int to) {
-  if (to == 0) return {};
-  const PlanetRecord& end = session.Planet(to);
-  if (from == 0) return {.To = end.Name()};
-  const PlanetRecord& start = session.Planet(from);
-  WayTexts texts = TextsOf(end.Name(), LightYearsBetween(start, end));
-  texts.GateThere = GateWayText(start, end);
-  texts.GateBack = GateWayText(end, start);
-  return texts;
-}
-
-WayTexts DescribeWay(const GameSession& session, int from, StoredPoint to) {
-  if (from == 0) return {};
-  const PlanetRecord& start = session.Planet(from);
-  WayTexts texts = TextsOf("Deep Space", LightYearsBetween(start.X(), start.Y(), to.X, to.Y));
-  texts.GateThere = "no";
-  texts.GateBack = "no";
-  return texts;
-}
-
-std::vector<NearPlanet> DescribeNear(const GameSession& session, int from,
-                                     const std::vector<int>& numbers) {
-  std::vector<NearPlanet> planets;
-  for (const int number : numbers) {
-    const PlanetRecord& planet = session.Planet(number);
-    const double lightYears = LightYearsBetween(session.Planet(from), planet);
-    planets.push_back({.Number = number,
-                       .Name = planet.Name(),
-                       .LightYears = FixedText(lightYears, 1),
-                       .Years = std::to_string(YearsAtWarp(lightYears, kUsualWarp))});
+DistanceTexts DescribeWay(const GameSession& session, int selected, int target,
+                          std::optional<StoredPoint> place) {
+  const PlanetRecord* const from = PlanetOrNone(session, selected);
+  const PlanetRecord* const to = PlanetOrNone(session, target);
+  DistanceTexts texts;
+  if (to == nullptr && !place) return texts;
+  texts.To = to != nullptr ? to->Name() : "Deep Space";
+  if (from == nullptr) return texts;
+  if (to != nullptr) {
+    TellLength(texts, LightYearsBetween(*from, *to));
+    texts.GateThere = GateText(GateWayBetween(*from, *to));
+    texts.GateBack = GateText(GateWayBetween(*to, *from));
+  } else {
+    TellLength(texts, LightYearsBetween(from->X(), from->Y(), place->X, place->Y));
+    texts.GateThere = texts.GateBack = GateText({});
   }
-  return planets;
+  return texts;
+}
+
+NearLists DescribeNearPlanets(const GameSession& session, int selected) {
+  return {RowsOf(session, NearestOwnPlanets(session, selected)),
+          RowsOf(session, NearestStargates(session, selected))};
 }
 
 }  // namespace quorvane

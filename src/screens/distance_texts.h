@@ -7,51 +7,57 @@
 
 #include "map/map_view.h"
 #include "model/game_session.h"
+#include "rules/distances.h"
 
 namespace quorvane {
 
-/// The warp speeds that are told of; slower ones are not flown, and no engine is faster.
-inline constexpr int kSlowestWarp = 4;
-inline constexpr int kFastestWarp = 10;
-inline constexpr std::size_t kWarps = kFastestWarp - kSlowestWarp + 1;
-/// The speed of lists that have room for one.
-inline constexpr int kUsualWarp = 9;
+/// The length of a way: "123.4 l.y.".
+std::string WayLengthText(double lightYears);
 
-/// A distance as it is shown: "123.4 l.y.".
-std::string LightYearsText(double lightYears);
-
-/// What is told of the way from the selected planet to somewhere; empty what is not known while
-/// there is no such way.
-struct WayTexts {
+/// What is told of the way from the selected planet to a target; all texts are empty where there is
+/// no target, and all but its name without a selected planet.
+struct DistanceTexts {
+  /// The target's name; "Deep Space" where no planet is.
   std::string To;
   std::string LightYears;
-  /// At `kSlowestWarp` and above.
-  std::array<std::string, kWarps> Years;
+  /// "1 year", at `kSlowestWarp` … `kFastestWarp`.
+  std::array<std::string, kWarpCount> Years;
+  /// What the selected planet's stargate does to ships sent to the target, and the target's to
+  /// those sent back: "safe", "damage, 2.3 x range", "no".
   std::string GateThere;
   std::string GateBack;
 
-  bool operator==(const WayTexts&) const = default;
+  bool operator==(const DistanceTexts&) const = default;
 };
 
-/// The way between two planets.
-/// @param from, to  their numbers, 0 for none
-WayTexts DescribeWay(const GameSession& session, int from, int to);
-/// The way from a planet to a place in deep space, which no stargate leads to.
-WayTexts DescribeWay(const GameSession& session, int from, StoredPoint to);
+/// @param selected where the way begins; a number that the game does not have: nowhere
+/// @param target   the planet where it ends; a number that the game does not have: at the place
+/// @param place    its end in deep space
+DistanceTexts DescribeWay(const GameSession& session, int selected, int target,
+                          std::optional<StoredPoint> place = std::nullopt);
 
-/// A planet near the selected one.
-struct NearPlanet {
-  int Number = 0;
+/// A planet in a list of near ones.
+struct NearRow {
+  int Planet = 0;
   std::string Name;
+  /// "123.4", as a list has its unit in the heading.
   std::string LightYears;
-  std::string Years;  // at `kUsualWarp`
+  /// "2 years", at `kListedWarp`.
+  std::string Years;
 
-  bool operator==(const NearPlanet&) const = default;
+  bool operator==(const NearRow&) const = default;
 };
 
-/// What is told of the planets in a list, from a planet.
-/// @param numbers  of the planets, in their order
-std::vector<NearPlanet> DescribeNear(const GameSession& session, int from,
-                                     const std::vector<int>& numbers);
+/// The speed that the lists tell years for.
+inline constexpr int kListedWarp = 9;
+
+/// The planets near the selected one.
+struct NearLists {
+  std::vector<NearRow> Own;
+  std::vector<NearRow> Stargates;
+
+  bool operator==(const NearLists&) const = default;
+};
+NearLists DescribeNearPlanets(const GameSession& session, int selected);
 
 }  // namespace quorvane

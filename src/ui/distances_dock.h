@@ -1,59 +1,81 @@
 #pragma once
 
 #include <QDockWidget>
+#include <QLabel>
 #include <QPushButton>
 #include <QTreeWidget>
 #include <array>
 #include <string>
 #include <vector>
 
+#include "model/game_session.h"
 #include "screens/distance_texts.h"
 #include "ui/elided_label.h"
 
 namespace quorvane {
 
-/// How far it is from the selected planet to the pointer and to a kept destination, for fleets and
-/// by stargate, and which planets lie nearest.
+/// The dock that tells how far it is from the selected planet to the pointer and to a planet that
+/// is kept as destination, and which planets are near the selected one.
 class DistancesDock : public QDockWidget {
   Q_OBJECT
 
  public:
+  /// Shows no game at first.
   explicit DistancesDock(QWidget* parent);
 
-  /// Shows the ways from a planet. Cheap enough for every move of the pointer.
-  /// @param from  the selected planet's name; empty: none is selected
-  void ShowWays(const std::string& from, const WayTexts& toPointer, const WayTexts& toKept);
-  /// Fills the lists of the planets nearest to the selected one.
-  void ShowNearest(std::vector<NearPlanet> own, std::vector<NearPlanet> withGate);
-  /// The planet whose row the keyboard is on, in whichever list has the focus; 0: in none.
-  int FocusedPlanet() const;
+  /// Shows what is told of the ways, for every move of the pointer: only what differs is changed.
+  /// @param from      the selected planet's name; empty: none is selected, and no way is shown
+  /// @param toPointer without a target while the pointer is not on the map
+  /// @param toKept    without a target while no destination is kept
+  void ShowWays(const std::string& from, const DistanceTexts& toPointer,
+                const DistanceTexts& toKept);
+  /// Lists the planets near the selected one; a list in which nothing changed stays as it is.
+  /// @param selectedPlanet its number; 0, or one that the game does not have: the lists are empty
+  void ShowNearest(const GameSession& session, int selectedPlanet);
 
-  ElidedLabel* DistancesFrom = nullptr;
-  QPushButton* DistancesKeep = nullptr;
-  QPushButton* DistancesForget = nullptr;
-  QTreeWidget* DistancesOwn = nullptr;
-  QTreeWidget* DistancesGates = nullptr;
+  /// The number of the planet whose row has the keyboard focus; 0 when none has it.
+  int ChosenPlanet() const;
 
  signals:
-  /// A row was clicked, or chosen by the keyboard.
-  void PlanetChosen(int planet);
+  /// A row was clicked, or Enter pressed on it.
+  void PlanetChosen(int number);
+  /// The user wants a planet kept as destination.
   void KeepAsked();
+  /// The user wants the destination forgotten.
   void ForgetAsked();
 
+ protected:
+  bool eventFilter(QObject* target, QEvent* event) override;
+
  private:
-  // The labels of one way, from the top down.
-  static constexpr std::size_t kRows = kWarps + 4;
-  using Column = std::array<ElidedLabel*, kRows>;
+  // What the grid shows of one way.
+  struct Column {
+    ElidedLabel* To = nullptr;
+    QLabel* LightYears = nullptr;
+    std::array<QLabel*, kWarpCount> Years = {};
+    QLabel* GateThere = nullptr;
+    QLabel* GateBack = nullptr;
+    DistanceTexts Shown;
+  };
+  // A list of near planets and what it shows.
+  struct NearList {
+    QTreeWidget* View = nullptr;
+    std::vector<NearRow> Shown;
+  };
 
-  QWidget* NewWays(QWidget* parent);
-  QTreeWidget* NewList(const char* name, const QString& meaning, QWidget* parent);
-  static void Fill(QTreeWidget& list, const std::vector<NearPlanet>& planets);
-  static void ShowWay(const Column& column, const WayTexts& way);
+  QWidget* NewButtons(QWidget* page);
+  QWidget* NewWayGrid(QWidget* page);
+  void AddColumn(QWidget* grid, int index);
+  QTreeWidget* NewNearList(const char* name, const QString& meaning, QWidget* page);
+  static void ShowColumn(Column& column, const DistanceTexts& texts);
+  static void Fill(NearList& list, const std::vector<NearRow>& rows);
 
-  Column pointer_ = {};
-  Column kept_ = {};
-  std::vector<NearPlanet> own_;
-  std::vector<NearPlanet> withGate_;
+  ElidedLabel* from_ = nullptr;
+  QPushButton* keep_ = nullptr;
+  QPushButton* forget_ = nullptr;
+  std::array<Column, 2> columns_;  // pointer, destination
+  NearList own_;
+  NearList gates_;
 };
 
 }  // namespace quorvane

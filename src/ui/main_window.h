@@ -131,6 +131,7 @@ class Main : public QMainWindow {
   PreferencesFile preferences_;
   bool arePlacesKnown_ = false;  // of the docks
   OpenState open_;
+  // These have their places kept when they go, and so go before.
   std::unique_ptr<OpenFile> openFile_;
   std::unique_ptr<FindPlanet> findPlanet_;
   std::unique_ptr<Grid> grid_;

@@ -52,6 +52,7 @@ void Main::mnuMap_Click() {
   if (redraw_ != nullptr) return;  // the game must stay while it is drawn
   if (openFile_ == nullptr || openFile_->IsDiscarded()) {
     openFile_ = std::make_unique<OpenFile>(open_, prompts_, this);
+    RememberPlace(*openFile_, preferences_);
   }
   openFile_->exec();
   if (open_.OpenDialogResult != 0) return;
@@ -129,6 +130,7 @@ void Main::mnuHideSelect_Click() {
 void Main::mnuSearchPlanet_Click() {
   if (findPlanet_ == nullptr) {
     findPlanet_ = std::make_unique<FindPlanet>(session_, state_, prompts_, this);
+    RememberPlace(*findPlanet_, preferences_);
   }
   findPlanet_->exec();
   Selection_Changed();
@@ -139,19 +141,37 @@ void Main::mnuSearchPlanet_Click() {
 }
 
 void Main::mnuGrid_Click() {
-  if (grid_ == nullptr) grid_ = std::make_unique<Grid>();
+  if (grid_ == nullptr) {
+    grid_ = std::make_unique<Grid>();
+    RememberPlace(*grid_, preferences_);
+  }
   grid_->Fill(session_);
   ShowInFront(*grid_);
 }
 
-void Main::mnuGrid2_Click() { EmpireStat(session_, prompts_, this).exec(); }
+void Main::mnuGrid2_Click() {
+  EmpireStat statistics(session_, prompts_, this);
+  RememberPlace(statistics, preferences_);
+  statistics.exec();
+}
 
-void Main::mnuAbout_Click() { About(this).exec(); }
+void Main::mnuAbout_Click() {
+  About about(this);
+  RememberPlace(about, preferences_);
+  about.exec();
+}
 
-void Main::mnuThanks_Click() { Thanksto(this).exec(); }
+void Main::mnuThanks_Click() {
+  Thanksto thanks(this);
+  RememberPlace(thanks, preferences_);
+  thanks.exec();
+}
 
 void Main::mnuManual_Click() {
-  if (manual_ == nullptr) manual_ = std::make_unique<Manual>();
+  if (manual_ == nullptr) {
+    manual_ = std::make_unique<Manual>();
+    RememberPlace(*manual_, preferences_);
+  }
   ShowInFront(*manual_);
 }
 

@@ -7,7 +7,6 @@
 #include <cmath>
 
 #include "map/planets_in_view.h"
-#include "rules/distances.h"
 #include "screens/main_layout.h"
 #include "ui/details_panel.h"
 #include "ui/distances_dock.h"
@@ -19,6 +18,18 @@
 #include "ui/texts.h"
 
 namespace quorvane {
+namespace {
+
+// Gives the keyboard to the first control of a dock that takes it.
+void FocusFirst(QWidget& content) {
+  for (QWidget* each = &content; each == &content || content.isAncestorOf(each);
+       each = each->nextInFocusChain()) {
+    if (!each->isEnabled() || !(each->focusPolicy() & Qt::TabFocus) != 0) continue;
+    return each->setFocus(Qt::TabFocusReason);
+  }
+}
+
+}  // namespace
 
 void Main::BuildDocks() {
   KeyDock = new quorvane::KeyDock(this);
@@ -65,7 +76,7 @@ void Main::OpenDock(QDockWidget& dock) {
   }
   dock.show();
   dock.raise();
-  if (QWidget* first = dock.widget()->nextInFocusChain(); first != nullptr) first->setFocus();
+  FocusFirst(*dock.widget());
 }
 
 void Main::ShowKey() {
@@ -77,12 +88,8 @@ void Main::ShowKey() {
 }
 
 void Main::ShowNearest() {
-  constexpr std::size_t kMost = 10;
   if (DistancesDock->isHidden()) return;
-  const int from = SelectedPlanet(state_, session_);
-  if (from == 0) return DistancesDock->ShowNearest({}, {});
-  DistancesDock->ShowNearest(DescribeNear(session_, from, NearestOwnPlanets(session_, from, kMost)),
-                             DescribeNear(session_, from, NearestStargates(session_, from, kMost)));
+  DistancesDock->ShowNearest(session_, SelectedPlanet(state_, session_));
 }
 
 // Tells how far it is to the pointer, whose place counts in whole light years as in the status
@@ -91,7 +98,7 @@ void Main::ShowDistances() {
   const bool isShown = !DistancesDock->isHidden();
   const int from = isShown ? SelectedPlanet(state_, session_) : 0;
   const int to = state_.Destination;
-  const WayTexts toKept = DescribeWay(session_, from, to);
+  const DistanceTexts toKept = DescribeWay(session_, from, to);
   if (from > 0 && to > 0 && from != to) {
     const auto place = [this](int planet) {
       const PlanetRecord& record = session_.Planet(planet);
@@ -102,12 +109,11 @@ void Main::ShowDistances() {
     Map->ShowWay({}, {});
   }
   if (!isShown) return;
-  WayTexts toPointer;
-  if (from > 0 && pointer_) {
-    const int planet = PlanetAt(session_, state_.View, *pointer_);
+  DistanceTexts toPointer;
+  if (pointer_) {
     const StoredPoint at = state_.View.ToStored(*pointer_);
-    toPointer = planet > 0 ? DescribeWay(session_, from, planet)
-                           : DescribeWay(session_, from, {std::floor(at.X), std::floor(at.Y)});
+    toPointer = DescribeWay(session_, from, PlanetAt(session_, state_.View, *pointer_),
+                            StoredPoint{std::floor(at.X), std::floor(at.Y)});
   }
   DistancesDock->ShowWays(from > 0 ? session_.Planet(from).Name() : "", toPointer, toKept);
 }
@@ -123,7 +129,7 @@ void Main::DistancesDock_PlanetChosen(int planet) {
 void Main::ViewKeepDestination_Click() {
   int planet = 0;
   if (Navigator->Pointer()) planet = PlanetAt(session_, state_.View, *Navigator->Pointer());
-  if (planet == 0) planet = DistancesDock->FocusedPlanet();
+  if (planet == 0) planet = DistancesDock->ChosenPlanet();
   if (planet == 0) planet = SelectedPlanet(state_, session_);
   if (planet > 0) KeepDestination(planet);
 }

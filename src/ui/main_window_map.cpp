@@ -135,6 +135,7 @@ void Main::RaceC_Click(int index) {
   const int slot = ColourSlotOf(session_, race);
   if (slot == 0) return;
   RaceColour dialog(session_, index, slot, ToQString(race), this);
+  RememberPlace(dialog, preferences_);
   if (dialog.exec() == QDialog::Accepted) RaceLegend->ShowChangedColour(session_, index);
   state_.BordersCached = 0;
   Map->Universe2->Surface().Clear();

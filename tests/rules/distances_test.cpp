@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <tuple>
+#include <string>
 
 #include "support/game_builder.h"
 
@@ -10,7 +10,7 @@ namespace quorvane {
 namespace {
 
 TEST(YearsAtWarp, CountsAPartOfAYearAsOne) {
-  for (int warp = 4; warp <= 10; ++warp) {
+  for (int warp = kSlowestWarp; warp <= kFastestWarp; ++warp) {
     const double year = warp * warp;
     EXPECT_EQ(YearsAtWarp(0, warp), 0) << warp;
     EXPECT_EQ(YearsAtWarp(0.1, warp), 1) << warp;
@@ -20,27 +20,14 @@ TEST(YearsAtWarp, CountsAPartOfAYearAsOne) {
   }
 }
 
-TEST(GateWayText, TellsEachDirectionByTheSendersRange) {
-  const std::tuple<int, int, const char*, const char*> cases[] = {
-      {230, 100, "safe", "damage, 2.3 x range"},
-      {230, 229, "safe", "damage, 1.0 x range"},
-      {46, 45, "damage, 5.0 x range", "no"},
-      {230, 0, "no", "no"},
-      {0, 230, "no", "no"},
-      {kUnlimitedGate, 230, "safe", "safe"}};
-  for (const auto& [here, there, way, back] : cases) {
-    const GameSession game = GameBuilder()
-                                 .Planet("Here", {1000, 1500})
-                                 .With(PlanetField::GateRange, here)
-                                 .Planet("There", {1230, 1500})
-                                 .With(PlanetField::GateRange, there)
-                                 .Build();
-    EXPECT_EQ(GateWayText(game.Planet(1), game.Planet(2)), way) << here << ", " << there;
-    EXPECT_EQ(GateWayText(game.Planet(2), game.Planet(1)), back) << here << ", " << there;
-  }
+// Numbers, in the order of the list.
+std::string Numbers(const std::vector<NearPlanet>& planets) {
+  std::string numbers;
+  for (const NearPlanet& planet : planets) numbers += std::to_string(planet.Number) + " ";
+  return numbers;
 }
 
-TEST(NearestPlanets, ComeByDistanceThenNumberAndAreNoMoreThanAskedFor) {
+TEST(NearestPlanets, ComeByDistanceThenNumberAndAreTenAtMost) {
   GameBuilder game;
   game.Planet("From", {1500, 1500}).OwnedBy("Mine").With(PlanetField::GateRange, 100);
   for (int i = 0; i < 12; ++i) game.Planet("Far", {1900.0 - 10 * i, 1500}).OwnedBy("Mine");
@@ -48,11 +35,13 @@ TEST(NearestPlanets, ComeByDistanceThenNumberAndAreNoMoreThanAskedFor) {
   game.Planet("East", {1510, 1500}).With(PlanetField::GateRange, kUnlimitedGate);
   game.Planet("Nobody", {1501, 1500});
   GameSession session = game.Build();
+  EXPECT_EQ(Numbers(NearestOwnPlanets(session, 1)), "") << "no race of one's own";
   session.MyRaceName = "Mine";
-  using Numbers = std::vector<int>;
-  EXPECT_EQ(NearestOwnPlanets(session, 1, 10), (Numbers{13, 12, 11, 10, 9, 8, 7, 6, 5, 4}));
-  EXPECT_EQ(NearestStargates(session, 1, 10), (Numbers{14, 15})) << "equally far";
-  EXPECT_EQ(NearestStargates(session, 16, 10), (Numbers{1, 15, 14}));
+  EXPECT_EQ(Numbers(NearestOwnPlanets(session, 1)), "13 12 11 10 9 8 7 6 5 4 ");
+  EXPECT_EQ(Numbers(NearestStargates(session, 1)), "14 15 ") << "equally far";
+  EXPECT_EQ(Numbers(NearestStargates(session, 16)), "1 15 14 ");
+  EXPECT_EQ(NearestStargates(session, 1).at(0).LightYears, 10);
+  for (const int none : {-1, 0, 17}) EXPECT_EQ(Numbers(NearestStargates(session, none)), "");
 }
 
 }  // namespace
