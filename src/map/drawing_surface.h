@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <memory>
+#include <span>
 #include <string_view>
 
 #include "map/map_view.h"
@@ -28,6 +29,12 @@ struct Pen {
   bool Filled = false;
   /// In pixels of an ordinary screen, at least 1; the side of a point.
   int Width = 1;
+};
+
+/// Where one of many circles lies.
+struct DiscPlace {
+  SurfacePoint Centre;
+  double Radius = 0;
 };
 
 /// A finished picture of a surface, to be given back to it or to its twin later.
@@ -80,6 +87,11 @@ class DrawingSurface {
   }
   /// An outline in the colour, filled as the pen and the fill colour say.
   virtual void Circle(SurfacePoint centre, double radius, Colour colour) = 0;
+  /// The same for many circles whose inside has the colour as well; it is the fill colour then.
+  virtual void Discs(std::span<const DiscPlace> discs, Colour colour) {
+    SetFillColour(colour);
+    for (const DiscPlace& disc : discs) Circle(disc.Centre, disc.Radius, colour);
+  }
   /// Text in the fore colour, its top left corner at the position.
   virtual void Print(SurfacePoint topLeft, std::string_view text) = 0;
   /// How wide `Print` would make a text, in logical units.

@@ -18,10 +18,12 @@ constexpr int kFullRed = 255;
 
 void DrawRanges(const std::vector<PlanetInView>& planets, const MapView& view,
                 DrawingSurface& surface, PlanetField range, Colour colour) {
+  std::vector<DiscPlace> discs;
   for (const auto& [planet, at] : planets) {
     const double lightYears = planet[range].Number();
-    if (lightYears > 0) DrawDisc(surface, at, lightYears * view.MapScale, colour);
+    if (lightYears > 0) discs.push_back({at, lightYears * view.MapScale});
   }
+  surface.Discs(discs, colour);
 }
 
 }  // namespace

@@ -31,6 +31,10 @@ void StoppableSurface::Circle(SurfacePoint centre, double radius, Colour colour)
   if (GoesOn()) surface_.Circle(centre, radius, colour);
 }
 
+void StoppableSurface::Discs(std::span<const DiscPlace> discs, Colour colour) {
+  if (GoesOn()) surface_.Discs(discs, colour);
+}
+
 void StoppableSurface::Print(SurfacePoint topLeft, std::string_view text) {
   if (GoesOn()) surface_.Print(topLeft, text);
 }

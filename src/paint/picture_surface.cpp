@@ -123,6 +123,19 @@ void PictureSurface::Circle(SurfacePoint centre, double radius, Colour colour) {
                            fill);
 }
 
+void PictureSurface::Discs(std::span<const DiscPlace> discs, Colour colour) {
+  const bool isAllCopied = pen_.Filled && pen_.Mode == DrawMode::Copy && !topDown_;
+  if (!isAllCopied) return DrawingSurface::Discs(discs, colour);
+  SetFillColour(colour);
+  const double halfOutline = pen_.Style == DrawStyle::Solid ? DevicePenWidth() / 2.0 : 0;
+  std::vector<PixelDisc> pixelDiscs;
+  for (const DiscPlace& disc : discs) {
+    if (!(disc.Radius >= 0)) continue;
+    pixelDiscs.push_back({DevicePoint(disc.Centre), disc.Radius * pixelsPerUnitX_ + halfOutline});
+  }
+  Canvas(pen_.Mode).Discs(pixelDiscs, RgbOf(colour));
+}
+
 void PictureSurface::Print(SurfacePoint topLeft, std::string_view text) {
   const QPointF at = DevicePoint(topLeft);
   SizedFont& font = texts_.FontOf(fontPoints_, picture_);

@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <memory>
 #include <optional>
+#include <span>
 #include <string_view>
 
 #include "map/drawing_surface.h"
@@ -57,6 +58,7 @@ class PictureSurface : public DrawingSurface {
   void Line(SurfacePoint from, SurfacePoint to, Colour colour) override;
   bool LineHidesItsReverse(SurfacePoint from, SurfacePoint to, Colour colour) override;
   void Circle(SurfacePoint centre, double radius, Colour colour) override;
+  void Discs(std::span<const DiscPlace> discs, Colour colour) override;
   void Print(SurfacePoint topLeft, std::string_view text) override;
   double TextWidth(std::string_view text) const override;
 

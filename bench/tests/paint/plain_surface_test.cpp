@@ -57,6 +57,12 @@ class Twins {
       surface.Circle(centre, radius, colour);
     });
   }
+  // Together they often cover whole rows, and some lie inside others.
+  void DrawDiscs() {
+    std::vector<DiscPlace> discs(std::size_t{1} + dice_() % 30);
+    for (DiscPlace& disc : discs) disc = {RandomPlace(), Between(0, 1500) / 49.0};
+    Draw([&, colour = RandomColour()](DrawingSurface& surface) { surface.Discs(discs, colour); });
+  }
 
   // Characters are kept one by one, so how they follow each other must not matter.
   void DrawText() {
@@ -104,6 +110,7 @@ TEST(PictureSurface, DrawsThePixelsOfItsPlainTwin) {
   const std::tuple<const char*, void (Twins::*)()> shapes[] = {{"points", &Twins::DrawPoint},
                                                                {"lines", &Twins::DrawLine},
                                                                {"circles", &Twins::DrawCircle},
+                                                               {"discs", &Twins::DrawDiscs},
                                                                {"texts", &Twins::DrawText}};
   for (const auto& [what, draw] : shapes) {
     for (const double ratio : {1.0, 1.25, 2.0}) {
