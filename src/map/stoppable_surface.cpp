@@ -19,6 +19,10 @@ void StoppableSurface::Point(SurfacePoint at, Colour colour) {
   if (GoesOn()) surface_.Point(at, colour);
 }
 
+void StoppableSurface::Points(const PointGrid& grid) {
+  if (GoesOn()) surface_.Points(grid);
+}
+
 void StoppableSurface::Line(SurfacePoint from, SurfacePoint to, Colour colour) {
   if (GoesOn()) surface_.Line(from, to, colour);
 }

@@ -7,6 +7,8 @@
 #include <limits>
 #include <utility>
 
+#include "paint/dot_grid.h"
+
 namespace quorvane {
 namespace {
 
@@ -103,6 +105,14 @@ void PictureSurface::EndTopDown() {
 
 void PictureSurface::Point(SurfacePoint at, Colour colour) {
   Canvas(pen_.Mode).Dot(at.X * pixelsPerUnitX_, at.Y * pixelsPerUnitY_, point_, RgbOf(colour));
+}
+
+void PictureSurface::Points(const PointGrid& grid) {
+  if (pen_.Mode != DrawMode::Copy || topDown_) return DrawingSurface::Points(grid);
+  DotGrid dots(grid, pixelsPerUnitX_, pixelsPerUnitY_, point_.Diameter(), deviceSize_.width(),
+               deviceSize_.height());
+  QRgb* row = reinterpret_cast<QRgb*>(picture_.bits());
+  for (int y = 0; y < deviceSize_.height(); ++y, row += deviceSize_.width()) dots.Draw(y, row);
 }
 
 void PictureSurface::Line(SurfacePoint from, SurfacePoint to, Colour colour) {

@@ -55,6 +55,7 @@ class PictureSurface : public DrawingSurface {
   void EndTopDown() override;
 
   void Point(SurfacePoint at, Colour colour) override;
+  void Points(const PointGrid& grid) override;
   void Line(SurfacePoint from, SurfacePoint to, Colour colour) override;
   bool LineHidesItsReverse(SurfacePoint from, SurfacePoint to, Colour colour) override;
   void Circle(SurfacePoint centre, double radius, Colour colour) override;
