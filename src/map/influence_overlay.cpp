@@ -112,16 +112,30 @@ void DrawEdgesBetweenRows(const GameSession& session, const MapView& view, const
   }
 }
 
+// For each row of the grid, the columns in view behind which the holder changes. The grid lies in
+// memory column by column, and is by far quickest read like that.
+std::vector<std::vector<int>> ChangesInRows(const InfluenceGrid& grid, const GridLines& columns) {
+  std::vector<std::vector<int>> changes(static_cast<std::size_t>(grid.Size() + 1));
+  for (int gx = 0; gx < grid.Size(); ++gx) {
+    if (!columns[static_cast<std::size_t>(gx)]) continue;
+    for (int gy = 0; gy <= grid.Size(); ++gy) {
+      if (grid.At(gx, gy).Holder == grid.At(gx + 1, gy).Holder) continue;
+      changes[static_cast<std::size_t>(gy)].push_back(gx);
+    }
+  }
+  return changes;
+}
+
 void DrawEdgesBetweenColumns(const GameSession& session, const MapView& view,
                              const GridLines& columns, const GridLines& rows,
                              DrawingSurface& surface) {
   const InfluenceGrid& grid = session.InfluenceGrid;
   const auto surfaceX = [&](double gx) { return view.ToSurface({gx * session.GridCellSize, 0}).X; };
+  const std::vector<std::vector<int>> changes = ChangesInRows(grid, columns);
   for (int gy = 0; gy <= grid.Size(); ++gy) {
     const std::optional<double>& y = rows[static_cast<std::size_t>(gy)];
     if (!y) continue;
-    for (int gx = 0; gx < grid.Size(); ++gx) {
-      if (!columns[static_cast<std::size_t>(gx)]) continue;
+    for (const int gx : changes[static_cast<std::size_t>(gy)]) {
       DrawEdge(session, grid.At(gx, gy).Holder, grid.At(gx + 1, gy).Holder,
                {surfaceX(gx - kEdgeDistance), *y}, {surfaceX(gx + kEdgeDistance), *y}, surface);
     }

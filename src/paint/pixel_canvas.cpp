@@ -298,6 +298,10 @@ bool PixelCanvas::FewDots(const DotWay& way, int first, int last, const DotMask&
 void PixelCanvas::Circle(QPointF centre, double radius, double outlineWidth,
                          std::optional<QRgb> outline, std::optional<QRgb> fill) {
   if (!std::isfinite(centre.x()) || !std::isfinite(centre.y()) || !(radius >= 0)) return;
+  if (outline && outline == fill) {
+    radius += outlineWidth / 2;
+    outline.reset();  // the inside goes as far
+  }
   const double halfOutline = outline ? outlineWidth / 2 : 0;
   const double outer = radius + halfOutline;
   if (outer < kHalfPixelDiagonal) {
