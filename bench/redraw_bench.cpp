@@ -1,5 +1,6 @@
-// How long the map takes to answer the user on a huge game: a whole redraw, the complete network of
-// stargates and drawn layers, each beside a plain version of the same.
+// How long the map takes to answer the user on a huge game: a whole redraw, a step of zooming and
+// panning, the complete network of stargates and drawn layers, each beside a plain version of the
+// same.
 
 #include <benchmark/benchmark.h>
 
@@ -10,6 +11,7 @@
 #include <memory>
 #include <random>
 #include <string>
+#include <vector>
 
 #include "game_on_disk.h"
 #include "loading/load_game.h"
@@ -22,22 +24,37 @@ namespace quorvane {
 namespace {
 
 constexpr QSize kMapSize = {700, 700};
+constexpr QSize kLargeMapSize = {1000, 1000};
 constexpr int kGates = 240;
+
+// A square part of the universe, in light years.
+struct Window {
+  int X = 0;
+  int Y = 0;
+  int Width = 0;
+};
+
+using Windows = std::vector<Window>;
 
 // A game with its switches, and the two surfaces that it is drawn on.
 template <typename Surface>
 class Map {
  public:
-  Map(const GameSession& session, const OverlaySwitches& switches, double ratio)
+  Map(const GameSession& session, const OverlaySwitches& switches, double ratio,
+      QSize size = kMapSize)
       : session_(session),
         state_(FirstMapState(session)),
         switches_(switches),
-        universe_(kMapSize, ratio),
-        universe2_(kMapSize, ratio) {}
+        universe_(size, ratio),
+        universe2_(size, ratio) {}
 
   void Redraw() {
     DrawOverlayStack(
         {session_, state_, switches_, universe_, universe2_, {}, session_.DrawingLayer});
+  }
+  void RedrawWindow(const Window& window) {
+    state_.View.ShowWindow(window.X, window.Y, window.Width);
+    Redraw();
   }
   const QImage& Picture() const { return universe_.Picture(); }
 
@@ -143,6 +160,48 @@ bool RegisterRedraw(const std::string& name, const GameSession& session,
   return fast->Picture() == plain->Picture();
 }
 
+// What the mouse wheel shows one after the other when it is turned in and out again.
+Windows WheelNotches() {
+  Windows windows;
+  for (const int width : {1600, 1280, 1024, 819, 655, 819, 1024, 1280}) {
+    windows.push_back({(2000 - width) / 2, (2000 - width) / 2, width});
+  }
+  return windows;
+}
+
+// The time of one step is told, while all the windows take turns.
+// @return false when the two surfaces do not show the same in one of the windows
+bool RegisterWindows(const std::string& name, const GameSession& session, const Windows& windows,
+                     double targetMilliseconds, double ratio) {
+  OverlaySwitches switches = EverythingOn(session);
+  switches.Set(OverlayKind::ZoomIn, true);
+  const auto fast = std::make_shared<Map<PictureSurface>>(session, switches, ratio, kLargeMapSize);
+  const auto plain =
+      std::make_shared<Map<reference::PlainSurface>>(session, switches, ratio, kLargeMapSize);
+  for (const Window& window : windows) {
+    fast->RedrawWindow(window);
+    plain->RedrawWindow(window);
+    if (fast->Picture() != plain->Picture()) return false;
+  }
+  const auto stepOf = [&windows](auto map) {
+    return [map, windows, next = std::size_t{0}]() mutable {
+      map->RedrawWindow(windows[next++ % windows.size()]);
+    };
+  };
+  RegisterStep("fast/" + name, stepOf(fast), targetMilliseconds);
+  RegisterStep("plain/" + name, stepOf(plain));
+  return true;
+}
+
+bool RegisterMoves(const GameSession& session) {
+  const Windows notches = WheelNotches();
+  const Windows pan = {{360, 360, 1280}, {373, 360, 1280}};
+  return RegisterWindows("one wheel notch", session, notches, 8, 1) &&
+         RegisterWindows("one wheel notch, double density", session, notches, 16, 2) &&
+         RegisterWindows("one pan step", session, pan, 8, 1) &&
+         RegisterWindows("one pan step, double density", session, pan, 16, 2);
+}
+
 // For what would take a plain version minutes.
 void RegisterLongLayer(const std::string& name, Drawings kind, double ratio) {
   const auto map = std::make_shared<Map<PictureSurface>>(WithDrawings(kind, 8'000'000),
@@ -160,7 +219,7 @@ bool RegisterAll(const GameSession& session) {
   RegisterLongLayer("drawn lines, double density", Drawings::Lines, 2);
   RegisterLongLayer("drawn circles, double density", Drawings::Circles, 2);
   return RegisterRedraw("full redraw", session, EverythingOn(session), 25) &&
-         RegisterRedraw("240 stargates, all links", gates, network, 80) &&
+         RegisterMoves(session) && RegisterRedraw("240 stargates, all links", gates, network, 80) &&
          RegisterRedraw("240 stargates, double density", gates, network, 80, 2) &&
          RegisterRedraw("4000 stargates of 300 light years", WithOrdinaryGates(4000), safe, 500) &&
          RegisterRedraw("100 KB of drawn texts", WithDrawings(Drawings::Texts, 100'000), drawing,

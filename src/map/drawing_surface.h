@@ -1,8 +1,11 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
+#include <span>
 #include <string_view>
+#include <vector>
 
 #include "map/map_view.h"
 #include "model/race_colours.h"
@@ -28,6 +31,23 @@ struct Pen {
   bool Filled = false;
   /// In pixels of an ordinary screen, at least 1; the side of a point.
   int Width = 1;
+};
+
+/// Where one of many circles lies.
+struct DiscPlace {
+  SurfacePoint Centre;
+  double Radius = 0;
+};
+
+/// Points where columns and rows cross.
+struct PointGrid {
+  // Where these lie, none before the one that precedes it.
+  std::vector<double> Columns;
+  std::vector<double> Rows;
+  /// The first colour stands for no point and is not seen.
+  std::vector<Colour> Palette = {{}};
+  /// A number into the palette for each crossing, column by column.
+  std::vector<std::uint16_t> Numbers;
 };
 
 /// A finished picture of a surface, to be given back to it or to its twin later.
@@ -71,6 +91,16 @@ class DrawingSurface {
 
   /// A filled square of the pen's width, so that neighbouring points can close an area.
   virtual void Point(SurfacePoint at, Colour colour) = 0;
+  /// Points column by column, each over those before.
+  virtual void Points(const PointGrid& grid) {
+    auto number = grid.Numbers.begin();
+    for (const double x : grid.Columns) {
+      for (const double y : grid.Rows) {
+        if (*number != 0) Point({x, y}, grid.Palette[*number]);
+        ++number;
+      }
+    }
+  }
   virtual void Line(SurfacePoint from, SurfacePoint to, Colour colour) = 0;
   /// The same, telling whether it pays to draw the line from its other end as well.
   /// @return true when that has no pixel that could be seen once this is drawn above it
@@ -80,6 +110,11 @@ class DrawingSurface {
   }
   /// An outline in the colour, filled as the pen and the fill colour say.
   virtual void Circle(SurfacePoint centre, double radius, Colour colour) = 0;
+  /// The same for many circles whose inside has the colour as well; it is the fill colour then.
+  virtual void Discs(std::span<const DiscPlace> discs, Colour colour) {
+    SetFillColour(colour);
+    for (const DiscPlace& disc : discs) Circle(disc.Centre, disc.Radius, colour);
+  }
   /// Text in the fore colour, its top left corner at the position.
   virtual void Print(SurfacePoint topLeft, std::string_view text) = 0;
   /// All pixels that `Print` would give a letter, and those around them, as far as a pixel of an

@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <optional>
 #include <vector>
 
@@ -42,33 +43,31 @@ GridLines RowsInView(const GameSession& session, const MapView& view) {
   });
 }
 
-// A player's colour at every strength; empty for nobody and for a player without a colour.
-using Shades = std::vector<Colour>;
-
-Shades ShadesOf(const GameSession& session, int player) {
+// Adds a player's colour at every strength to a palette; nothing for a player without a colour.
+// @return the number of the colour at strength 0, or 0 for nobody and for such a player
+std::uint16_t AddShades(const GameSession& session, int player, std::vector<Colour>& palette) {
   const Colour* full = session.ColourOf(player);
-  if (full == nullptr) return {};
-  Shades shades;
+  if (full == nullptr) return 0;
+  const auto first = static_cast<std::uint16_t>(palette.size());
   for (int strength = 0; strength <= kFullStrength; ++strength) {
     // Divided first, unlike `TimesHundredths`: 7 % of 150 is a hair above 10.5, and a shade of 11.
     const auto byStrength = [&](int component) { return ToWhole16(strength / 100.0 * component); };
-    shades.push_back({byStrength(full->Red), byStrength(full->Green), byStrength(full->Blue)});
+    palette.push_back({byStrength(full->Red), byStrength(full->Green), byStrength(full->Blue)});
   }
-  return shades;
+  return first;
 }
 
-using ShadesOfPlayers = std::array<Shades, kMaxPlayers + 1>;
+// The number of each player's first shade.
+using FirstShades = std::array<std::uint16_t, kMaxPlayers + 1>;
 
-void DrawColumn(const InfluenceGrid& grid, const ShadesOfPlayers& shadesOfPlayers, int gx, double x,
-                const GridLines& rows, DrawingSurface& surface) {
+void AddColumn(const InfluenceGrid& grid, const FirstShades& firstShades, int gx, double x,
+               const GridLines& rows, PointGrid& points) {
+  points.Columns.push_back(x);
   for (int gy = 0; gy <= grid.Size(); ++gy) {
-    const std::optional<double>& y = rows[static_cast<std::size_t>(gy)];
-    if (!y) continue;
+    if (!rows[static_cast<std::size_t>(gy)]) continue;
     const InfluencePoint& point = grid.At(gx, gy);
-    const Shades& shades = shadesOfPlayers[static_cast<std::size_t>(point.Holder)];
-    if (!shades.empty()) {
-      surface.Point({x, *y}, shades[static_cast<std::size_t>(point.Strength)]);
-    }
+    const int first = firstShades[static_cast<std::size_t>(point.Holder)];
+    points.Numbers.push_back(static_cast<std::uint16_t>(first > 0 ? first + point.Strength : 0));
   }
 }
 
@@ -115,16 +114,30 @@ void DrawEdgesBetweenRows(const GameSession& session, const MapView& view, const
   }
 }
 
+// For each row of the grid, the columns in view behind which the holder changes. The grid lies in
+// memory column by column, and is by far quickest read like that.
+std::vector<std::vector<int>> ChangesInRows(const InfluenceGrid& grid, const GridLines& columns) {
+  std::vector<std::vector<int>> changes(static_cast<std::size_t>(grid.Size() + 1));
+  for (int gx = 0; gx < grid.Size(); ++gx) {
+    if (!columns[static_cast<std::size_t>(gx)]) continue;
+    for (int gy = 0; gy <= grid.Size(); ++gy) {
+      if (grid.At(gx, gy).Holder == grid.At(gx + 1, gy).Holder) continue;
+      changes[static_cast<std::size_t>(gy)].push_back(gx);
+    }
+  }
+  return changes;
+}
+
 void DrawEdgesBetweenColumns(const GameSession& session, const MapView& view,
                              const GridLines& columns, const GridLines& rows,
                              DrawingSurface& surface) {
   const InfluenceGrid& grid = session.InfluenceGrid;
   const auto surfaceX = [&](double gx) { return view.ToSurface({gx * session.GridCellSize, 0}).X; };
+  const std::vector<std::vector<int>> changes = ChangesInRows(grid, columns);
   for (int gy = 0; gy <= grid.Size(); ++gy) {
     const std::optional<double>& y = rows[static_cast<std::size_t>(gy)];
     if (!y) continue;
-    for (int gx = 0; gx < grid.Size(); ++gx) {
-      if (!columns[static_cast<std::size_t>(gx)]) continue;
+    for (const int gx : changes[static_cast<std::size_t>(gy)]) {
       DrawEdge(session, grid.At(gx, gy).Holder, grid.At(gx + 1, gy).Holder,
                {surfaceX(gx - kEdgeDistance), *y}, {surfaceX(gx + kEdgeDistance), *y}, surface);
     }
@@ -137,12 +150,16 @@ bool DrawInfluenceBorders(const GameSession& session, const MapView& view, Drawi
                           const Progress& progress) {
   const InfluenceGrid& grid = session.InfluenceGrid;
   if (grid.Size() < 0) return true;  // no game is loaded
-  ShadesOfPlayers shadesOfPlayers;
+  PointGrid points;
+  FirstShades firstShades;
   for (int player = 0; player <= kMaxPlayers; ++player) {
-    shadesOfPlayers[static_cast<std::size_t>(player)] = ShadesOf(session, player);
+    firstShades[static_cast<std::size_t>(player)] = AddShades(session, player, points.Palette);
   }
   const GridLines columns = ColumnsInView(session, view);
   const GridLines rows = RowsInView(session, view);
+  for (const std::optional<double>& y : rows) {
+    if (y) points.Rows.push_back(*y);
+  }
 
   progress.Show(0, grid.Size() + 1);
   Pen pen = DotPen(view, surface.WidthInTwips(), 2);
@@ -152,11 +169,12 @@ bool DrawInfluenceBorders(const GameSession& session, const MapView& view, Drawi
   surface.SetPen(pen);
   for (int gx = 0; gx <= grid.Size(); ++gx) {
     const std::optional<double>& x = columns[static_cast<std::size_t>(gx)];
-    if (x) DrawColumn(grid, shadesOfPlayers, gx, *x, rows, surface);
+    if (x) AddColumn(grid, firstShades, gx, *x, rows, points);
     if (gx % kColumnsPerProgressStep != 0) continue;
     progress.Show(gx, grid.Size() + 1);
     if (progress.IsStopped()) return false;
   }
+  surface.Points(points);
   progress.Show(grid.Size() + 1, grid.Size() + 1);
   return true;
 }
@@ -174,7 +192,8 @@ namespace {
 // A piece of territory, closed as on the map.
 KeyLine TerritoryKeyLine(const char* words, const GameSession& session, int strength) {
   constexpr double kReach = 100;
-  const Shades shades = ShadesOf(session, SampleRace(session));
+  std::vector<Colour> shades;
+  AddShades(session, SampleRace(session), shades);
   const Colour shade =
       shades.empty() ? SampleRaceColour(session) : shades[static_cast<std::size_t>(strength)];
   const auto draw = [shade](DrawingSurface& surface, SurfacePoint at) {

@@ -17,7 +17,7 @@ namespace quorvane {
 /// Paints every point of the influence grid in view as a dot in its holder's colour, dimmed by the
 /// strength of the hold. The dots overlap into closed areas. Points that nobody holds, or a player
 /// without a colour, stay as they are.
-/// @return false when the user stopped it before all was painted
+/// @return false when the user stopped it, which leaves all as it was
 bool DrawInfluenceBorders(const GameSession& session, const MapView& view, DrawingSurface& surface,
                           const Progress& progress);
 

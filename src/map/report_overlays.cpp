@@ -41,10 +41,12 @@ void DrawCurrentPoint(DrawingSurface& surface, SurfacePoint at) {
 
 void DrawRanges(const std::vector<PlanetInView>& planets, const MapView& view,
                 DrawingSurface& surface, const ScanRange& range) {
+  std::vector<DiscPlace> discs;
   for (const auto& [planet, at] : planets) {
     const double lightYears = planet[range.Range].Number();
-    if (lightYears > 0) DrawDisc(surface, at, lightYears * view.MapScale, range.RangeColour);
+    if (lightYears > 0) discs.push_back({at, lightYears * view.MapScale});
   }
+  surface.Discs(discs, range.RangeColour);
 }
 
 }  // namespace

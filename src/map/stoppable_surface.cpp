@@ -19,6 +19,10 @@ void StoppableSurface::Point(SurfacePoint at, Colour colour) {
   if (GoesOn()) surface_.Point(at, colour);
 }
 
+void StoppableSurface::Points(const PointGrid& grid) {
+  if (GoesOn()) surface_.Points(grid);
+}
+
 void StoppableSurface::Line(SurfacePoint from, SurfacePoint to, Colour colour) {
   if (GoesOn()) surface_.Line(from, to, colour);
 }
@@ -29,6 +33,10 @@ bool StoppableSurface::LineHidesItsReverse(SurfacePoint from, SurfacePoint to, C
 
 void StoppableSurface::Circle(SurfacePoint centre, double radius, Colour colour) {
   if (GoesOn()) surface_.Circle(centre, radius, colour);
+}
+
+void StoppableSurface::Discs(std::span<const DiscPlace> discs, Colour colour) {
+  if (GoesOn()) surface_.Discs(discs, colour);
 }
 
 void StoppableSurface::Print(SurfacePoint topLeft, std::string_view text) {

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <memory>
+#include <span>
 #include <string_view>
 
 #include "map/drawing_surface.h"
@@ -33,9 +34,11 @@ class StoppableSurface : public DrawingSurface {
   void EndTopDown() override { surface_.EndTopDown(); }
 
   void Point(SurfacePoint at, Colour colour) override;
+  void Points(const PointGrid& grid) override;
   void Line(SurfacePoint from, SurfacePoint to, Colour colour) override;
   bool LineHidesItsReverse(SurfacePoint from, SurfacePoint to, Colour colour) override;
   void Circle(SurfacePoint centre, double radius, Colour colour) override;
+  void Discs(std::span<const DiscPlace> discs, Colour colour) override;
   void Print(SurfacePoint topLeft, std::string_view text) override;
   void PrintOutline(SurfacePoint topLeft, std::string_view text, Colour colour) override;
   double TextWidth(std::string_view text) const override;

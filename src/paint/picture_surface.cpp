@@ -7,6 +7,8 @@
 #include <limits>
 #include <utility>
 
+#include "paint/dot_grid.h"
+
 namespace quorvane {
 namespace {
 
@@ -105,6 +107,14 @@ void PictureSurface::Point(SurfacePoint at, Colour colour) {
   Canvas(pen_.Mode).Dot(at.X * pixelsPerUnitX_, at.Y * pixelsPerUnitY_, point_, RgbOf(colour));
 }
 
+void PictureSurface::Points(const PointGrid& grid) {
+  if (pen_.Mode != DrawMode::Copy || topDown_) return DrawingSurface::Points(grid);
+  DotGrid dots(grid, pixelsPerUnitX_, pixelsPerUnitY_, point_.Diameter(), deviceSize_.width(),
+               deviceSize_.height());
+  QRgb* row = reinterpret_cast<QRgb*>(picture_.bits());
+  for (int y = 0; y < deviceSize_.height(); ++y, row += deviceSize_.width()) dots.Draw(y, row);
+}
+
 void PictureSurface::Line(SurfacePoint from, SurfacePoint to, Colour colour) {
   LineHidesItsReverse(from, to, colour);
 }
@@ -121,6 +131,19 @@ void PictureSurface::Circle(SurfacePoint centre, double radius, Colour colour) {
   if (pen_.Filled) fill = fillColour_;
   Canvas(pen_.Mode).Circle(DevicePoint(centre), radius * pixelsPerUnitX_, DevicePenWidth(), outline,
                            fill);
+}
+
+void PictureSurface::Discs(std::span<const DiscPlace> discs, Colour colour) {
+  const bool isAllCopied = pen_.Filled && pen_.Mode == DrawMode::Copy && !topDown_;
+  if (!isAllCopied) return DrawingSurface::Discs(discs, colour);
+  SetFillColour(colour);
+  const double halfOutline = pen_.Style == DrawStyle::Solid ? DevicePenWidth() / 2.0 : 0;
+  std::vector<PixelDisc> pixelDiscs;
+  for (const DiscPlace& disc : discs) {
+    if (!(disc.Radius >= 0)) continue;
+    pixelDiscs.push_back({DevicePoint(disc.Centre), disc.Radius * pixelsPerUnitX_ + halfOutline});
+  }
+  Canvas(pen_.Mode).Discs(pixelDiscs, RgbOf(colour));
 }
 
 void PictureSurface::Print(SurfacePoint topLeft, std::string_view text) {

@@ -16,6 +16,7 @@ constexpr int kLargestStamp = 32;
 constexpr int kShortPart = 32;
 constexpr int kDotsAtOnce = 64;
 constexpr int kRowsAtOnce = 8;
+constexpr int kUnionRowsAtOnce = 16;
 
 // False for something that is no number.
 bool IsBetween(double value, double low, double high) { return value >= low && value <= high; }
@@ -32,14 +33,6 @@ void CutLine(double from, double to, double low, double high, double& start, dou
   start = std::max(start, std::min(atLow, atHigh));
   end = std::min(end, std::max(atLow, atHigh));
 }
-
-// For values that an int can hold. The library's functions are calls unless the program is built
-// for newer processors only, and rows and lines are rounded by the ten thousand.
-int RoundDown(double value) {
-  const int whole = static_cast<int>(value);
-  return whole - (value < whole ? 1 : 0);
-}
-int RoundUp(double value) { return -RoundDown(-value); }
 
 PixelBox BoxAround(PixelPlace one, PixelPlace other) {
   const auto [left, right] = std::minmax(one.X, other.X);
@@ -116,17 +109,6 @@ bool DotMask::IsOn(int x, int y) const {
   if (y < 0 || y >= Diameter()) return false;
   const PixelSpan row = rows_[static_cast<std::size_t>(y)];
   return x >= row.First && x <= row.Last;
-}
-
-// Inline: a redraw fills several hundred thousand rows of a few pixels.
-inline PixelSpan PixelCanvas::SpanWithin(QPointF centre, double radius, int y) const {
-  const double down = y + 0.5 - centre.y();
-  const double halfWidthSquared = radius * radius - down * down;
-  if (radius < 0 || !(halfWidthSquared >= 0)) return {};
-  const double halfWidth = std::sqrt(halfWidthSquared);
-  const double first = std::clamp(centre.x() - halfWidth - 0.5, 0.0, 1.0 * width_);
-  const double last = std::clamp(centre.x() + halfWidth - 0.5, -1.0, width_ - 1.0);
-  return {RoundUp(first), RoundDown(last)};
 }
 
 template <typename Draw>
@@ -316,6 +298,10 @@ bool PixelCanvas::FewDots(const DotWay& way, int first, int last, const DotMask&
 void PixelCanvas::Circle(QPointF centre, double radius, double outlineWidth,
                          std::optional<QRgb> outline, std::optional<QRgb> fill) {
   if (!std::isfinite(centre.x()) || !std::isfinite(centre.y()) || !(radius >= 0)) return;
+  if (outline && outline == fill) {
+    radius += outlineWidth / 2;
+    outline.reset();  // the inside goes as far
+  }
   const double halfOutline = outline ? outlineWidth / 2 : 0;
   const double outer = radius + halfOutline;
   if (outer < kHalfPixelDiagonal) {
@@ -355,6 +341,27 @@ bool PixelCanvas::HidesRing(QPointF centre, double outer, double inner, int top,
   if (hole.First > hole.Last) return covered_->Hide({widest.First, top, widest.Last, last});
   return covered_->Hide({widest.First, top, hole.First - 1, last}) &&
          covered_->Hide({hole.Last + 1, top, widest.Last, last});
+}
+
+void PixelCanvas::Discs(std::span<const PixelDisc> discs, QRgb colour) {
+  std::vector<PixelDisc> large;
+  for (const PixelDisc& disc : discs) {
+    const bool isFinite = std::isfinite(disc.Centre.x()) && std::isfinite(disc.Centre.y());
+    if (isFinite && disc.Radius >= kHalfPixelDiagonal && covered_ == nullptr) {
+      large.push_back(disc);
+    } else {
+      Circle(disc.Centre, disc.Radius, 0, std::nullopt, colour);
+    }
+  }
+  DiscUnion all(large, width_);
+  for (int top = 0; top < height_ && !large.empty(); top += kUnionRowsAtOnce) {
+    const int end = std::min(top + kUnionRowsAtOnce, height_);
+    all.LookAt(top, end - 1);
+    for (int y = top; y < end; ++y) {
+      for (const PixelSpan& span : all.InAllRows()) Fill(y, span, colour);
+      all.ForOthersIn(y, [&](PixelSpan span) { Fill(y, span, colour); });
+    }
+  }
 }
 
 void PixelCanvas::Runs(PixelPlace corner, std::span<const PixelRun> runs, QRgb colour) {

@@ -12,16 +12,11 @@
 
 #include "map/drawing_surface.h"
 #include "paint/covered_tiles.h"
+#include "paint/disc_rows.h"
 #include "paint/dot_way.h"
 #include "paint/line_steps.h"
 
 namespace quorvane {
-
-/// Pixels first … last of a row; none when last is before first.
-struct PixelSpan {
-  int First = 0;
-  int Last = -1;
-};
 
 /// Pixels first … last of one row of a small shape, counted from the shape's own corner.
 struct PixelRun {
@@ -83,6 +78,8 @@ class PixelCanvas {
   /// missing. However small it is, unless it is nothing, it shows at least one pixel.
   void Circle(QPointF centre, double radius, double outlineWidth, std::optional<QRgb> outline,
               std::optional<QRgb> fill);
+  /// Filled circles of one colour, each pixel of them written once or little more often.
+  void Discs(std::span<const PixelDisc> discs, QRgb colour);
   /// A shape of which every row is known, with its corner in that pixel.
   void Runs(PixelPlace corner, std::span<const PixelRun> runs, QRgb colour);
 
@@ -108,7 +105,9 @@ class PixelCanvas {
   void FillDot(double left, double top, const DotMask& mask, QRgb colour);
   void Fill(int y, PixelSpan span, QRgb colour);
   // The pixels of row y whose centres lie within the radius, cut to the picture.
-  PixelSpan SpanWithin(QPointF centre, double radius, int y) const;
+  PixelSpan SpanWithin(QPointF centre, double radius, int y) const {
+    return quorvane::SpanWithin(centre, radius, y, width_);
+  }
 
   QRgb* pixels_;
   int width_;

@@ -40,8 +40,18 @@ class Twins {
   void DrawPoint() {
     const SurfacePoint at = RandomPlace();
     Draw([&, colour = RandomColour()](DrawingSurface& surface) { surface.Point(at, colour); });
+    DrawPointGrid();
     const double distance = Between(0, 9000) / 100.0;
     EXPECT_EQ(fast_.WidthToCover(distance), plain_.WidthToCover(distance)) << distance;
+  }
+  void DrawPointGrid() {
+    PointGrid grid = {.Palette = {{}, RandomColour(), RandomColour()}};
+    for (double x = -9; x < 125; x += Between(1, 60) / 7.0) grid.Columns.push_back(x);
+    for (double y = 4; y < 95; y += Between(1, 60) / 7.0) grid.Rows.push_back(y);
+    for (std::size_t left = grid.Columns.size() * grid.Rows.size(); left > 0; --left) {
+      grid.Numbers.push_back(static_cast<std::uint16_t>(IsOneIn(3) ? Between(1, 2) : 0));
+    }
+    Draw([&](DrawingSurface& surface) { surface.Points(grid); });
   }
   void DrawLine() {
     const SurfacePoint from = RandomPlace();
@@ -56,6 +66,12 @@ class Twins {
     Draw([&, colour = RandomColour()](DrawingSurface& surface) {
       surface.Circle(centre, radius, colour);
     });
+  }
+  // Together they often cover whole rows, and some lie inside others.
+  void DrawDiscs() {
+    std::vector<DiscPlace> discs(std::size_t{1} + dice_() % 30);
+    for (DiscPlace& disc : discs) disc = {RandomPlace(), Between(0, 1500) / 49.0};
+    Draw([&, colour = RandomColour()](DrawingSurface& surface) { surface.Discs(discs, colour); });
   }
 
   // Characters are kept one by one, so how they follow each other must not matter.
@@ -107,6 +123,7 @@ TEST(PictureSurface, DrawsThePixelsOfItsPlainTwin) {
   const std::tuple<const char*, void (Twins::*)()> shapes[] = {{"points", &Twins::DrawPoint},
                                                                {"lines", &Twins::DrawLine},
                                                                {"circles", &Twins::DrawCircle},
+                                                               {"discs", &Twins::DrawDiscs},
                                                                {"texts", &Twins::DrawText}};
   for (const auto& [what, draw] : shapes) {
     for (const double ratio : {1.0, 1.25, 2.0}) {
