@@ -27,6 +27,9 @@ constexpr QSize kMapSize = {700, 700};
 constexpr QSize kLargeMapSize = {1000, 1000};
 constexpr int kGates = 240;
 
+// The options that a first start has.
+constexpr MapOptions kAtFirst = {.OutlineNames = true};
+
 // A square part of the universe, in light years.
 struct Window {
   int X = 0;
@@ -50,7 +53,7 @@ class Map {
 
   void Redraw() {
     DrawOverlayStack(
-        {session_, state_, switches_, universe_, universe2_, {}, session_.DrawingLayer});
+        {session_, state_, switches_, universe_, universe2_, {}, session_.DrawingLayer, kAtFirst});
   }
   void RedrawWindow(const Window& window) {
     state_.View.ShowWindow(window.X, window.Y, window.Width);
@@ -149,9 +152,10 @@ GameSession WithDrawings(Drawings kind, std::size_t bytes) {
 
 // @return false when the two surfaces do not show the same
 bool RegisterRedraw(const std::string& name, const GameSession& session,
-                    const OverlaySwitches& switches, double targetMilliseconds, double ratio = 1) {
-  const auto fast = std::make_shared<Map<PictureSurface>>(session, switches, ratio);
-  const auto plain = std::make_shared<Map<reference::PlainSurface>>(session, switches, ratio);
+                    const OverlaySwitches& switches, double targetMilliseconds, double ratio = 1,
+                    QSize size = kMapSize) {
+  const auto fast = std::make_shared<Map<PictureSurface>>(session, switches, ratio, size);
+  const auto plain = std::make_shared<Map<reference::PlainSurface>>(session, switches, ratio, size);
   fast->Redraw();
   plain->Redraw();
   RegisterStep(
@@ -213,13 +217,17 @@ void RegisterLongLayer(const std::string& name, Drawings kind, double ratio) {
 bool RegisterAll(const GameSession& session) {
   const GameSession gates = WithGatesEverywhere(session);
   const OverlaySwitches network = OnlyOn(OverlayKind::CompleteStargateNetwork);
+  const OverlaySwitches names = OnlyOn(OverlayKind::NamesColoured);
   const OverlaySwitches safe = OnlyOn(OverlayKind::SafeStargateDistances);
   const OverlaySwitches drawing = OnlyOn(OverlayKind::QvlDrawing);
   RegisterLongLayer("drawn texts", Drawings::Texts, 1);
   RegisterLongLayer("drawn lines, double density", Drawings::Lines, 2);
   RegisterLongLayer("drawn circles, double density", Drawings::Circles, 2);
   return RegisterRedraw("full redraw", session, EverythingOn(session), 25) &&
-         RegisterMoves(session) && RegisterRedraw("240 stargates, all links", gates, network, 80) &&
+         RegisterMoves(session) &&
+         RegisterRedraw("outlined names", session, names, 3, 1, kLargeMapSize) &&
+         RegisterRedraw("outlined names, double density", session, names, 3, 2, kLargeMapSize) &&
+         RegisterRedraw("240 stargates, all links", gates, network, 80) &&
          RegisterRedraw("240 stargates, double density", gates, network, 80, 2) &&
          RegisterRedraw("4000 stargates of 300 light years", WithOrdinaryGates(4000), safe, 500) &&
          RegisterRedraw("100 KB of drawn texts", WithDrawings(Drawings::Texts, 100'000), drawing,

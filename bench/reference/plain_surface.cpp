@@ -97,18 +97,22 @@ void PlainSurface::Print(SurfacePoint topLeft, std::string_view text) {
 
 void PlainSurface::PrintOutline(SurfacePoint topLeft, std::string_view text, Colour colour) {
   const int reach = std::max(qRound(ratio_), 1);
-  // Letters just outside the picture have pixels around them in it.
-  QImage letters(picture_.size() + QSize(2 * reach, 2 * reach), picture_.format());
+  // The text alone, with more room around it than its letters take.
+  const QFontMetrics metrics(Font());
+  const int margin = metrics.height() + reach;
+  const QSize size(metrics.horizontalAdvance(TextOf(text)) + 2 * margin, 3 * margin);
+  QImage letters(size, picture_.format());
   letters.setDotsPerMeterX(picture_.dotsPerMeterX());
   letters.setDotsPerMeterY(picture_.dotsPerMeterY());
   letters.fill(Qt::black);
-  PrintInto(letters, CornerOf(topLeft) + QPointF(reach, reach), text, {255, 255, 255});
+  PrintInto(letters, QPointF(margin, margin), text, {255, 255, 255});
+  const QPoint corner = CornerOf(topLeft).toPoint() - QPoint(margin, margin);
   for (int y = 0; y < letters.height(); ++y) {
     for (int x = 0; x < letters.width(); ++x) {
       if (letters.pixel(x, y) == qRgb(0, 0, 0)) continue;
-      for (int down = -2 * reach; down <= 0; ++down) {
-        for (int right = -2 * reach; right <= 0; ++right) {
-          const QPoint at(x + right, y + down);
+      for (int down = -reach; down <= reach; ++down) {
+        for (int right = -reach; right <= reach; ++right) {
+          const QPoint at = corner + QPoint(x + right, y + down);
           if (picture_.valid(at)) picture_.setPixel(at, RgbOf(colour));
         }
       }

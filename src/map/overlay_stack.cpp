@@ -16,15 +16,10 @@ using Kind = OverlayKind;
 using DrawLayer = void (*)(const MapDrawing& map, DrawingSurface& surface);
 using LayerKey = std::vector<KeyLine> (*)(const KeyAsked& asked);
 
-void Blank(DrawingSurface& surface) {
-  surface.SetBackground(nullptr);
-  surface.Clear();
-}
-
-// False when the user stopped it.
+// Begins the map anew with the borders, where they are on. False when the user stopped it.
 bool DrawBorders(const MapDrawing& map) {
   if (!map.Switches.IsOn(Kind::InfluenceBorders)) {
-    Blank(map.Universe);
+    map.Universe.SetBackground(nullptr);
     return true;
   }
   const bool isZoomIn = map.Switches.IsOn(Kind::ZoomIn);
@@ -32,6 +27,7 @@ bool DrawBorders(const MapDrawing& map) {
     map.Universe.SetBackground(map.Universe2.Image());
     return true;
   }
+  map.Universe.SetBackground(nullptr);
   if (!DrawInfluenceBorders(map.Session, map.State.View, map.Universe, map.Progress)) return false;
   if (isZoomIn) return true;  // only the whole universe is worth keeping
   map.Universe2.SetBackground(map.Universe.Image());
@@ -104,7 +100,6 @@ constexpr Layer kLayers[] = {
 }  // namespace
 
 bool DrawOverlayStack(const MapDrawing& map) {
-  Blank(map.Universe);
   if (!DrawBorders(map)) return false;
   StoppableSurface surface(map.Universe, map.Progress);
   for (const Layer& layer : kLayers) {

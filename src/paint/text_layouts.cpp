@@ -231,7 +231,7 @@ SizedFont& TextLayouts::FontOf(double points, const QPaintDevice& picture) {
 
 const TextLayout& TextLayouts::Of(SizedFont& font, std::string_view text) {
   text = text.substr(0, kLongestText);
-  key_.assign(text).append(reinterpret_cast<const char*>(&font.Number), sizeof font.Number);
+  MakeKey(font, text);
   if (const TextLayout* const known = layouts_.Find(key_)) return *known;
   TextLayout layout = LayOut(font, text);
   const std::size_t bytes = key_.size() + BytesOf(layout.Runs);
@@ -240,11 +240,16 @@ const TextLayout& TextLayouts::Of(SizedFont& font, std::string_view text) {
 
 const std::vector<PixelRun>& TextLayouts::OutlineOf(SizedFont& font, std::string_view text,
                                                     int reach) {
-  const TextLayout& layout = Of(font, text);  // makes the key
+  MakeKey(font, text);
   if (const Runs* const known = outlines_.Find(key_)) return *known;
-  Runs outline = Widened(layout.Runs, reach);
+  Runs outline = Widened(Of(font, text).Runs, reach);  // makes the same key
   const std::size_t bytes = key_.size() + BytesOf(outline);
   return outlines_.Add(key_, std::move(outline), bytes);
+}
+
+void TextLayouts::MakeKey(const SizedFont& font, std::string_view text) {
+  key_.assign(text.substr(0, kLongestText));
+  key_.append(reinterpret_cast<const char*>(&font.Number), sizeof font.Number);
 }
 
 void TextLayouts::Clear() {

@@ -96,6 +96,7 @@ class TextLayouts {
  private:
   using Runs = std::vector<PixelRun>;
 
+  void MakeKey(const SizedFont& font, std::string_view text);
   TextLayout LayOut(SizedFont& font, std::string_view text);
   // @param ink  nullptr when not known
   Runs RunsOf(const TextLayout& layout, SizedFont& font, const InkRange* ink);

@@ -127,7 +127,17 @@ TEST(MapKey, SamplesLookLikeWhatTheOverlaysDraw) {
        {{"dull: worth nothing, or not known", {}},
         {"red: stays hostile, the larger the worse", {{Field::TerraValue, -20}}},
         {"green: habitable then, the larger the better", {{Field::TerraValue, 50}}}}},
-      {Kind::EmpireExpansion, {{"green, large: well worth settling", {{Field::IronMC, 100}, {Field::BoraMC, 100}, {Field::GermMC, 100}, {Field::HabValue, 40}}},{"orange to yellow: worth something", {{Field::IronMC, 100}, {Field::BoraMC, 100}, {Field::GermMC, 100}, {Field::HabValue, 10}}},{"red to purple, small: worth nothing", {{Field::IronMC, 100}, {Field::BoraMC, 100}, {Field::GermMC, 100}, {Field::HabValue, -10}}},{"dull: not explored", {}}}},
+      {Kind::EmpireExpansion,
+       {{"green, large: well worth settling",
+         {{Field::IronMC, 100}, {Field::BoraMC, 100}, {Field::GermMC, 100}, {Field::HabValue, 40}}},
+        {"orange to yellow: worth something",
+         {{Field::IronMC, 100}, {Field::BoraMC, 100}, {Field::GermMC, 100}, {Field::HabValue, 10}}},
+        {"red to purple, small: worth nothing",
+         {{Field::IronMC, 100},
+          {Field::BoraMC, 100},
+          {Field::GermMC, 100},
+          {Field::HabValue, -10}}},
+        {"dull: not explored", {}}}},
       {Kind::TerritoryEdges, {{"dots in both holders' colours: a border", {}, false}}}};
   for (const auto& [kind, shown] : overlays) {
     std::vector<std::string> words;
