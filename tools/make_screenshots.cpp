@@ -167,6 +167,7 @@ void TakeDetails(Main& window, const ScreenshotJob& job) {
 // The map zoomed by the wheel, with names above territories and both docks open.
 void TakeDocks(Main& window, const ScreenshotJob& job) {
   window.resize(1280, 800);
+  window.Detail->setCurrentIndex(0);
   window.findChild<QAction*>("ViewWholeUniverse")->trigger();
   OverlaySwitches several;
   for (const OverlayKind kind :
@@ -180,7 +181,7 @@ void TakeDocks(Main& window, const ScreenshotJob& job) {
   Save(window, job, "main-key");
   window.findChild<QAction*>("ViewKey")->trigger();
   window.findChild<QAction*>("ViewDistances")->trigger();
-  window.findChild<QAction*>("ViewZoomToSelected")->trigger();
+  window.findChild<QAction*>("ViewZoomIn")->trigger();
   emit window.Map->Universe->MouseMove({2500, 3000});
   emit window.DistancesDock->PlanetChosen(1);
   window.findChild<QAction*>("ViewKeepDestination")->trigger();
