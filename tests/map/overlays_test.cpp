@@ -75,6 +75,38 @@ TEST(DrawPlanetNames, SitCentredBelowThePlanetInTheOwnersColourAndGrowWithTheZoo
   }
 }
 
+TEST(DrawPlanetNames, OutlinesComeBeforeAllLetters) {
+  GameBuilder game;
+  game.Planet("Alpha", {1500, 1500}).Planet("Beta", {1510, 1500});
+  EXPECT_EQ(
+      Drawn(DrawPlanetNames, game.Build(), FullView(), NameStyle{.Outlined = true}),
+      (Texts{"outline 4750,5050 \"Alpha\" #000000 6pt", "outline 4900,5050 \"Beta\" #000000 6pt",
+             "text 4750,5050 \"Alpha\" #ffffff 6pt", "text 4900,5050 \"Beta\" #ffffff 6pt"}));
+}
+
+TEST(DrawPlanetNames, FewerLeaveOutWhatOverlapsANameThatMattersMore) {
+  // Each overlaps the next one; names are 100 units a character wide and 150 high.
+  GameBuilder game;
+  game.Planet("Crowd", {1500, 1500}).With(PlanetField::Population, 900'000);
+  game.With(PlanetField::Starbase, kNoStarbase);
+  game.Planet("Base", {1530, 1500}).With(PlanetField::Starbase, "Space Dock");
+  game.Planet("Mine", {1560, 1500}).OwnedBy("Humanoid");
+  game.With(PlanetField::Starbase, kNoStarbase);
+  game.Planet("Empty", {1590, 1500}).Planet("Twin", {1600, 1510}).Planet("Apart", {1500, 1520});
+  GameSession session = game.Build();
+  session.MyRaceName = "Humanoid";
+  const auto names = [&](std::optional<StoredPoint> selected) {
+    std::string shown;
+    const NameStyle style = {.Fewer = true, .Selected = selected};
+    for (const std::string& line : Drawn(DrawPlanetNames, session, FullView(), style)) {
+      shown += line.substr(line.find('"'), line.rfind('"') - line.find('"')) + " ";
+    }
+    return shown;
+  };
+  EXPECT_EQ(names({}), "\"Crowd \"Mine \"Twin \"Apart ");
+  EXPECT_EQ(names(StoredPoint{530, 500}), "\"Base \"Empty \"Apart ");
+}
+
 TEST(DrawReportAge, GoesFromGreenToRedWithTheYears) {
   const std::tuple<double, const char*, const char*> cases[] = {{0, "Current", "#00ff00"},
                                                                 {3, "  3 years old", "#1ee100"},
@@ -298,6 +330,26 @@ TEST(DrawStargates, EachDirectionIsJudgedByTheRangeOfTheGateThatSends) {
                   [](const std::string& line) { return line.ends_with("#00c800 copy solid w1"); });
     EXPECT_EQ(links, expected) << rangeThere << " " << rangeBack;
   }
+}
+
+TEST(DrawStargates, OnePlanetsLinksComeAsAmongAll) {
+  GameBuilder game;
+  for (const double x : {1500, 1530, 1560, 1590}) {
+    game.Planet("Gate", {x, 1500}).With(PlanetField::GateRange, 40);
+  }
+  const GameSession session = game.Build();
+  const auto links = [&](std::optional<StoredPoint> only) {
+    Texts lines;
+    for (const std::string& line : Drawn(DrawStargates, session, FullView(), false, only)) {
+      if (line.find("#00ff00") != line.npos) lines.push_back(line.substr(0, line.find(" #")));
+    }
+    return lines;
+  };
+  EXPECT_EQ(links({}).size(), 6U);
+  EXPECT_EQ(links(StoredPoint{530, 500}),
+            (Texts{"line 5000,5000 5300,5000", "line 5300,5000 5000,5000",
+                   "line 5300,5000 5600,5000", "line 5600,5000 5300,5000"}));
+  EXPECT_EQ(links(StoredPoint{1, 1}), Texts());
 }
 
 }  // namespace
