@@ -120,6 +120,7 @@ void DrawingBoard::DrawShapes() {
 }
 
 void DrawingBoard::FollowView() {
+  if (DrawLine->isHidden()) return;
   DrawLine->Place(MovedTo(map_.State().View, begun_.Shape.At, begun_.View), DrawLine->To());
 }
 

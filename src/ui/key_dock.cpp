@@ -40,12 +40,15 @@ void ScaleBar::ShowScale(double pixelsPerLightYear) {
   const QString length = quorvane::LightYears(LightYears()) + " l.y.";
   setAccessibleName("Scale bar");
   setAccessibleDescription(length);
-  setVisible(LightYears() > 0);
   update();
 }
 
+// A wider bar may be of more light years.
+void ScaleBar::resizeEvent(QResizeEvent*) { ShowScale(pixelsPerLightYear_); }
+
 void ScaleBar::paintEvent(QPaintEvent*) {
   constexpr int kTick = 4;
+  if (LightYears() == 0) return;
   QPainter painter(this);
   painter.setPen(palette().color(QPalette::WindowText));
   const double length = LightYears() * pixelsPerLightYear_;
@@ -65,7 +68,9 @@ KeyDock::KeyDock(QWidget* parent) : QDockWidget("Key to the Map", parent) {
   column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
   KeyAcross = NewValue("KeyAcross", all);
   KeyScaleBar = new ScaleBar(all);
-  content_ = new QWidget();
+  content_ = new QWidget(all);
+  auto* whole = new QVBoxLayout(content_);
+  whole->setContentsMargins(0, 0, 0, 0);
   KeyList = NewScrollArea(content_);
   KeyList->setObjectName("KeyList");
   KeyList->setAccessibleName("Key to the Map");
@@ -87,8 +92,10 @@ void KeyDock::ShowKey(const GameSession& session, const OverlaySwitches& switche
   KeyScaleBar->ShowScale(isLoaded ? view.MapScale / unitsPerPixel : 0);
   Shown shown = {.Switches = switches,
                  .Options = options,
-                 .DotSize = view.DotSize(),
+                 .ZoomFactor = view.ZoomFactor(),
+                 .IsFullView = view.IsFull(),
                  .Map = map,
+                 .PixelRatio = devicePixelRatioF(),
                  .RaceColour = SampleRaceColour(session),
                  .HasRanges = session.ReportStyle == kNewReportStyle,
                  .IsRaceKnown = session.FindPlayerByName(switches.RaceName) > 0};
@@ -102,26 +109,27 @@ void KeyDock::ShowKey(const GameSession& session, const OverlaySwitches& switche
 }
 
 void KeyDock::ShowSections(const std::vector<KeySection>& sections, QSize map) {
-  delete content_;
-  content_ = new QWidget();
-  auto* rows = new QGridLayout(content_);
+  delete rows_;
+  rows_ = new QWidget(content_);
+  content_->layout()->addWidget(rows_);
+  auto* rows = new QGridLayout(rows_);
   rows->setContentsMargins(0, 0, kMargin, 0);
   rows->setHorizontalSpacing(kMargin);
   rows->setVerticalSpacing(3);
   int row = 0;
   for (const KeySection& section : sections) {
-    rows->addWidget(NewHeading(ToQString(section.Title), content_), row++, 0, 1, 2);
+    rows->addWidget(NewHeading(ToQString(section.Title), rows_), row++, 0, 1, 2);
     for (const KeyLine& line : section.Lines) {
-      QLabel* words = NewCaption(ToQString(line.Words), content_);
+      QLabel* words = NewCaption(ToQString(line.Words), rows_);
       words->setWordWrap(true);
       rows->addWidget(NewSample(line, map), row, 0, Qt::AlignCenter);
       rows->addWidget(words, row++, 1);
     }
   }
-  if (sections.empty()) rows->addWidget(NewCaption("No overlay is on", content_), row++, 0, 1, 2);
+  if (sections.empty()) rows->addWidget(NewCaption("No overlay is on", rows_), row++, 0, 1, 2);
   rows->setRowStretch(row, 1);
   rows->setColumnStretch(1, 1);
-  KeyList->setWidget(content_);
+  rows_->show();
 }
 
 // A piece of the map with the sample in the middle, at the map's own scale.
@@ -136,7 +144,7 @@ QWidget* KeyDock::NewSample(const KeyLine& line, QSize map) {
   line.Draw(surface, {units.width() / 2, units.height() / 2});
   QPixmap picture = QPixmap::fromImage(surface.Picture());
   picture.setDevicePixelRatio(devicePixelRatioF());
-  auto* sample = new QLabel(content_);
+  auto* sample = new QLabel(rows_);
   sample->setPixmap(picture);
   return sample;
 }

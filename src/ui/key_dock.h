@@ -23,6 +23,7 @@ class ScaleBar : public QWidget {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   int LightYears() const;
@@ -51,8 +52,10 @@ class KeyDock : public QDockWidget {
   struct Shown {
     OverlaySwitches Switches;
     MapOptions Options;
-    int DotSize = 0;
+    int ZoomFactor = 0;
+    bool IsFullView = false;
     QSize Map;
+    double PixelRatio = 0;
     Colour RaceColour;
     bool HasRanges = false;
     bool IsRaceKnown = false;
@@ -64,6 +67,7 @@ class KeyDock : public QDockWidget {
   QWidget* NewSample(const KeyLine& line, QSize map);
 
   QWidget* content_ = nullptr;
+  QWidget* rows_ = nullptr;  // all that it shows
   Shown shown_;
 };
 

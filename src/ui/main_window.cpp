@@ -257,14 +257,16 @@ void Main::Form_Resize() {
 bool Main::eventFilter(QObject* target, QEvent* event) {
   const auto* widget = qobject_cast<QWidget*>(target);
   if (target == scroll_ && event->type() == QEvent::Resize) Form_Resize();  // a dock came or went
-  if (event->type() == QEvent::ShortcutOverride && widget != nullptr && widget->window() == this) {
+  if (widget == nullptr || widget->window() != this) return QMainWindow::eventFilter(target, event);
+  if (event->type() == QEvent::ShortcutOverride) {
     const auto* key = static_cast<QKeyEvent*>(event);
     const bool scrolls = Navigator->LeavesAltToArrowKeys() && ScrollKeyOf(key->key()) &&
                          key->modifiers() == Qt::AltModifier && !UsesArrowKeys(widget);
-    if (scrolls) event->accept();
-    if (scrolls) return true;
+    if (!scrolls) return QMainWindow::eventFilter(target, event);
+    event->accept();  // as a key that is pressed, and no shortcut
+    return true;
   }
-  if (event->type() == QEvent::KeyPress && widget != nullptr && widget->window() == this) {
+  if (event->type() == QEvent::KeyPress) {
     const auto* key = static_cast<QKeyEvent*>(event);
     const bool isUsed = key->key() == Qt::Key_Escape
                             ? GiveUpZoomBox()
@@ -284,9 +286,9 @@ bool Main::GiveUpZoomBox() {
 bool Main::Form_KeyDown(int key, Qt::KeyboardModifiers modifiers) {
   const std::optional<ScrollKey> scroll = ScrollKeyOf(key);
   if (!scroll || !ScrollView(state_, *scroll, ShiftMaskOf(modifiers))) return false;
+  Navigator->Visit(true);
   DrawOverlays();
   Map->PlaceSelector();
-  Navigator->Visit(true);
   return true;
 }
 

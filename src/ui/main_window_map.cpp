@@ -32,6 +32,7 @@ void Main::Map_Resized() {
 
 // Paints what the map shows already, drawings that are not saved yet included.
 void Main::Repaint() {
+  const QScopedValueRollback oneRedraw(isDrawing_, true);
   PaintMap(Overlays->Switches());
   Board->DrawShapes();
   Map->Universe->update();
@@ -47,7 +48,6 @@ void Main::Navigator_Moved() {
 // nothing of it is lost.
 void Main::Navigator_FrameDue() {
   if (isDrawing_) return;  // the map is being painted with this view
-  const QScopedValueRollback oneRedraw(isDrawing_, true);
   Board->FollowView();
   Repaint();
   Map->PlaceSelector();

@@ -1,7 +1,6 @@
 #include "ui/map_navigator.h"
 
 #include <QGestureEvent>
-#include <QInputDevice>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QNativeGestureEvent>
@@ -22,11 +21,9 @@ constexpr double kNotchAngle = QWheelEvent::DefaultDeltasPerStep;
 constexpr double kPanPerNotch = 0.1;
 constexpr qint64 kPause = 500;  // milliseconds between two movements
 
-bool IsSwipe(const QWheelEvent& event) {
-  const QInputDevice* device = event.device();
-  return event.phase() != Qt::NoScrollPhase ||
-         (device != nullptr && device->type() == QInputDevice::DeviceType::TouchPad);
-}
+// Whether two fingers on a touch pad scroll. A system that does not tell their movement from a
+// wheel's lets them zoom.
+bool IsSwipe(const QWheelEvent& event) { return event.phase() != Qt::NoScrollPhase; }
 
 double NotchesOf(double factor) {
   constexpr double kLeastFactor = 0.01;
