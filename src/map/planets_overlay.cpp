@@ -111,6 +111,7 @@ std::vector<PlacedName> NamesApart(const GameSession& session,
                                    const std::optional<StoredPoint>& selected,
                                    const std::vector<PlacedName>& names) {
   std::vector<const PlacedName*> byWeight;
+  byWeight.reserve(names.size());
   for (const PlacedName& name : names) byWeight.push_back(&name);
   std::ranges::stable_sort(byWeight, std::ranges::greater(), [&](const PlacedName* name) {
     return WeightOf(name->Planet, session, selected);
@@ -122,6 +123,7 @@ std::vector<PlacedName> NamesApart(const GameSession& session,
   }
   std::ranges::sort(kept);  // all are parts of one vector
   std::vector<PlacedName> apart;
+  apart.reserve(kept.size());
   for (const PlacedName* name : kept) apart.push_back(*name);
   return apart;
 }

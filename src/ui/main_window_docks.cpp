@@ -24,7 +24,8 @@ namespace {
 void FocusFirst(QWidget& content) {
   for (QWidget* each = &content; each == &content || content.isAncestorOf(each);
        each = each->nextInFocusChain()) {
-    if (!each->isEnabled() || !(each->focusPolicy() & Qt::TabFocus) != 0) continue;
+    const bool takesKeys = (each->focusPolicy() & Qt::TabFocus) != 0;
+    if (!takesKeys || !each->isEnabled()) continue;
     return each->setFocus(Qt::TabFocusReason);
   }
 }
