@@ -131,8 +131,10 @@ void Main::Form_Load() {
 
 // What is wrong with the preferences is no reason to interrupt anybody.
 void Main::TellFault() {
-  const std::optional<std::string> fault = preferences_.TakeFault();
-  if (fault) theplanet->setText(" " + ToQString(*fault));
+  const std::optional<PreferencesFile::Fault> fault = preferences_.TakeFault();
+  if (!fault) return;
+  theplanet->setText(" " + fault->Words);
+  SetPlainToolTip(*theplanet, fault->Details);
 }
 
 void Main::BuildArea() {

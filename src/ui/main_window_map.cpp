@@ -105,6 +105,7 @@ void Main::Universe_MouseMove(SurfacePoint at) {
   if (state_.ClickMode == kOrdinaryClick) {
     const HoverTexts texts = DescribeHover(session_, PlanetAt(session_, state_.View, at));
     theplanet->setText(ToQString(texts.StatusLine));
+    SetPlainToolTip(*theplanet, "");  // of what it said before
     SetPlainToolTip(*Map->Universe, ToQString(texts.ToolTip));
   }
   XYCoord->setText(ToQString(PointerText(state_.View, at)));

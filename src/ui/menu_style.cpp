@@ -62,6 +62,12 @@ void MenuStyle::drawControl(ControlElement element, const QStyleOption* option, 
   PaintPicture(*item, pixelMetric(PM_SmallIconSize, option, widget), *painter);
 }
 
+int MenuStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                         QStyleHintReturn* returned) const {
+  if (hint == SH_EtchDisabledText) return 0;
+  return QProxyStyle::styleHint(hint, option, widget, returned);
+}
+
 QSize MenuStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
                                   const QSize& contents, const QWidget* widget) const {
   const auto* item = qstyleoption_cast<const MenuItem*>(option);

@@ -75,11 +75,11 @@ void PreferencesFile::Open(const QString& path) {
   if (settings_->status() == QSettings::FormatError) SetAside(path);
   if (QFileInfo::exists(path) && !QFileInfo(path).isReadable()) {
     isKept_ = false;
-    fault_ = "The preferences cannot be read: " + ToText(path);
+    fault_ = {"Preferences cannot be read", "The preferences cannot be read: " + path};
   } else if (settings_->value(kFormatKey, kFormat).toInt() > kFormat) {
     isKept_ = false;
-    fault_ =
-        "The preferences were written by a newer version and stay as they are: " + ToText(path);
+    fault_ = {"Preferences of a newer version",
+              "The preferences were written by a newer version and stay as they are: " + path};
   }
   for (const auto& [key, value] : kSwitches) {
     const QString kept = settings_->value(key).toString();
@@ -93,8 +93,13 @@ void PreferencesFile::SetAside(const QString& path) {
     kept = QString("%1.damaged-%2").arg(path).arg(number);
   }
   isKept_ = QFile::copy(path, kept);
-  fault_ = isKept_ ? "The preferences are damaged and were kept as " + ToText(kept)
-                   : "The preferences are damaged and stay as they are: " + ToText(path);
+  if (isKept_) {
+    settings_->setValue(kFormatKey, kFormat);  // what could be read is whole again
+    settings_->sync();
+  }
+  fault_ = {"Preferences are damaged",
+            isKept_ ? "The preferences are damaged; the file is kept as " + kept
+                    : "The preferences are damaged and stay as they are: " + path};
 }
 
 void PreferencesFile::Keep(const Preferences& values) {
@@ -117,10 +122,13 @@ void PreferencesFile::Write(const QString& key, const QVariant& value) {
   settings_->sync();
   if (settings_->status() != QSettings::AccessError) return;
   isKept_ = false;
-  fault_ = "The preferences cannot be saved: " + ToText(settings_->fileName());
+  fault_ = {"Preferences cannot be saved",
+            "The preferences cannot be saved: " + settings_->fileName()};
 }
 
-std::optional<std::string> PreferencesFile::TakeFault() { return std::exchange(fault_, {}); }
+std::optional<PreferencesFile::Fault> PreferencesFile::TakeFault() {
+  return std::exchange(fault_, {});
+}
 
 void RememberPlace(QWidget& window, PreferencesFile& preferences) {
   new PlaceKeeper(window, preferences);

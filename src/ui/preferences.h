@@ -5,7 +5,6 @@
 #include <filesystem>
 #include <memory>
 #include <optional>
-#include <string>
 
 #include "map/map_options.h"
 
@@ -37,8 +36,13 @@ class PreferencesFile {
   QByteArray PlaceOf(const QString& window) const;
   void KeepPlace(const QString& window, const QByteArray& place);
 
-  /// What went wrong since this was last asked. The same is told once.
-  std::optional<std::string> TakeFault();
+  /// What went wrong: in a few words, and with the file.
+  struct Fault {
+    QString Words;
+    QString Details;
+  };
+  /// What went wrong since this was last asked; everything is told once.
+  std::optional<Fault> TakeFault();
 
  private:
   void Open(const QString& path);
@@ -48,7 +52,7 @@ class PreferencesFile {
   Preferences values_;
   std::unique_ptr<QSettings> settings_;
   bool isKept_ = false;
-  std::optional<std::string> fault_;
+  std::optional<Fault> fault_;
 };
 
 /// Lets a window open where and as large as it was left, as far as the screens allow, and remembers

@@ -146,10 +146,13 @@ TEST_F(PreferencesTest, DamagedOnesAreKeptAsideAndToldOfOnce) {
   Main main(folder.Path(), &prompts, file);
   WindowDriver driven(main);
   EXPECT_EQ(folder.Read("quorvane.ini.damaged"), damaged);
-  EXPECT_TRUE(driven.Text("theplanet").contains("quorvane.ini.damaged"));
+  EXPECT_EQ(driven.Text("theplanet"), " Preferences are damaged");
+  EXPECT_TRUE(driven.Find("theplanet").toolTip().endsWith("quorvane.ini.damaged"));
   EXPECT_TRUE(driven.Action("ViewOutlineNames").isChecked());
   EXPECT_TRUE(driven.Action("ViewFewerNames").isChecked()) << "what could be read";
   EXPECT_EQ(prompts.Shown(), Texts());
+  Main next(folder.Path(), &prompts, file);
+  EXPECT_EQ(WindowDriver(next).Text("theplanet"), "") << "once";
 }
 
 TEST_F(PreferencesTest, NewerAndProtectedOnesStayAsTheyAre) {
