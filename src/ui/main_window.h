@@ -106,6 +106,7 @@ class Main : public QMainWindow {
   void BuildDocks();
   void AddDock(QDockWidget& dock, QAction& item);
   void OpenDock(QDockWidget& dock);
+  QRect PlaceOfFloatingDock() const;
   void ShowKey();
   void ShowDistances();
   void ShowNearest();

@@ -11,6 +11,7 @@
 #include "ui/details_panel.h"
 #include "ui/distances_dock.h"
 #include "ui/key_dock.h"
+#include "ui/legend.h"
 #include "ui/main_window.h"
 #include "ui/map_navigator.h"
 #include "ui/map_panel.h"
@@ -63,17 +64,33 @@ void Main::AddDock(QDockWidget& dock, QAction& item) {
   });
 }
 
+// The empty place beside the map, between the legend and the details, on the screen.
+QRect Main::PlaceOfFloatingDock() const {
+  constexpr int kGap = 8;
+  constexpr int kStep = 24;  // so that a second dock leaves the title of the first one in sight
+  const QRect swatch = RaceLegend->RaceC[kLegendRows - 1]->geometry();
+  const QRect details = Detail->geometry();
+  const QRect place(QPoint(details.left(), swatch.bottom() + kGap),
+                    QPoint(details.right(), details.top() - kGap));
+  const bool isTaken = (KeyDock->isVisible() && KeyDock->isFloating()) ||
+                       (DistancesDock->isVisible() && DistancesDock->isFloating());
+  return place.translated(area_->mapToGlobal(QPoint()) + (isTaken ? QPoint(0, kStep) : QPoint()));
+}
+
 // A dock that was never placed takes the room beside the map and its details; where there is none
-// it floats above the window.
+// it floats.
 void Main::OpenDock(QDockWidget& dock) {
   constexpr int kLeastWidth = 200;
   constexpr int kWantedWidth = 320;
   const int room = scroll_->width() - Detail->geometry().right() - 1 -
                    style()->pixelMetric(QStyle::PM_DockWidgetSeparatorExtent);
   const bool isAlone = dock.isHidden() && !dock.isFloating() && scroll_->width() == width();
-  if (!arePlacesKnown_ && isAlone) {
-    dock.setFloating(room < kLeastWidth);
-    resizeDocks({&dock}, {std::clamp(room, kLeastWidth, kWantedWidth)}, Qt::Horizontal);
+  if (!arePlacesKnown_ && isAlone && room < kLeastWidth) {
+    const QRect place = PlaceOfFloatingDock();
+    dock.setFloating(true);
+    dock.setGeometry(place);
+  } else if (!arePlacesKnown_ && isAlone) {
+    resizeDocks({&dock}, {std::min(room, kWantedWidth)}, Qt::Horizontal);
   }
   dock.show();
   dock.raise();

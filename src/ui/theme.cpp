@@ -64,6 +64,7 @@ QLabel[title="true"] { color: #ffffff; font-size: 15pt; }
 QLabel[heading="true"] { color: #9fb4d0; }
 QLabel[note="true"] { color: #b9c4d6; background: rgba(16, 19, 25, 190); padding: 2px 6px; }
 QDockWidget {
+  border: 1px solid #454e5f;
   titlebar-close-icon: url(:/icons/close.svg); titlebar-normal-icon: url(:/icons/float.svg); }
 QDockWidget::title { background: #20242c; padding: 5px 8px; }
 QDockWidget QTreeWidget { background: #1f232b; border: 1px solid #454e5f; }
