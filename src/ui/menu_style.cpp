@@ -1,5 +1,6 @@
 #include "ui/menu_style.h"
 
+#include <QMenu>
 #include <QPainter>
 #include <QStyleOptionMenuItem>
 
@@ -64,7 +65,8 @@ void MenuStyle::drawControl(ControlElement element, const QStyleOption* option, 
 
 int MenuStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                          QStyleHintReturn* returned) const {
-  if (hint == SH_EtchDisabledText) return 0;
+  // Elsewhere texts have room for the shadow, and would move without it.
+  if (hint == SH_EtchDisabledText && qobject_cast<const QMenu*>(widget) != nullptr) return 0;
   return QProxyStyle::styleHint(hint, option, widget, returned);
 }
 
