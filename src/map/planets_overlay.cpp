@@ -201,8 +201,10 @@ std::vector<KeyLine> NamesKey(const KeyAsked& asked) {
       surface.SetForeColour(colour);
       surface.Print(corner, kName);
     };
-    constexpr double kReachPerPoint = 33;
-    return KeyLine{words, draw, kReachPerPoint * NameFont(asked.View)};
+    // Letters are as large on every map: half the sample's width is about 0.9 of the font's size.
+    constexpr double kReachInTwips = 18;
+    const double unitsPerTwip = 1.0 * kSurfaceUnits / std::max(asked.MapWidthInTwips, 1);
+    return KeyLine{words, draw, kReachInTwips * NameFont(asked.View) * unitsPerTwip};
   };
   std::vector<KeyLine> lines;
   if (asked.Switches.IsOn(OverlayKind::NamesColoured)) {

@@ -4,6 +4,7 @@
 #include <QLocale>
 #include <QPainter>
 #include <QVBoxLayout>
+#include <QtMath>
 #include <algorithm>
 #include <utility>
 
@@ -19,6 +20,29 @@ constexpr int kMargin = 8;
 constexpr int kWidestBar = 200;
 
 QString LightYears(int lightYears) { return QLocale(QLocale::English).toString(lightYears); }
+
+// A piece of the map that is shown smaller than on the map, with all that is drawn on it.
+class ShrunkSurface : public PictureSurface {
+ public:
+  // @param share  of its size on the map, at most 1
+  ShrunkSurface(int side, double ratio, double unitsPerPixel, double share)
+      : PictureSurface({side, side}, ratio, QSizeF(side, side) * unitsPerPixel / share),
+        share_(share) {}
+
+  void SetPen(const Pen& pen) override {
+    Pen shrunk = pen;
+    shrunk.Width = std::max(qRound(pen.Width * share_), 1);
+    PictureSurface::SetPen(shrunk);
+  }
+  void SetFontSize(double points) override { PictureSurface::SetFontSize(points * share_); }
+  // Pens of this width are shrunk as well.
+  int WidthToCover(double distance) const override {
+    return qCeil(PictureSurface::WidthToCover(distance) / share_);
+  }
+
+ private:
+  double share_;
+};
 
 }  // namespace
 
@@ -132,16 +156,16 @@ void KeyDock::ShowSections(const std::vector<KeySection>& sections, QSize map) {
   rows_->show();
 }
 
-// A piece of the map with the sample in the middle, at the map's own scale.
+// A piece of the map with the sample in the middle, as large as on the map where it has room.
 QWidget* KeyDock::NewSample(const KeyLine& line, QSize map) {
   constexpr int kLeastSide = 18;
   constexpr int kMostSide = 48;
   const double unitsPerPixel = 1.0 * kSurfaceUnits / std::max(map.width(), 1);
-  const int side =
-      std::clamp(static_cast<int>(2 * line.Reach / unitsPerPixel) + 4, kLeastSide, kMostSide);
-  const QSizeF units = QSizeF(side, side) * unitsPerPixel;
-  PictureSurface surface({side, side}, devicePixelRatioF(), units);
-  line.Draw(surface, {units.width() / 2, units.height() / 2});
+  const double wanted = 2 * line.Reach / unitsPerPixel + 4;
+  const int side = static_cast<int>(std::clamp<double>(wanted, kLeastSide, kMostSide));
+  ShrunkSurface surface(side, devicePixelRatioF(), unitsPerPixel,
+                        std::min(kMostSide / wanted, 1.0));
+  line.Draw(surface, {surface.Units().width() / 2, surface.Units().height() / 2});
   QPixmap picture = QPixmap::fromImage(surface.Picture());
   picture.setDevicePixelRatio(devicePixelRatioF());
   auto* sample = new QLabel(rows_);
