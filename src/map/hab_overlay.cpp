@@ -29,7 +29,7 @@ struct HabClass {
 constexpr HabClass kHabClasses[] = {
     {-kNearZero - 1, kRed, "red: hostile, the larger the worse", -20},
     {-1, kMagenta, "magenta: habitable after terraforming", -5},
-    {kNearZero, kYellow, "yellow: barely habitable, up to 10 %", 5},
+    {kNearZero, kYellow, "yellow: barely habitable, up to 10\u00a0%", 5},
     {std::numeric_limits<int>::max(), kGreen, "green: habitable, the larger the better", 50}};
 
 // The classes of habitability after terraforming.

@@ -211,15 +211,21 @@ std::vector<KeyLine> InfluenceKey(const KeyAsked& asked) {
 }
 
 std::vector<KeyLine> TerritoryEdgesKey(const KeyAsked& asked) {
-  constexpr double kReach = 100;
-  constexpr double kSteps = 30;  // between the dots
-  const auto draw = [pen = DotPen(asked.View, asked.MapWidthInTwips, kEdgeWidth),
-                     colour = SampleRaceColour(asked.Session)](DrawingSurface& surface,
-                                                               SurfacePoint at) {
+  constexpr int kSteps = 8;  // of the grid, on either side
+  MapView whole;             // the sample is as large as there
+  whole.ShowAll(asked.View.UniverseExtent);
+  const double step = asked.Session.GridCellSize * whole.MapScale;
+  const auto draw = [pen = DotPen(whole, asked.MapWidthInTwips, kEdgeWidth), step,
+                     colours = SampleNeighbours(asked.Session)](DrawingSurface& surface,
+                                                                SurfacePoint at) {
     surface.SetPen(pen);
-    for (double x = -kReach; x <= kReach; x += kSteps) surface.Point({at.X + x, at.Y}, colour);
+    for (int column = -kSteps; column <= kSteps; ++column) {
+      const double x = at.X + column * step;
+      surface.Point({x, at.Y - kEdgeDistance * step}, colours.first);
+      surface.Point({x, at.Y + kEdgeDistance * step}, colours.second);
+    }
   };
-  return {{"dots in both holders' colours: a border", draw, kReach}};
+  return {{"lines in both holders' colours: a border", draw, kSteps * step}};
 }
 
 }  // namespace quorvane

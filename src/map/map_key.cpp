@@ -29,4 +29,14 @@ Colour SampleRaceColour(const GameSession& session) {
   return colour != nullptr ? *colour : kWhite;
 }
 
+std::pair<Colour, Colour> SampleNeighbours(const GameSession& session) {
+  const Colour own = SampleRaceColour(session);
+  const int race = SampleRace(session);
+  for (int player = 1; player <= session.PlayerCount; ++player) {
+    const Colour* colour = session.ColourOf(player);
+    if (player != race && colour != nullptr) return {own, *colour};
+  }
+  return {own, own};
+}
+
 }  // namespace quorvane

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "map/drawing_surface.h"
@@ -74,6 +75,9 @@ std::vector<KeyLine> ExpansionKey(const KeyAsked& asked);
 Colour SampleRaceColour(const GameSession& session);
 /// The player whose colour that is; 0: nobody's.
 int SampleRace(const GameSession& session);
+/// That colour and the one of another race, whose territory may lie beside it; the same one again
+/// while no other race has a colour.
+std::pair<Colour, Colour> SampleNeighbours(const GameSession& session);
 /// The line about planets that nobody has explored.
 KeyLine UnexploredKeyLine();
 

@@ -69,7 +69,7 @@ struct SettlingClass {
 constexpr SettlingClass kGood = {
     125,
     [](double value) { return RoundedColour(TimesHundredths(value - kGoodValue, 255), kFull, 0); },
-    "green, large: well worth settling", 40};
+    "green to yellow, large: well worth settling", 40};
 constexpr SettlingClass kFair = {
     100, [](double value) { return RoundedColour(kFull, TimesHundredths(value, 510) + 128, 0); },
     "orange to yellow: worth something", 10};
@@ -77,7 +77,7 @@ constexpr SettlingClass kFair = {
 constexpr SettlingClass kWorthless = {
     50,
     [](double value) { return RoundedColour(kFull, 0, TimesHundredths(std::fabs(value), 566)); },
-    "red to purple, small: worth nothing", -10};
+    "red to magenta, small: worth nothing", -10};
 
 const SettlingClass& SettlingClassOf(double value) {
   if (value >= kGoodValue) return kGood;
@@ -96,6 +96,13 @@ std::vector<KeyLine> ConcentrationKey(Colour colour, std::string words) {
     DrawDisc(surface, at, kRich, colour);
   };
   return {{std::move(words) + ", the wider the richer", draw, kRich}, UnexploredKeyLine()};
+}
+
+// Even a planet with a report may have none of them.
+KeyLine UnknownMineralsKeyLine() {
+  KeyLine line = UnexploredKeyLine();
+  line.Words = "dull: minerals not known";
+  return line;
 }
 
 }  // namespace
@@ -167,7 +174,7 @@ std::vector<KeyLine> AverageMineralKey(const KeyAsked&) {
     };
     lines.push_back({words, draw, AverageRadius(minerals)});
   }
-  lines.push_back(UnexploredKeyLine());
+  lines.push_back(UnknownMineralsKeyLine());
   return lines;
 }
 
@@ -180,7 +187,7 @@ std::vector<KeyLine> ExpansionKey(const KeyAsked&) {
     };
     lines.push_back({each->Words, draw, each->Radius});
   }
-  lines.push_back(UnexploredKeyLine());
+  lines.push_back(UnknownMineralsKeyLine());
   return lines;
 }
 

@@ -106,8 +106,8 @@ Colour GrowthColourOf(double hab, double people) {
 
 std::vector<KeyLine> DifficultyKey(const KeyAsked&) {
   return {PopulationKeyLine("green: hardly anybody lives there", DifficultyColour(1000, false)),
-          PopulationKeyLine("orange: 700,000 people", DifficultyColour(700'000, false)),
-          PopulationKeyLine("red: a million, or fewer with a starbase",
+          PopulationKeyLine("olive: 600,000 people", DifficultyColour(600'000, false)),
+          PopulationKeyLine("red: a million people and a starbase",
                             DifficultyColour(kLargestPopulation, true))};
 }
 

@@ -116,11 +116,12 @@ void KeyDock::ShowKey(const GameSession& session, const OverlaySwitches& switche
   KeyScaleBar->ShowScale(isLoaded ? view.MapScale / unitsPerPixel : 0);
   Shown shown = {.Switches = switches,
                  .Options = options,
+                 .UniverseExtent = view.UniverseExtent,
                  .ZoomFactor = view.ZoomFactor(),
                  .IsFullView = view.IsFull(),
                  .Map = map,
                  .PixelRatio = devicePixelRatioF(),
-                 .RaceColour = SampleRaceColour(session),
+                 .RaceColours = SampleNeighbours(session),
                  .HasRanges = session.ReportStyle == kNewReportStyle,
                  .IsRaceKnown = session.FindPlayerByName(switches.RaceName) > 0};
   if (shown == std::exchange(shown_, shown)) return;

@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QScrollArea>
 #include <QSize>
+#include <utility>
 
 #include "map/map_key.h"
 
@@ -52,11 +53,12 @@ class KeyDock : public QDockWidget {
   struct Shown {
     OverlaySwitches Switches;
     MapOptions Options;
+    int UniverseExtent = 0;
     int ZoomFactor = 0;
     bool IsFullView = false;
     QSize Map;
     double PixelRatio = 0;
-    Colour RaceColour;
+    std::pair<Colour, Colour> RaceColours;
     bool HasRanges = false;
     bool IsRaceKnown = false;
 

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <map>
 #include <set>
 
 #include "map/overlay_stack.h"
@@ -75,15 +76,15 @@ TEST(MapKey, SamplesLookLikeWhatTheOverlaysDraw) {
       {Kind::CurrentHabValues,
        {hostile,
         {"magenta: habitable after terraforming", {{Field::HabValue, -5}}},
-        {"yellow: barely habitable, up to 10 %", {{Field::HabValue, 5}}},
+        {"yellow: barely habitable, up to 10\u00a0%", {{Field::HabValue, 5}}},
         {"green: habitable, the larger the better", {{Field::HabValue, 50}}}}},
       {Kind::OwnedPlanets,
        {{"in its owner's colour: an owned planet", {}},
         {"with a yellow ring: a starbase orbits it", {{Field::Starbase, "Space Dock"}}}}},
       {Kind::DifficultyOfAttack,
        {{"green: hardly anybody lives there", {{Field::Population, 1000}}},
-        {"orange: 700,000 people", {{Field::Population, 700'000}}},
-        {"red: a million, or fewer with a starbase",
+        {"olive: 600,000 people", {{Field::Population, 600'000}}},
+        {"red: a million people and a starbase",
          {{Field::Population, 1'000'000}, {Field::Starbase, "Space Dock"}}}}},
       {Kind::Growth,
        {{"green: nearly empty",
@@ -117,7 +118,7 @@ TEST(MapKey, SamplesLookLikeWhatTheOverlaysDraw) {
         {"red: mostly germanium", {{Field::IronMC, 20}, {Field::BoraMC, 20}, {Field::GermMC, 100}}},
         {"white: rich in all, the wider the richer",
          {{Field::IronMC, 100}, {Field::BoraMC, 100}, {Field::GermMC, 100}}},
-        {"dull: not explored", {}}}},
+        {"dull: minerals not known", {}}}},
       {Kind::ReportAgeOverlay,
        {{"green: a report of this year", {}},
         {"olive: of 13 years ago", {{Field::AgeText, "13 years"}, {Field::ReportAge, 13}}},
@@ -128,17 +129,17 @@ TEST(MapKey, SamplesLookLikeWhatTheOverlaysDraw) {
         {"red: stays hostile, the larger the worse", {{Field::TerraValue, -20}}},
         {"green: habitable then, the larger the better", {{Field::TerraValue, 50}}}}},
       {Kind::EmpireExpansion,
-       {{"green, large: well worth settling",
+       {{"green to yellow, large: well worth settling",
          {{Field::IronMC, 100}, {Field::BoraMC, 100}, {Field::GermMC, 100}, {Field::HabValue, 40}}},
         {"orange to yellow: worth something",
          {{Field::IronMC, 100}, {Field::BoraMC, 100}, {Field::GermMC, 100}, {Field::HabValue, 10}}},
-        {"red to purple, small: worth nothing",
+        {"red to magenta, small: worth nothing",
          {{Field::IronMC, 100},
           {Field::BoraMC, 100},
           {Field::GermMC, 100},
           {Field::HabValue, -10}}},
-        {"dull: not explored", {}}}},
-      {Kind::TerritoryEdges, {{"dots in both holders' colours: a border", {}, false}}}};
+        {"dull: minerals not known", {}}}},
+      {Kind::TerritoryEdges, {{"lines in both holders' colours: a border", {}, false}}}};
   for (const auto& [kind, shown] : overlays) {
     std::vector<std::string> words;
     for (const Shown& each : shown) {
@@ -168,6 +169,43 @@ TEST(MapKey, SamplesLookLikeWhatTheOverlaysDraw) {
     }
     EXPECT_EQ(std::set(words.begin(), words.end()).size(), shown.size());
   }
+}
+
+// The least and the most of red, green and blue in what is called so.
+const std::map<std::string, std::pair<Colour, Colour>> kNamedColours = {
+    {"red", {{230, 0, 0}, {255, 60, 60}}},       {"green", {{0, 230, 0}, {60, 255, 60}}},
+    {"blue", {{0, 0, 230}, {60, 60, 255}}},      {"yellow", {{250, 240, 0}, {255, 255, 0}}},
+    {"magenta", {{255, 0, 255}, {255, 0, 255}}}, {"white", {{255, 255, 255}, {255, 255, 255}}},
+    {"olive", {{110, 115, 0}, {140, 140, 0}}},   {"orange", {{255, 128, 0}, {255, 190, 0}}},
+    {"purple", {{110, 0, 220}, {160, 0, 255}}},  {"dark", {{96, 0, 0}, {96, 96, 0}}},
+    {"dull", {{80, 60, 60}, {80, 60, 60}}}};
+
+TEST(MapKey, ColoursAreCalledByTheirNames) {
+  const GameSession session = GameWith({});
+  int seen = 0;
+  for (const OverlayTexts& overlay : kOverlayTable) {
+    for (const KeySection& section : KeyOf(session, Only(overlay.Kind))) {
+      for (const KeyLine& line : section.Lines) {
+        const auto named =
+            kNamedColours.find(line.Words.substr(0, line.Words.find_first_of(" ,:")));
+        if (named == kNamedColours.end()) continue;  // in a race's colour
+        RecordingSurface sample;
+        line.Draw(sample, {});
+        const std::string& drawn = sample.Lines().back();
+        const unsigned long rgb = std::stoul(drawn.substr(drawn.find('#') + 1, 6), nullptr, 16);
+        const auto& [least, most] = named->second;
+        const auto isWithin = [&](int shift, int Colour::*part) {
+          const int value = static_cast<int>(rgb >> shift & 0xFF);
+          return least.*part <= value && value <= most.*part;
+        };
+        EXPECT_TRUE(isWithin(16, &Colour::Red) && isWithin(8, &Colour::Green) &&
+                    isWithin(0, &Colour::Blue))
+            << section.Title << ", " << line.Words << ": " << drawn;
+        ++seen;
+      }
+    }
+  }
+  EXPECT_GT(seen, 40);
 }
 
 TEST(MapKey, FollowsTheSwitchesInTheOrderOfDrawing) {
