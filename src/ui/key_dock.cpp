@@ -21,6 +21,10 @@ constexpr int kWidestBar = 200;
 
 QString LightYears(int lightYears) { return QLocale(QLocale::English).toString(lightYears); }
 
+QString Across(int lightYears) {
+  return LightYears(lightYears) + (lightYears == 1 ? " light year across" : " light years across");
+}
+
 // A piece of the map that is shown smaller than on the map, with all that is drawn on it.
 class ShrunkSurface : public PictureSurface {
  public:
@@ -61,9 +65,8 @@ int ScaleBar::LightYears() const {
 
 void ScaleBar::ShowScale(double pixelsPerLightYear) {
   pixelsPerLightYear_ = pixelsPerLightYear;
-  const QString length = quorvane::LightYears(LightYears()) + " l.y.";
   setAccessibleName("Scale bar");
-  setAccessibleDescription(length);
+  setAccessibleDescription(LightYears() > 0 ? quorvane::LightYears(LightYears()) + " l.y." : "");
   update();
 }
 
@@ -110,8 +113,7 @@ KeyDock::KeyDock(QWidget* parent) : QDockWidget("Key to the Map", parent) {
 void KeyDock::ShowKey(const GameSession& session, const OverlaySwitches& switches,
                       const MapView& view, const MapOptions& options, QSize map) {
   const bool isLoaded = view.UniverseWidth() > 0;
-  KeyAcross->setText(isLoaded ? LightYears(view.WidthShown()) + " light years across"
-                              : "No game is loaded");
+  KeyAcross->setText(isLoaded ? Across(view.WidthShown()) : "No game is loaded");
   const double unitsPerPixel = 1.0 * kSurfaceUnits / std::max(map.width(), 1);
   KeyScaleBar->ShowScale(isLoaded ? view.MapScale / unitsPerPixel : 0);
   Shown shown = {.Switches = switches,
@@ -138,12 +140,14 @@ void KeyDock::ShowSections(const std::vector<KeySection>& sections, QSize map) {
   rows_ = new QWidget(content_);
   content_->layout()->addWidget(rows_);
   auto* rows = new QGridLayout(rows_);
-  rows->setContentsMargins(0, 0, kMargin, 0);
+  rows->setContentsMargins(4, 2, kMargin, 2);  // apart from the frame of the focus
   rows->setHorizontalSpacing(kMargin);
   rows->setVerticalSpacing(3);
   int row = 0;
   for (const KeySection& section : sections) {
-    rows->addWidget(NewHeading(ToQString(section.Title), rows_), row++, 0, 1, 2);
+    QLabel* heading = NewHeading(ToQString(section.Title), rows_);
+    heading->setContentsMargins(0, row > 0 ? 5 : 0, 0, 0);
+    rows->addWidget(heading, row++, 0, 1, 2);
     for (const KeyLine& line : section.Lines) {
       QLabel* words = NewCaption(ToQString(line.Words), rows_);
       words->setWordWrap(true);

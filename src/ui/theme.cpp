@@ -67,6 +67,8 @@ QDockWidget {
   border: 1px solid #454e5f;
   titlebar-close-icon: url(:/icons/close.svg); titlebar-normal-icon: url(:/icons/float.svg); }
 QDockWidget::title { background: #20242c; padding: 5px 8px; }
+QScrollArea#KeyList { border: 1px solid transparent; }
+QScrollArea#KeyList:focus { border-color: #ffffff; }
 QDockWidget QTreeWidget { background: #1f232b; border: 1px solid #454e5f; }
 QDockWidget QHeaderView::section { background: #333a47; border: none; padding: 2px 5px; }
 QProgressBar {
