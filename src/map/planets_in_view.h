@@ -13,10 +13,14 @@ struct PlanetInView {
   SurfacePoint At;
 };
 
+/// Where a planet lies in the universe.
+inline StoredPoint PlaceOf(const PlanetRecord& planet) {
+  return {static_cast<double>(planet.X()), static_cast<double>(planet.Y())};
+}
+
 /// Where a planet is drawn, whether or not the view shows that place.
 inline SurfacePoint PositionOf(const PlanetRecord& planet, const MapView& view) {
-  return view.ToSurface(
-      {.X = static_cast<double>(planet.X()), .Y = static_cast<double>(planet.Y())});
+  return view.ToSurface(PlaceOf(planet));
 }
 
 /// The planets strictly inside the view's window, in planet order. They refer to the session's

@@ -100,8 +100,7 @@ std::vector<PlacedName> NamesInView(const GameSession& session, const MapView& v
 std::tuple<bool, bool, bool, double> WeightOf(const PlanetRecord& planet,
                                               const GameSession& session,
                                               const std::optional<StoredPoint>& selected) {
-  const StoredPoint place = {static_cast<double>(planet.X()), static_cast<double>(planet.Y())};
-  return {selected == place, planet.Owner() == session.MyRaceName, planet.HasStarbase(),
+  return {selected == PlaceOf(planet), planet.Owner() == session.MyRaceName, planet.HasStarbase(),
           planet.Population()};
 }
 

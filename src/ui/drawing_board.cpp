@@ -66,7 +66,8 @@ void DrawingBoard::Universe_MouseMove(SurfacePoint at) {
 // The first click begins a shape, the second ends it with the tool that is selected then.
 void DrawingBoard::StretchBand(SurfacePoint at) {
   if (!DrawLine->isVisible()) {
-    begun_ = {.Shape = {.At = at}, .View = map_.State().View};
+    bandStart_ = at;
+    bandView_ = map_.State().View;
     DrawLine->Place(at, at);
     DrawLine->SetLineColour(ColourOf(tools_));
     DrawLine->show();
@@ -121,7 +122,7 @@ void DrawingBoard::DrawShapes() {
 
 void DrawingBoard::FollowView() {
   if (DrawLine->isHidden()) return;
-  DrawLine->Place(MovedTo(map_.State().View, begun_.Shape.At, begun_.View), DrawLine->To());
+  DrawLine->Place(MovedTo(map_.State().View, bandStart_, bandView_), DrawLine->To());
 }
 
 void DrawingBoard::SaveQVL_Click() {

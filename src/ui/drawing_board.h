@@ -64,7 +64,9 @@ class DrawingBoard : public QObject {
     MapView View;
   };
   std::vector<Drawn> shapes_;
-  Drawn begun_;  // of the rubber band
+  // Where the rubber band begins, and the view in which it was begun.
+  SurfacePoint bandStart_;
+  MapView bandView_;
 };
 
 }  // namespace quorvane

@@ -118,11 +118,8 @@ void Main::ShowDistances() {
   const int to = state_.Destination;
   const DistanceTexts toKept = DescribeWay(session_, from, to);
   if (from > 0 && to > 0 && from != to) {
-    const auto place = [this](int planet) {
-      const PlanetRecord& record = session_.Planet(planet);
-      return StoredPoint{static_cast<double>(record.X()), static_cast<double>(record.Y())};
-    };
-    Map->ShowWay(std::pair(place(from), place(to)), ToQString(toKept.LightYears));
+    Map->ShowWay(std::pair(PlaceOf(session_.Planet(from)), PlaceOf(session_.Planet(to))),
+                 ToQString(toKept.LightYears));
   } else {
     Map->ShowWay({}, {});
   }
