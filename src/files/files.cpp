@@ -183,6 +183,15 @@ Result<std::string> ReadOptionalTextFile(const fs::path& path) {
   return bytes ? DecodeText(std::move(*bytes)) : bytes;
 }
 
+std::string ReadBeginning(const fs::path& path, std::size_t count) {
+  const OpenFileHandle file = OpenForBytes(path, OpenTo::Read);
+  if (!file) return {};
+  std::setvbuf(file.get(), nullptr, _IONBF, 0);  // a buffer would be filled with more
+  std::string bytes(count, '\0');
+  bytes.resize(std::fread(bytes.data(), 1, bytes.size(), file.get()));
+  return bytes;
+}
+
 Result<void> SaveText(const fs::path& path, const Result<std::string>& text) {
   if (!text) return text.Error();
   if (text->size() > kLargestTextFile) {

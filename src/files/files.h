@@ -51,6 +51,10 @@ Result<std::string> ReadTextFile(const std::filesystem::path& path);
 /// as a crash of the system leaves them, are characters as good as others.
 Result<std::string> ReadOptionalTextFile(const std::filesystem::path& path);
 
+/// The first bytes of a file, by its path on the disk: so many, or all of a shorter file, or none
+/// of one that cannot be read. No more of it is touched.
+std::string ReadBeginning(const std::filesystem::path& path, std::size_t count);
+
 /// Replaces a file whole: the new content is written beside it, flushed and renamed over it, so
 /// that the old file is unharmed until the new one is complete, and of several programs that save
 /// at once the last one wins. A file that exists in another case keeps its name, one that is
