@@ -61,6 +61,27 @@ void Tell(const GeneratedGame& game, const MakeGameOptions& options) {
               options.BaseName.c_str(), game.Files.size(), game.Year, years.c_str());
 }
 
+Result<void> WriteAndTell(const GeneratedGame& game, const MakeGameOptions& options) {
+  Result<void> written = WriteGame(game, options.Folder, options.BaseName);
+  if (written) Tell(game, options);
+  return written;
+}
+
+Result<void> WriteOneGame(const MakeGameOptions& options) {
+  const Result<GeneratedGame> game = MakeGame(options);
+  if (!game) return game.Error();
+  return WriteAndTell(*game, options);
+}
+
+Result<void> WriteYears(const MakeGameOptions& options) {
+  MakeGameOptions turn = options;
+  for (const GeneratedGame& game : GenerateYears(options.Shape, options.Years)) {
+    turn.Folder = options.Folder / std::to_string(game.Year);
+    if (Result<void> written = WriteAndTell(game, turn); !written) return written;
+  }
+  return {};
+}
+
 int Run(const std::vector<std::string>& arguments) {
   const Result<MakeGameOptions> options = ParseMakeGameOptions(arguments);
   if (!options) return Complain(options.Message() + " Try --help.", kWrongOptions);
@@ -68,12 +89,8 @@ int Run(const std::vector<std::string>& arguments) {
     std::fputs(options->Help.c_str(), stdout);
     return 0;
   }
-  const Result<GeneratedGame> game = MakeGame(*options);
-  if (!game) return Complain(game.Message(), kFailed);
-  const Result<void> written = WriteGame(*game, options->Folder, options->BaseName);
-  if (!written) return Complain(written.Message(), kFailed);
-  Tell(*game, *options);
-  return 0;
+  const Result<void> written = options->Years > 0 ? WriteYears(*options) : WriteOneGame(*options);
+  return written ? 0 : Complain(written.Message(), kFailed);
 }
 
 }  // namespace

@@ -25,14 +25,23 @@ class CommandLine {
         ->check(CLI::IsMember({"new", "old"}))
         ->capture_default_str();
     Number("--year", shape_.Year, "game year, 2401 to 3000");
-    Number("--age-spread", shape_.AgeSpread, "years by which the others' reports may be older");
+    years_ = Number("--years", yearCount_,
+                    "make N years of a growing game, each in a folder of its own: 2450, 2451, ...; "
+                    "all reports are of their year unless --age-spread is given")
+                 ->default_str("one year, in the folder itself");
+    ageSpread_ =
+        Number("--age-spread", shape_.AgeSpread, "years by which the others' reports may be older");
     Number("--own", shape_.OwnSlot, "the player whose game it is");
     // The map says how large the universe is.
     Text("--map", map_, "", "FILE", "make reports for this map instead of a new universe")
         ->excludes(size)
-        ->excludes(planets);
+        ->excludes(planets)
+        ->excludes(years_);
     app_.add_flag("--companions", shape_.HasCompanions,
                   "write the files that Quorvane keeps beside a game, too");
+    app_.add_flag("--turn-files", shape_.HasTurnFiles,
+                  "write a turn file for every player and the host's, too: true in their first 18 "
+                  "bytes, any bytes behind");
     Text("--out", folder_, "this folder; with --map, the map's folder", "FOLDER", "where to");
     Text("--name", baseName_, "demo; with --map, the map's name", "BASE", "name of the files");
   }
@@ -77,10 +86,15 @@ class CommandLine {
     shape_.Style = style_ == "old" ? kOldReportStyle : kNewReportStyle;
     shape_.ReportCount =
         reports_->count() > 0 ? reportCount_ : std::min(shape_.ReportCount, shape_.PlayerCount);
+    if (years_->count() > 0 && ageSpread_->count() == 0) shape_.AgeSpread = 0;
     if (const Result<void> possible = CheckShape(shape_); !possible) {
       return possible.Error();
     }
-    MakeGameOptions options{.Shape = shape_, .MapFile = PathFromText(map_)};
+    if (years_->count() > 0 && (yearCount_ < 1 || yearCount_ > kMostYears)) {
+      return Failure{"The number of years is " + std::to_string(yearCount_) + ", it must be 1 to " +
+                     std::to_string(kMostYears) + "."};
+    }
+    MakeGameOptions options{.Shape = shape_, .Years = yearCount_, .MapFile = PathFromText(map_)};
     const std::filesystem::path beside = options.MapFile.parent_path();
     options.Folder = folder_.empty() ? beside : PathFromText(folder_);
     if (options.Folder.empty()) options.Folder = ".";
@@ -96,9 +110,12 @@ class CommandLine {
       "quorvane-make-game"};
   GameShape shape_;
   int reportCount_ = 0;
+  int yearCount_ = 0;
   std::string style_ = "new";
   std::string map_, folder_, baseName_;
   const CLI::Option* reports_ = nullptr;
+  CLI::Option* years_ = nullptr;
+  const CLI::Option* ageSpread_ = nullptr;
 };
 
 }  // namespace

@@ -12,6 +12,7 @@ namespace quorvane::generator {
 /// What the command line of quorvane-make-game asks for.
 struct MakeGameOptions {
   GameShape Shape;
+  int Years = 0;  // so many years, each in a folder of its own; 0: one game, in the folder itself
   std::filesystem::path MapFile;  // empty: a new universe
   std::filesystem::path Folder;
   std::string BaseName;

@@ -134,7 +134,9 @@ std::string DrawingText(const Universe& universe, int ownRace) {
   }
   for (const Planet* field : Battlefields(universe, ownRace)) {
     text += Circle(*field, 15, Pen::Red);
-    text += Label(*field, "taken " + std::to_string(field->History.back().Year), 8, Pen::Red);
+    const Tenure& latest = field->History.back();
+    const std::string event = latest.Race < 0 ? "left " : "taken ";
+    text += Label(*field, event + std::to_string(latest.Year), 8, Pen::Red);
   }
   return text;
 }

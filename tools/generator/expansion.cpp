@@ -8,8 +8,8 @@ namespace quorvane::generator {
 namespace {
 
 constexpr int kYearsOfSettling = 50;
-constexpr int kMostSettledPercent = 66;
 constexpr int kYearsOfPeace = 15;
+constexpr int kYearsOfDoubt = 8;
 constexpr int kNowhere = std::numeric_limits<int>::max() / 4;
 
 struct Empire {
@@ -57,9 +57,17 @@ void SpreadOut(const std::vector<Planet>& planets, std::vector<Centre>& centres)
   }
 }
 
+// Nobody comes back soon to where a colony has failed.
+bool IsFree(const Planet& planet, int year) {
+  if (planet.History.empty()) return true;
+  const Tenure& latest = planet.History.back();
+  return latest.Race < 0 && latest.Year + kYearsOfDoubt <= year;
+}
+
 class History {
  public:
-  History(Universe& universe, Random& random) : universe_(universe), random_(random) {}
+  History(Universe& universe, Random& random, const Course& course)
+      : universe_(universe), random_(random), course_(course) {}
 
   void Play() {
     MeasureSpace();
@@ -69,6 +77,7 @@ class History {
     }
     const int settled = TotalPlanets();
     for (int tries = settled; tries > 0; --tries) WageWar();
+    for (int year = 1; year <= course_.YearsAhead; ++year) PlayOn(universe_.Year + year);
   }
 
  private:
@@ -113,6 +122,7 @@ class History {
   }
 
   void Claim(std::size_t race, std::size_t index, int year) {
+    LeaveToOthers(index);
     Empire& empire = empires_[race];
     PlanetAt(index).History.push_back({.Year = year, .Race = static_cast<int>(race)});
     ++empire.Planets;
@@ -122,9 +132,15 @@ class History {
     }
   }
 
+  void LeaveToOthers(std::size_t index) {
+    const std::vector<Tenure>& history = PlanetAt(index).History;
+    if (history.empty() || history.back().Race < 0) return;
+    --empires_[static_cast<std::size_t>(history.back().Race)].Planets;
+  }
+
   int PlanetsSettledBy(int year) const {
     const int homes = static_cast<int>(universe_.Races.size());
-    const int most = static_cast<int>(universe_.Planets.size()) * kMostSettledPercent / 100;
+    const int most = static_cast<int>(universe_.Planets.size()) * course_.SettledPercent / 100;
     const int years = std::min(year - kFirstYear, kYearsOfSettling);
     // Slowly at first and again at last, when the good planets have gone.
     const int progress = years * years * (3 * kYearsOfSettling - 2 * years);
@@ -143,12 +159,12 @@ class History {
     for (int total = TotalPlanets(); total < wanted;) {
       const std::optional<std::size_t> race = NextToSettle();
       if (!race) return;
-      const std::optional<std::size_t> planet = BestFreePlanet(*race);
+      const std::optional<std::size_t> planet = BestFreePlanet(*race, year);
       if (!planet) {
         empires_[*race].IsHemmedIn = true;
         continue;
       }
-      SuitColony(*race, *planet);
+      if (PlanetAt(*planet).History.empty()) SuitColony(*race, *planet);
       Claim(*race, *planet, year);
       ++total;
     }
@@ -167,14 +183,14 @@ class History {
     return next;
   }
 
-  std::optional<std::size_t> BestFreePlanet(std::size_t race) {
+  std::optional<std::size_t> BestFreePlanet(std::size_t race, int year) {
     const Empire& empire = empires_[race];
     std::optional<std::size_t> best;
     int lowestCost = kNowhere;
     for (std::size_t i = 0; i < universe_.Planets.size(); ++i) {
       const Planet& planet = universe_.Planets[i];
       const int hop = empire.DistanceFromEdge[i];
-      if (!planet.History.empty() || hop > 2 * spacing_) continue;
+      if (!IsFree(planet, year) || hop > 2 * spacing_) continue;
       const int fromHome = DistanceBetween(planet, universe_.Planets[empire.Home]);
       if (fromHome > empire.Reach) continue;
       const int value = HabValue(universe_.Races[race].Ranges, planet.Original);
@@ -203,15 +219,23 @@ class History {
     }
   }
 
-  // One planet at a border changes hands, if the new owner can live there at all.
+  std::size_t AnyPlanet() {
+    return static_cast<std::size_t>(
+        random_.Between(0, static_cast<int>(universe_.Planets.size()) - 1));
+  }
+
   void WageWar() {
     const int peaceUntil = kFirstYear + kYearsOfPeace;
     if (universe_.Year <= peaceUntil) return;
-    const auto index = static_cast<std::size_t>(
-        random_.Between(0, static_cast<int>(universe_.Planets.size()) - 1));
-    const int year = std::max(universe_.Year - random_.Between(0, 12), peaceUntil);
+    const std::size_t index = AnyPlanet();
+    Attack(index, std::max(universe_.Year - random_.Between(0, 12), peaceUntil));
+  }
+
+  // One planet at a border changes hands, if the new owner can live there at all.
+  void Attack(std::size_t index, int year) {
     const Planet& planet = universe_.Planets[index];
     if (planet.IsHomeWorld || planet.History.empty() || planet.History.back().Year >= year) return;
+    if (planet.History.back().Race < 0) return;
     std::optional<std::size_t> winner;
     int nearest = spacing_ * 5 / 2;
     for (std::size_t race = 0; race < empires_.size(); ++race) {
@@ -225,8 +249,34 @@ class History {
     if (winner) Claim(*winner, index, year);
   }
 
+  // One year after the universe's own: the empires reach further out for what is still free.
+  void PlayOn(int year) {
+    const int planets = static_cast<int>(universe_.Planets.size());
+    for (Empire& empire : empires_) {
+      empire.Reach += spacing_ / 4;
+      empire.IsHemmedIn = false;
+    }
+    SettleUntil(TotalPlanets() + std::max(2, planets / 50), year);
+    for (int tries = planets / 60 + 1; tries > 0; --tries) {
+      if (random_.Chance(50)) Attack(AnyPlanet(), year);
+      if (random_.Chance(25)) GiveUp(AnyPlanet(), year);
+    }
+  }
+
+  // Colonies that never flourished are given up; what flourishes is too dear to its owner.
+  void GiveUp(std::size_t index, int year) {
+    Planet& planet = PlanetAt(index);
+    const Tenure* tenure = planet.TenureIn(year);
+    if (planet.IsHomeWorld || tenure == nullptr || tenure->Year >= year) return;
+    const Race& owner = universe_.Races[static_cast<std::size_t>(tenure->Race)];
+    if (HabValue(owner.Ranges, planet.Original) > 40) return;
+    LeaveToOthers(index);
+    planet.History.push_back({.Year = year, .Race = -1});
+  }
+
   Universe& universe_;
   Random& random_;
+  const Course& course_;
   std::vector<Empire> empires_;
   int spacing_ = 0;  // typical distance of two neighbouring planets
   int region_ = 0;   // side of the square that every race would get of an even division
@@ -234,6 +284,8 @@ class History {
 
 }  // namespace
 
-void PlayHistory(Universe& universe, Random& random) { History(universe, random).Play(); }
+void PlayHistory(Universe& universe, Random& random, const Course& course) {
+  History(universe, random, course).Play();
+}
 
 }  // namespace quorvane::generator

@@ -11,9 +11,13 @@
 #include "generator/intelligence.h"
 #include "generator/planet_names.h"
 #include "generator/report_writer.h"
+#include "generator/turn_writer.h"
 
 namespace quorvane::generator {
 namespace {
+
+// Percent of the planets of a game of several years; the rest is for the years to come.
+constexpr int kSettledAtFirst = 50;
 
 struct Limit {
   const char* What;
@@ -49,7 +53,25 @@ void AddCompanions(const Universe& universe, const GameShape& shape, GeneratedGa
   game.Files.push_back({".QVL", DrawingText(universe, ownRace)});
 }
 
-Universe MakeUniverse(const GameShape& shape, std::vector<Planet> planets) {
+void AddTurnFiles(const GameShape& shape, GeneratedGame& game) {
+  const auto add = [&](const std::string& extension) {
+    game.Files.push_back({extension, TurnFileBytes(shape.Seed, extension, shape.Year)});
+  };
+  for (int slot = 1; slot <= shape.PlayerCount; ++slot) add(".m" + std::to_string(slot));
+  add(".hst");
+}
+
+std::vector<Planet> NewPlanets(const GameShape& shape) {
+  Random placeRandom(shape.Seed, "places");
+  std::vector<Planet> planets = ScatterPlanets(shape.Side, shape.PlanetCount, placeRandom);
+  Random nameRandom(shape.Seed, "names");
+  std::vector<std::string> names = MakePlanetNames(shape.PlanetCount, nameRandom);
+  for (std::size_t i = 0; i < planets.size(); ++i) planets[i].Name = std::move(names[i]);
+  return planets;
+}
+
+Universe MakeUniverse(const GameShape& shape, std::vector<Planet> planets,
+                      const Course& course = {}) {
   Universe universe;
   universe.Year = shape.Year;
   universe.Planets = std::move(planets);
@@ -58,15 +80,25 @@ Universe MakeUniverse(const GameShape& shape, std::vector<Planet> planets) {
   Random planetRandom(shape.Seed, "planets");
   FurnishPlanets(universe.Planets, planetRandom);
   Random historyRandom(shape.Seed, "history");
-  PlayHistory(universe, historyRandom);
+  PlayHistory(universe, historyRandom, course);
   return universe;
 }
 
-GeneratedGame TellReports(const Universe& universe, const GameShape& shape, GeneratedGame game) {
+// The universe as it was in a year, without what came later.
+Universe AsOf(Universe universe, int year) {
+  universe.Year = year;
+  for (Planet& planet : universe.Planets) {
+    std::erase_if(planet.History, [&](const Tenure& tenure) { return tenure.Year > year; });
+  }
+  return universe;
+}
+
+GeneratedGame TellGame(const Universe& universe, const GameShape& shape, GeneratedGame game) {
   game.Year = shape.Year;
   game.OwnSlot = shape.OwnSlot;
   AddReports(universe, shape, game);
   if (shape.HasCompanions) AddCompanions(universe, shape, game);
+  if (shape.HasTurnFiles) AddTurnFiles(shape, game);
   return game;
 }
 
@@ -99,19 +131,31 @@ Result<void> CheckShape(const GameShape& shape) {
 
 GeneratedGame GenerateGame(const GameShape& shape) {
   assert(CheckShape(shape));
-  Random placeRandom(shape.Seed, "places");
-  std::vector<Planet> planets = ScatterPlanets(shape.Side, shape.PlanetCount, placeRandom);
-  Random nameRandom(shape.Seed, "names");
-  std::vector<std::string> names = MakePlanetNames(shape.PlanetCount, nameRandom);
-  for (std::size_t i = 0; i < planets.size(); ++i) planets[i].Name = std::move(names[i]);
+  std::vector<Planet> planets = NewPlanets(shape);
   GeneratedGame game;
   game.Files.push_back({".map", MapText(planets)});
-  return TellReports(MakeUniverse(shape, std::move(planets)), shape, std::move(game));
+  return TellGame(MakeUniverse(shape, std::move(planets)), shape, std::move(game));
+}
+
+std::vector<GeneratedGame> GenerateYears(const GameShape& shape, int years) {
+  assert(CheckShape(shape) && years >= 1 && years <= kMostYears);
+  // All years are played in any case: what settlers will make of a planet shows before they come.
+  const Universe universe = MakeUniverse(shape, NewPlanets(shape), {kSettledAtFirst, kMostYears});
+  const std::string map = MapText(universe.Planets);
+  std::vector<GeneratedGame> games;
+  games.reserve(static_cast<std::size_t>(years));
+  GameShape turn = shape;
+  for (; turn.Year < shape.Year + years; ++turn.Year) {
+    GeneratedGame game;
+    game.Files.push_back({".map", map});
+    games.push_back(TellGame(AsOf(universe, turn.Year), turn, std::move(game)));
+  }
+  return games;
 }
 
 GeneratedGame GenerateReportsForMap(std::span<const MapPlanet> map, const GameShape& shape) {
   assert(map.size() >= static_cast<std::size_t>(shape.PlayerCount));
-  return TellReports(MakeUniverse(shape, PlanetsOfMap(map)), shape, {});
+  return TellGame(MakeUniverse(shape, PlanetsOfMap(map)), shape, {});
 }
 
 Result<void> WriteGame(const GeneratedGame& game, const std::filesystem::path& folder,

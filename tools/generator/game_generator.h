@@ -28,6 +28,7 @@ struct GameShape {
   int Year = 2450;              // 2401 … 3000
   int AgeSpread = 6;            // years by which the others' reports may be older
   bool HasCompanions = false;   // whether the program's own files lie beside the game's
+  bool HasTurnFiles = false;    // whether every player's turn file and the host's are there
 };
 
 /// One file of a game: what follows the game's name, ".p1" for instance, and the file's bytes.
@@ -54,6 +55,16 @@ Result<void> CheckShape(const GameShape& shape);
 /// Makes a game with its map: empires that grew from their home worlds, and reports of different
 /// ages that disagree about them. The shape must pass `CheckShape`.
 GeneratedGame GenerateGame(const GameShape& shape);
+
+/// How many years of one game can be made.
+inline constexpr int kMostYears = 50;
+
+/// Makes the shape's year of a game and the years behind it, 1 … `kMostYears` together, each with
+/// all its files. The map stays the same to the byte; from year to year the empires settle more
+/// planets and grow, and now and then a planet changes hands or is given up. A year's files do not
+/// depend on how many years are made. The game is another one than `GenerateGame` gives: its
+/// empires leave more planets free for the years to come.
+std::vector<GeneratedGame> GenerateYears(const GameShape& shape, int years);
 
 /// Makes reports for a map that exists already; the game then has no map file of its own. `Side`
 /// and `PlanetCount` of the shape are not used. Needs at least as many planets as players.

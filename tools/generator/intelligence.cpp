@@ -52,7 +52,9 @@ std::vector<Sighting> KnowledgeOf(const Universe& universe, int author, int year
       if (!age || (planet.IsBackwater && planet.History.empty())) continue;
       sighting.Age = *age;
       // Nobody overlooks the loss of an own planet.
-      if (planet.OwnerIn(year - *age) == author) sighting.Age = year - planet.TenureIn(year)->Year;
+      if (planet.OwnerIn(year - *age) == author) {
+        sighting.Age = year - planet.LatestChange(year)->Year;
+      }
       const bool isForeign = planet.OwnerIn(year - sighting.Age) >= 0;
       if (isForeign && isOnlySighted) sighting.Depth = Insight::Sighted;
     }

@@ -20,12 +20,17 @@ bool IsFree(const std::vector<Planet>& planets, const Planet& candidate, int spa
 
 }  // namespace
 
-const Tenure* Planet::TenureIn(int year) const {
+const Tenure* Planet::LatestChange(int year) const {
   const Tenure* latest = nullptr;
   for (const Tenure& tenure : History) {
     if (tenure.Year <= year) latest = &tenure;
   }
   return latest;
+}
+
+const Tenure* Planet::TenureIn(int year) const {
+  const Tenure* latest = LatestChange(year);
+  return latest != nullptr && latest->Race >= 0 ? latest : nullptr;
 }
 
 int Planet::OwnerIn(int year) const {

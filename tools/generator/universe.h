@@ -19,10 +19,10 @@ inline constexpr int kFirstYear = 2400;
 inline constexpr std::size_t kMineralKinds = 3;
 using Minerals = std::array<int, kMineralKinds>;
 
-/// Who took a planet, and when.
+/// Who took a planet, and when; or when the last owner gave it up.
 struct Tenure {
   int Year = kFirstYear;
-  int Race = 0;  // index into the universe's races
+  int Race = 0;  // index into the universe's races; -1: nobody, the planet is free again
 };
 
 /// What happened to a planet, and the rolls that decide its details in every year alike, so that
@@ -41,6 +41,8 @@ struct Planet {
   int GrowthRoll = 0;
   int StockRoll = 0;
 
+  /// The latest entry of the history up to a year, nullptr while there is none.
+  const Tenure* LatestChange(int year) const;
   /// The tenure that held in a year, or nullptr while the planet was free.
   const Tenure* TenureIn(int year) const;
   /// Index of the race that held the planet in a year; -1: nobody.

@@ -3,16 +3,19 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <map>
 #include <set>
 #include <string>
 #include <tuple>
+#include <utility>
 
 #include "formats/dialog_files.h"
 #include "formats/game_files.h"
+#include "formats/turn_file.h"
 #include "generator/report_writer.h"
 #include "loading/load_game.h"
 #include "loading/report_finder.h"
-#include "support/temp_folder.h"
+#include "support/growing_game_folder.h"
 
 namespace quorvane::generator {
 namespace {
@@ -52,6 +55,46 @@ TEST(WriteGame, WritesAGameThatLoadsWithAllItsEmpiresAndCompanions) {
     EXPECT_GT(session->Player(player)[PlayerField::Territory].Number(), 0);
     EXPECT_FALSE(session->Player(player)[PlayerField::PrimaryTrait].Text().empty());
   }
+}
+
+TEST(GenerateYears, MakesOneGameThatGrows) {
+  GrowingGameFolder folder;
+  const std::string map = folder.Read("Demo.map");
+  std::map<std::string, std::string> owners;
+  std::ptrdiff_t owned = 0;
+  int taken = 0;
+  int left = 0;
+  for (int year = 2450; year <= 2460; ++year, folder.WriteNextYear()) {
+    GameChoice choice;
+    ChooseMap(choice, folder.MapFile());
+    FindReportFiles(choice, std::to_string(year), {});
+    const Result<GameSession> session = LoadGame(choice, "", {});
+    ASSERT_TRUE(session) << session.Message();
+    for (const PlanetRecord& planet : session->Planets()) {
+      const std::string& owner = planet[PlanetField::Owner].Text();
+      std::string& before = owners[planet[PlanetField::Name].Text()];
+      taken += !before.empty() && !owner.empty() && owner != before ? 1 : 0;
+      left += !before.empty() && owner.empty() ? 1 : 0;
+      before = owner;
+    }
+    const auto free = std::ranges::count(owners, "", [](const auto& of) { return of.second; });
+    const std::ptrdiff_t before = std::exchange(owned, std::ssize(owners) - free);
+    EXPECT_GT(owned, before) << year;
+    EXPECT_EQ(folder.Read("Demo.map"), map) << year;
+    for (const char* file : {"Demo.m1", "Demo.m4", "Demo.hst"}) {
+      EXPECT_EQ(ReadTurnYear(folder / file), year) << file;
+    }
+  }
+  EXPECT_TRUE(taken > 0 && left > 0 && taken + left < 10) << taken << " taken, " << left << " left";
+}
+
+TEST(GenerateYears, AYearIsTheSameHoweverManyAreMade) {
+  const GameShape shape = {.Seed = 9, .Year = 2700, .HasCompanions = true, .HasTurnFiles = true};
+  const GeneratedGame first = GenerateYears(shape, 1)[0];
+  const GeneratedGame again = GenerateYears(shape, 2)[0];
+  EXPECT_EQ(TurnYear(*first.Content(".m8")), 2700) << "a turn that needs two bytes";
+  EXPECT_TRUE(std::ranges::equal(first.Files, again.Files, {}, &GeneratedFile::Content,
+                                 &GeneratedFile::Content));
 }
 
 TEST(GenerateReportsForMap, KeepsTheMapsNamesAndWritesThemInTheGamesEncoding) {

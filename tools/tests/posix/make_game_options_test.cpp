@@ -18,6 +18,8 @@ TEST(ParseMakeGameOptions, RefusesWhatDoesNotGoTogether) {
                                      {"--map", "a.map", "--size", "400"},
                                      {"--planets", "40", "--map", "a.map"},
                                      {"--players", "4", "--reports", "5"},
+                                     {"--years", "3", "--map", "a.map"},
+                                     {"--years", "0"},
                                      {"--seed", "-1"},
                                      {"--planets", "40x"},
                                      {"--name", ""}}) {
