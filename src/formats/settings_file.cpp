@@ -45,6 +45,12 @@ std::optional<fs::path> FolderNamedIn(const SettingsPlace& place) {
   return path.is_relative() && !isWhole ? place.File.parent_path() / path : path;
 }
 
+const SettingsPlace* FirstThatIsThere(const std::vector<SettingsPlace>& places) {
+  const auto found = std::ranges::find_if(
+      places, [](const SettingsPlace& place) { return FindFile(place.File).has_value(); });
+  return found != places.end() ? &*found : nullptr;
+}
+
 }  // namespace
 
 std::string InstallDirIn(std::string_view settings) {
@@ -93,9 +99,15 @@ std::vector<SettingsPlace> SettingsPlaces(const fs::path& home, const fs::path& 
 }
 
 fs::path FindInstallDir(const std::vector<SettingsPlace>& places, const fs::path& fallback) {
-  const auto found = std::ranges::find_if(
-      places, [](const SettingsPlace& place) { return FindFile(place.File).has_value(); });
-  return found != places.end() ? FolderNamedIn(*found).value_or(fallback) : fallback;
+  const SettingsPlace* found = FirstThatIsThere(places);
+  return found != nullptr ? FolderNamedIn(*found).value_or(fallback) : fallback;
+}
+
+bool NamesInstallDir(const std::vector<SettingsPlace>& places) {
+  const SettingsPlace* found = FirstThatIsThere(places);
+  if (found == nullptr) return false;
+  const Result<std::string> text = ReadTextFile(found->File);
+  return text && !InstallDirIn(*text).empty();
 }
 
 }  // namespace quorvane

@@ -33,5 +33,7 @@ std::vector<SettingsPlace> SettingsPlaces(const std::filesystem::path& home,
 /// file that names no folder means C:\. A relative folder counts from the settings file's own.
 std::filesystem::path FindInstallDir(const std::vector<SettingsPlace>& places,
                                      const std::filesystem::path& fallback);
+/// Whether that settings file names a folder.
+bool NamesInstallDir(const std::vector<SettingsPlace>& places);
 
 }  // namespace quorvane

@@ -21,13 +21,14 @@ std::int64_t MillisecondsSince1970(fs::file_time_type time) {
 // Lists the folder once and stamps those of its files that are asked for.
 class FolderStamper {
  public:
-  explicit FolderStamper(const fs::path& mapFile)
-      : folder_(mapFile.parent_path()),
+  FolderStamper(const fs::path& mapFile, const std::function<bool()>& isStopped)
+      : isStopped_(isStopped),
+        folder_(mapFile.parent_path()),
         names_(FilesNamedLike(folder_, GameFile(mapFile, ".").filename(), "")) {}
 
   void Stamp(GameFileKind kind, int row, const fs::path& wanted) {
     const std::optional<fs::path> name = NameAmong(names_, wanted);
-    if (!name) return;
+    if (!name || (isStopped_ && isStopped_())) return;
     const fs::path file = folder_ / *name;
     std::error_code sizeError;
     std::error_code timeError;
@@ -43,15 +44,17 @@ class FolderStamper {
   std::vector<GameFileStamp> Stamps;
 
  private:
+  const std::function<bool()>& isStopped_;
   fs::path folder_;
   std::vector<fs::path> names_;
 };
 
 }  // namespace
 
-std::vector<GameFileStamp> StampGameFiles(const fs::path& mapFile) {
+std::vector<GameFileStamp> StampGameFiles(const fs::path& mapFile,
+                                          const std::function<bool()>& isStopped) {
   const GameChoice game = {.MapFilePath = mapFile};
-  FolderStamper folder(mapFile);
+  FolderStamper folder(mapFile, isStopped);
   folder.Stamp(GameFileKind::Map, 0, mapFile.filename());
   for (int row = 1; row <= kMaxPlayers; ++row) {
     folder.Stamp(GameFileKind::Report, row, ReportFileName(game, row));

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -28,7 +29,10 @@ struct GameFileStamp {
 /// The files of a game that are there: the map, its reports of both styles, its turn files and the
 /// host's, found ignoring case. The folder is listed once, and of turn files the first block is
 /// read.
-std::vector<GameFileStamp> StampGameFiles(const std::filesystem::path& mapFile);
+/// @param isStopped  asked before each file, which may lie behind a slow network: true gives up,
+///                   and what was found until then is all
+std::vector<GameFileStamp> StampGameFiles(const std::filesystem::path& mapFile,
+                                          const std::function<bool()>& isStopped = {});
 
 /// A year of the game, and the file that tells it.
 struct YearOffer {

@@ -10,6 +10,7 @@
 #include "formats/universe_map.h"
 #include "influence/compute_influence.h"
 #include "loading/report_merge.h"
+#include "loading/report_reading.h"
 #include "rules/player_statistics.h"
 #include "rules/race_ranges.h"
 #include "rules/scores.h"
@@ -45,20 +46,11 @@ Result<void> ReadMap(GameSession& session) {
   return {};
 }
 
-Result<std::string> ReadReport(const ReportFileSlot& slot) {
-  Result<std::string> text = ReadTextFile(slot.Path);
-  if (text && text->empty()) {
-    return Failure{TextFromPath(slot.Path) +
-                   ", line 1: the heading of a planet report was expected, the file is empty"};
-  }
-  return text;
-}
-
 Result<void> MergeReports(GameSession& session, const Progress& progress) {
   ReportMerge merge(session);
   if (session.MyRaceRow >= 1 && session.MyRaceRow <= kMaxPlayers) {
     const ReportFileSlot& own = session.ReportFiles.at(static_cast<std::size_t>(session.MyRaceRow));
-    const Result<std::string> text = ReadReport(own);
+    const Result<std::string> text = ReadReport(own.Path);
     if (!text) return text.Error();
     merge.AddOwnReport(*text, own.Year);
   }
@@ -66,7 +58,7 @@ Result<void> MergeReports(GameSession& session, const Progress& progress) {
     const ReportFileSlot& other = session.ReportFiles.at(static_cast<std::size_t>(row));
     if (row == session.MyRaceRow || !FieldValue(other.Included).ReadsAs(1)) continue;
     if (progress.IsStopped()) return Failure{kLoadingStopped};
-    const Result<std::string> text = ReadReport(other);
+    const Result<std::string> text = ReadReport(other.Path);
     if (!text) return text.Error();
     merge.AddOtherReport(*text, other.Year);
   }

@@ -7,10 +7,19 @@ namespace quorvane {
 PlanetIndex::PlanetIndex(const GameSession& session) {
   numbers_.reserve(static_cast<std::size_t>(session.PlanetCount));
   for (int planet = 1; planet <= session.PlanetCount; ++planet) {
-    const auto [first, isNew] =
-        numbers_.try_emplace(Trimmed(session.Planet(planet).Name()), planet);
-    if (!isNew) namesakes_.push_back({.Number = planet, .First = first->second});
+    Add(session.Planet(planet).Name(), planet);
   }
+}
+
+PlanetIndex::PlanetIndex(const std::vector<std::string>& names) {
+  numbers_.reserve(names.size());
+  int planet = 0;
+  for (const std::string& name : names) Add(name, ++planet);
+}
+
+void PlanetIndex::Add(std::string_view name, int number) {
+  const auto [first, isNew] = numbers_.try_emplace(Trimmed(name), number);
+  if (!isNew) namesakes_.push_back({.Number = number, .First = first->second});
 }
 
 int PlanetIndex::Find(std::string_view name) const {

@@ -9,11 +9,13 @@
 
 namespace quorvane {
 
-/// Finds planets by name, without regard to blanks at both ends of it. A view into the session's
-/// planets: the names must not change while it is used.
+/// Finds planets by name, without regard to blanks at both ends of it. A view into the names that
+/// it is made of: they must not change while it is used.
 class PlanetIndex {
  public:
   explicit PlanetIndex(const GameSession& session);
+  /// The same of planets that have only their names, in map order.
+  explicit PlanetIndex(const std::vector<std::string>& names);
 
   /// The number of the first planet of that name on the map; 0 for an unknown name.
   int Find(std::string_view name) const;
@@ -27,6 +29,8 @@ class PlanetIndex {
   const std::vector<Namesake>& Namesakes() const { return namesakes_; }
 
  private:
+  void Add(std::string_view name, int number);
+
   std::unordered_map<std::string_view, int> numbers_;
   std::vector<Namesake> namesakes_;
 };

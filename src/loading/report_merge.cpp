@@ -5,13 +5,13 @@
 #include <utility>
 
 #include "formats/report_file.h"
+#include "loading/report_reading.h"
 #include "rules/sphere_of_influence.h"
 
 namespace quorvane {
 namespace {
 
 constexpr int kSmallestOwnRadius = 5;
-constexpr std::size_t kLongestLine = 4096;  // bytes; the game's own lines have a few hundred
 constexpr const char* kRemoteMining = "Remote";
 
 std::size_t NumberOf(ReportField field) { return static_cast<std::size_t>(field); }
@@ -61,20 +61,6 @@ double GateReading(const ReportLine& line, ReportField field) {
   return line.ReadsAs(field, -1) ? kUnlimitedGate : line.Number(field);
 }
 
-// Calls `merge` with the first planet that each line names and the line.
-template <typename Merge>
-void MergeLines(const PlanetIndex& index, const std::vector<std::string_view>& lines,
-                const Merge& merge) {
-  for (const std::string_view text : lines) {
-    // All planets of a name would keep a copy of what an overlong line says.
-    if (text.size() > kLongestLine) continue;
-    const ReportLine line(text);
-    if (line.Count() == 0) continue;
-    const int number = index.Find(line.Text(ReportField::PlanetName));
-    if (number > 0) merge(number, line);
-  }
-}
-
 }  // namespace
 
 std::string AgeTextOf(double age) {
@@ -99,7 +85,7 @@ void ReportMerge::AddOwnReport(std::string_view report, std::string_view year) {
     MergeOwnLine(session_.Planet(number), line, age);
     isKnown_.at(static_cast<std::size_t>(number)) = true;
   };
-  MergeLines(index_, OwnReportLines(report), merge);
+  UseReportLines(index_, OwnReportLines(report), merge);
   ShareAmongNamesakes();
 }
 
@@ -113,7 +99,7 @@ void ReportMerge::AddOtherReport(std::string_view report, std::string_view year)
     MergeOtherLine(number, line, age);
   };
   std::deque<std::string> unquoted;
-  MergeLines(index_, OtherReportLines(report, unquoted), merge);
+  UseReportLines(index_, OtherReportLines(report, unquoted), merge);
   ShareAmongNamesakes();
 }
 

@@ -8,6 +8,8 @@
 #include <limits>
 #include <system_error>
 
+#include "model/rounding.h"
+
 namespace quorvane {
 namespace {
 
@@ -181,6 +183,11 @@ std::string NumberText(double value) {
 
 std::string NumberTextWithLeadingBlank(double value) {
   return (value < 0 ? "" : " ") + NumberText(value);
+}
+
+std::string OneDecimalText(double value) {
+  const std::string text = NumberText(RoundToDecimals(value, 1));
+  return text.find('.') == text.npos ? text + ".0" : text;
 }
 
 void FieldValue::SetText(std::string_view text) {

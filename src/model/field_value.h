@@ -26,6 +26,9 @@ std::string NumberText(double value);
 /// `NumberText` with one blank before a non-negative number (a negative one has its sign there).
 std::string NumberTextWithLeadingBlank(double value);
 
+/// A number with one decimal, whether it has one or not: 81.0, 2.3.
+std::string OneDecimalText(double value);
+
 enum class FieldKind : std::uint8_t { Empty, Text, Whole, Real };
 
 /// One field of a planet or player record. It knows its `NumericValue` from the moment it is set,
