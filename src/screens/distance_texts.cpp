@@ -1,15 +1,9 @@
 #include "screens/distance_texts.h"
 
 #include "model/field_value.h"
-#include "model/rounding.h"
 
 namespace quorvane {
 namespace {
-
-std::string OneDecimalText(double value) {
-  const std::string text = NumberText(RoundToDecimals(value, 1));
-  return text.find('.') == text.npos ? text + ".0" : text;
-}
 
 std::string YearsText(double lightYears, int warp) {
   const int years = YearsAtWarp(lightYears, warp);
