@@ -43,13 +43,21 @@ QString ProgramData() {
                                                       : program.filePath("../share/quorvane");
 }
 
-std::filesystem::path StartFolder() {
+struct Start {
+  std::filesystem::path Folder;
+  bool IsNamed = false;  // by the game's settings; otherwise there are only the examples
+};
+
+Start FindStart() {
   const std::filesystem::path home = quorvane::ToPath(QDir::homePath());
   const std::filesystem::path programData = quorvane::ToPath(ProgramData());
   const QString userData = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
-  return quorvane::ExampleFolder(
-      quorvane::FindInstallDir(quorvane::SettingsPlaces(home, programData), home), programData,
-      quorvane::ToPath(userData) / "quorvane");
+  const auto places = quorvane::SettingsPlaces(home, programData);
+  const std::filesystem::path folder = quorvane::FindInstallDir(places, home);
+  const bool areExamples = folder.parent_path() == programData;
+  return {.Folder = quorvane::ExampleFolder(folder, programData,
+                                            quorvane::ToPath(userData) / "quorvane"),
+          .IsNamed = quorvane::NamesInstallDir(places) && !areExamples};
 }
 
 std::filesystem::path PreferencesPlace() {
@@ -69,7 +77,7 @@ class FirstDialog : public QObject {
   bool eventFilter(QObject* handle, QEvent* event) override {
     if (event->type() == QEvent::Expose && window_.windowHandle()->isExposed()) {
       handle->removeEventFilter(this);
-      QTimer::singleShot(0, &window_, &quorvane::Main::mnuMap_Click);
+      QTimer::singleShot(0, &window_, &quorvane::Main::Begin);
     }
     return false;
   }
@@ -88,7 +96,9 @@ int main(int argc, char* argv[]) {
   quorvane::ApplyTheme(application);
   quorvane::InstallAccessibleRoles();
   QApplication::setWindowIcon(quorvane::ThemedIcon("quorvane"));
-  quorvane::Main window(StartFolder(), nullptr, PreferencesPlace());
+  const Start start = FindStart();
+  quorvane::Main window(start.Folder, nullptr, PreferencesPlace());
+  if (!start.IsNamed) window.OfferLastGame();
   window.show();
   const FirstDialog firstDialog(window);
   return QApplication::exec();

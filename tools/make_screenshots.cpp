@@ -5,6 +5,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QDialog>
+#include <QEventLoop>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
@@ -13,6 +14,7 @@
 #include <algorithm>
 #include <iostream>
 
+#include "formats/turn_file.h"
 #include "map/planets_in_view.h"
 #include "ui/details_panel.h"
 #include "ui/distances_dock.h"
@@ -191,6 +193,30 @@ void TakeDocks(Main& window, const ScreenshotJob& job) {
   Save(window, job, "main-docks");
 }
 
+// What the bar above the map tells once a new turn of the user's race has arrived.
+void TakeNewTurn(Main& window, const ScreenshotJob& job) {
+  for (const char* dock : {"ViewKey", "ViewDistances", "ViewWholeUniverse", "ViewSet(1)"}) {
+    window.findChild<QAction*>(dock)->trigger();
+  }
+  window.findChild<QAction*>("GameReports")->trigger();
+  const GameSession& session = window.Session();
+  const int own = session.MyRaceRow;
+  GameWatcher::Stamps files = StampGameFiles(session.MapFilePath);
+  for (GameFileStamp& file : files) {
+    if (file.Kind == GameFileKind::Report && file.Row <= own) file.Size += 1;
+  }
+  files.push_back({.Kind = GameFileKind::Turn,
+                   .Row = own,
+                   .Name = TurnFileName(session, own),
+                   .Year = session.GameYear + 1});
+  emit window.Watcher().Changed(session.MapFilePath, files);
+  window.findChild<QAction*>("ViewNumbersInLegend")->trigger();
+  QEventLoop survey;  // the reports are read in another thread
+  QTimer::singleShot(500, &survey, &QEventLoop::quit);
+  survey.exec();
+  Save(window, job, "main-new-turn");
+}
+
 void TakePictures(const ScreenshotJob& job) {
   Main window(ToPath(job.GameFolder));
   window.Map->Timer1->stop();  // the marker's colours are random
@@ -230,6 +256,7 @@ void TakePictures(const ScreenshotJob& job) {
   window.resize(1000, 700);
   Save(window, job, "main-1000x700");
   TakeDocks(window, job);
+  TakeNewTurn(window, job);
 }
 
 }  // namespace

@@ -27,6 +27,8 @@ class DetailsPanel : public QTabWidget {
   /// Shows everything that is known of a planet.
   /// @param planet its number, from 1
   void ShowPlanet(const GameSession& session, int planet);
+  /// The planet on show; 0 while there is none.
+  int Planet() const { return planet_; }
 
   DrawingTools* Tools = nullptr;
   MineralsTab* Minerals = nullptr;

@@ -211,6 +211,7 @@ void EmpireStat::ReCalcHab_Click() {
 
 void EmpireStat::SaveInfo_Click() {
   const Result<void> saved = WriteEmpireDataFile(session_);
+  if (saved) emit Saved();
   prompts_.Inform(saved ? SavedRacesMessage("Information Saved", session_) : saved.Message());
 }
 

@@ -36,6 +36,10 @@ class EmpireStat : public QDialog {
   /// Set while a player's record is copied into the controls, which then store nothing.
   bool FillingControls = false;
 
+ signals:
+  /// The information of all races has been saved.
+  void Saved();
+
  protected:
   bool eventFilter(QObject* target, QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;

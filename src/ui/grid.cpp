@@ -5,10 +5,13 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPainter>
+#include <QScrollBar>
 #include <QShortcut>
 #include <QStyledItemDelegate>
 #include <QToolTip>
 #include <algorithm>
+#include <map>
+#include <utility>
 
 #include "paint/twips.h"
 #include "screens/planet_grid.h"
@@ -140,9 +143,41 @@ void Grid::Fill(const GameSession& session) {
   for (int column = 0; column < ColumnCount(); ++column) {
     SetColumnWidth(column, model_->Snapshot().Columns[static_cast<std::size_t>(column)].Width);
   }
+  sorting_.clear();
   DG->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
   DG->setCurrentIndex(model_->index(0, 0));
   DG->scrollToTop();
+}
+
+// The races, and with them the last columns, may have another order than a year ago.
+void Grid::Refresh(const GameSession& session) {
+  const QModelIndex current = DG->currentIndex();
+  const int planet = model_->SnapshotRow(current.row());
+  const QString heading = Heading(std::max(current.column(), 0));
+  const QPoint scrolled(DG->horizontalScrollBar()->value(), DG->verticalScrollBar()->value());
+  std::map<QString, int> widths;
+  for (int column = 0; column < ColumnCount(); ++column) {
+    widths[Heading(column)] = ColumnWidth(column);
+  }
+  std::vector<std::pair<QString, Qt::SortOrder>> sorting;
+  for (const auto& [column, order] : sorting_) sorting.emplace_back(Heading(column), order);
+  Fill(session);
+  for (int column = 0; column < ColumnCount(); ++column) {
+    if (widths.contains(Heading(column))) SetColumnWidth(column, widths[Heading(column)]);
+  }
+  for (const auto& [sorted, order] : sorting) {
+    if (const int column = ColumnOf(sorted); column >= 0) SortBy(column, order);
+  }
+  DG->setCurrentIndex(model_->index(model_->ShownAt(planet), std::max(ColumnOf(heading), 0)));
+  DG->horizontalScrollBar()->setValue(scrolled.x());
+  DG->verticalScrollBar()->setValue(scrolled.y());
+}
+
+int Grid::ColumnOf(const QString& heading) const {
+  for (int column = 0; column < ColumnCount(); ++column) {
+    if (Heading(column) == heading) return column;
+  }
+  return -1;
 }
 
 int Grid::ColumnCount() const { return model_->columnCount(); }
@@ -192,6 +227,8 @@ void Grid::SortBy(int column, Qt::SortOrder order) {
   const int row = std::max(DG->currentIndex().row(), 0);
   DG->setCurrentIndex(model_->index(row, column));
   model_->sort(column, order);
+  std::erase_if(sorting_, [column](const auto& sorted) { return sorted.first == column; });
+  sorting_.emplace_back(column, order);
   DG->horizontalHeader()->setSortIndicator(column, order);
 }
 

@@ -3,6 +3,8 @@
 #include <QMainWindow>
 #include <QString>
 #include <QTableView>
+#include <utility>
+#include <vector>
 
 #include "model/game_session.h"
 
@@ -21,6 +23,10 @@ class Grid : public QMainWindow {
 
   /// Shows a game as it is now: all planets in map order and all columns in their first widths.
   void Fill(const GameSession& session);
+
+  /// Shows the game as it is now where another year of it was shown: columns, sorting and the
+  /// current planet stay.
+  void Refresh(const GameSession& session);
 
   int ColumnCount() const;
   QString Heading(int column) const;
@@ -43,9 +49,12 @@ class Grid : public QMainWindow {
   void Form_Resize();
   void DG_Click(int column, Qt::MouseButton button);
   void mnuSH_Click();
+  int ColumnOf(const QString& heading) const;
   void SortBy(int column, Qt::SortOrder order);
 
   GridModel* model_ = nullptr;
+  // Rows that are equal in one column are in the order of the one before.
+  std::vector<std::pair<int, Qt::SortOrder>> sorting_;
 };
 
 }  // namespace quorvane

@@ -1,6 +1,7 @@
 #include "ui/grid_model.h"
 
 #include <QBrush>
+#include <algorithm>
 #include <numeric>
 #include <utility>
 
@@ -28,6 +29,17 @@ void GridModel::Show(PlanetGrid grid) {
 QString GridModel::Heading(int column) const {
   const PlanetGridColumn& shown = grid_.Columns.at(static_cast<std::size_t>(column));
   return ToQString(shown.Heading);
+}
+
+int GridModel::SnapshotRow(int shown) const {
+  return shown >= 0 && shown < rowCount()
+             ? static_cast<int>(order_[static_cast<std::size_t>(shown)])
+             : 0;
+}
+
+int GridModel::ShownAt(int snapshotRow) const {
+  const auto found = std::ranges::find(order_, static_cast<std::size_t>(snapshotRow));
+  return found != order_.end() ? static_cast<int>(found - order_.begin()) : 0;
 }
 
 const PlanetGridRow& GridModel::ShownRow(int row) const {

@@ -20,6 +20,10 @@ class GridModel : public QAbstractTableModel {
   /// Replaces the snapshot; its rows are shown in the order in which they come.
   void Show(PlanetGrid grid);
   const PlanetGrid& Snapshot() const { return grid_; }
+  /// Which row of the snapshot a row on screen shows, and where a row of the snapshot is shown;
+  /// both from 0. Rows that are not there are the first one.
+  int SnapshotRow(int shown) const;
+  int ShownAt(int snapshotRow) const;
   /// A column's heading with its line break.
   QString Heading(int column) const;
 

@@ -2,6 +2,7 @@
 
 #include <QKeyEvent>
 #include <QPainter>
+#include <QPainterPath>
 
 #include "map/discs.h"
 #include "paint/twips.h"
@@ -36,16 +37,42 @@ void RaceSwatch::keyPressEvent(QKeyEvent* event) {
 
 void RaceSwatch::paintEvent(QPaintEvent* event) {
   PictureBox::paintEvent(event);
-  if (!hasFocus()) return;
-  // The swatch of the next row covers the lower edge of this one. Black within white can be seen on
-  // every colour.
-  const QRect frame =
-      rect().adjusted(0, 0, -1, -1 - PixelsFromTwips(kSwatchHeight - kLegendRowHeight));
   QPainter painter(this);
+  if (number_ > 0) PaintNumber(painter);
+  if (!hasFocus()) return;
+  // Black within white can be seen on every colour.
+  const QRect frame = SeenPart().adjusted(0, 0, -1, -1);
   painter.setPen(Qt::white);
   painter.drawRect(frame);
   painter.setPen(Qt::black);
   painter.drawRect(frame.adjusted(1, 1, -1, -1));
+}
+
+// The swatch of the next row covers the lower edge of this one.
+QRect RaceSwatch::SeenPart() const {
+  return rect().adjusted(0, 0, 0, -PixelsFromTwips(kSwatchHeight - kLegendRowHeight));
+}
+
+void RaceSwatch::ShowNumber(int number) {
+  number_ = number;
+  update();
+}
+
+// White within black can be read on every colour, at the dim end of the swatch most easily.
+void RaceSwatch::PaintNumber(QPainter& painter) const {
+  constexpr int kFromEdge = 3;
+  QFont bold = font();
+  bold.setBold(true);
+  const QFontMetrics metrics(bold);
+  const QString text = QString::number(number_);
+  const QRect room = SeenPart().adjusted(0, 0, -kFromEdge, 0);
+  const int baseline = room.top() + (room.height() + metrics.capHeight()) / 2;
+  QPainterPath letters;
+  letters.addText(room.right() - metrics.horizontalAdvance(text), baseline, bold, text);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.strokePath(letters, QPen(Qt::black, 3, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter.fillPath(letters, Qt::white);
+  painter.setRenderHint(QPainter::Antialiasing, false);
 }
 
 void RaceSwatch::focusInEvent(QFocusEvent* event) {
@@ -98,6 +125,12 @@ void Legend::ShowChangedColour(const GameSession& session, int row) {
   TakeColours(session);
   outlines_.at(static_cast<std::size_t>(row)) = Colour();
   for (std::size_t shown = 0; shown < colours_.size(); ++shown) PaintRow(shown);
+}
+
+void Legend::ShowNumbers(bool areShown) {
+  for (int row = 0; row < kLegendRows; ++row) {
+    RaceC[static_cast<std::size_t>(row)]->ShowNumber(areShown ? row + 1 : 0);
+  }
 }
 
 void Legend::TakeColours(const GameSession& session) {

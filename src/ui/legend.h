@@ -9,6 +9,8 @@
 #include "paint/picture_box.h"
 #include "screens/main_layout.h"
 
+class QPainter;
+
 namespace quorvane {
 
 /// A swatch of the legend: clicked, or chosen by the keyboard, it lets its colour be changed.
@@ -18,6 +20,9 @@ class RaceSwatch : public PictureBox {
  public:
   explicit RaceSwatch(QWidget* parent);
 
+  /// Writes a race's number above the picture; 0: none.
+  void ShowNumber(int number);
+
  signals:
   void Chosen();
 
@@ -26,6 +31,12 @@ class RaceSwatch : public PictureBox {
   void paintEvent(QPaintEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
+
+ private:
+  QRect SeenPart() const;
+  void PaintNumber(QPainter& painter) const;
+
+  int number_ = 0;
 };
 
 /// The race legend: every player's name beside a swatch of the player's colour.
@@ -38,6 +49,8 @@ class Legend : public QObject {
   void Place(const MainLayout& layout);
   /// Shows the players of a newly loaded game.
   void ShowPlayers(const GameSession& session);
+  /// Whether each swatch carries its race's number, for eyes to which some colours are alike.
+  void ShowNumbers(bool areShown);
   /// Shows the colours of the game again after the user changed that of a row.
   void ShowChangedColour(const GameSession& session, int row);
 

@@ -18,6 +18,13 @@ QMenu* AddMenu(QMenuBar& bar, const char* name, const char* caption) {
   return menu;
 }
 
+QMenu* AddSubmenu(QMenu& menu, const char* name, const char* caption) {
+  QMenu* submenu = menu.addMenu(caption);
+  submenu->setObjectName(name);
+  submenu->menuAction()->setObjectName(name);
+  return submenu;
+}
+
 QAction* AddItem(QMenu& menu, const char* name, const char* caption, const char* icon,
                  const QKeySequence& shortcut = {}) {
   QAction* item = menu.addAction(caption);
@@ -41,6 +48,7 @@ MainMenu::MainMenu(QMenuBar& bar)
       mnuOver(AddMenu(bar, "mnuOver", "&Overlays")),
       mnuData(AddMenu(bar, "mnuData", "&Data")),
       ViewMenu(AddMenu(bar, "ViewMenu", "&View")),
+      GameMenu(AddMenu(bar, "GameMenu", "&Game")),
       mnuHelp(AddMenu(bar, "mnuHelp", "&Help")) {
   mnuMap = AddItem(*mnuFile, "mnuMap", "Load Data", "load");
   mnuSave = AddItem(*mnuFile, "mnuSave", "Save Map", "save", Qt::CTRL | Qt::Key_S);
@@ -59,6 +67,7 @@ MainMenu::MainMenu(QMenuBar& bar)
       AddItem(*mnuData, "mnuGrid2", "&Empire Statistics", "statistics", Qt::CTRL | Qt::Key_E);
 
   AddViewItems();
+  AddGameItems();
 
   mnuAbout = AddItem(*mnuHelp, "mnuAbout", "&About", "about");
   mnuThanks = AddItem(*mnuHelp, "mnuThanks", "&Thanks to...", nullptr);
@@ -89,11 +98,28 @@ void MainMenu::AddViewItems() {
   ViewFewerNames = AddSwitch(menu, "ViewFewerNames", "&Fewer Names");
   ViewGatesOfSelected =
       AddSwitch(menu, "ViewGatesOfSelected", "Gates of the Selected &Planet Only");
+  ViewNumbersInLegend = AddSwitch(menu, "ViewNumbersInLegend", "Numbers in the Legend");
+  ViewOverlaySets = AddSubmenu(menu, "ViewOverlaySets", "Overlay Sets");
   menu.addSeparator();
   ViewKey = AddSwitch(menu, "ViewKey", "&Key to the Map", Qt::Key_F2);
   ViewDistances = AddSwitch(menu, "ViewDistances", "&Distances", Qt::Key_F8);
   ViewKeepDestination =
       AddItem(menu, "ViewKeepDestination", "Keep as destination", nullptr, Qt::CTRL | Qt::Key_D);
+}
+
+void MainMenu::AddGameItems() {
+  QMenu& menu = *GameMenu;
+  GameReload = AddItem(menu, "GameReload", "&Reload", "reload", Qt::Key_F5);
+  GameReload->setEnabled(false);
+  GameRecent = AddSubmenu(menu, "GameRecent", "Open &Recent");
+  GameReopenAtStart = AddSwitch(menu, "GameReopenAtStart", "Reopen Last Game at &Start");
+  GameReloadByItself = AddSwitch(menu, "GameReloadByItself", "Reload by Itself");
+  menu.addSeparator();
+  GameReports = AddSwitch(menu, "GameReports", "Reports ...", Qt::Key_F7);
+  menu.addSeparator();
+  GameColoursForEveryEye =
+      AddItem(menu, "GameColoursForEveryEye", "Race Colours for Every Eye", nullptr);
+  GameDefaultColours = AddItem(menu, "GameDefaultColours", "&Default Race Colours", nullptr);
 }
 
 }  // namespace quorvane

@@ -16,6 +16,7 @@ struct MainMenu {
   QMenu* mnuOver = nullptr;
   QMenu* mnuData = nullptr;
   QMenu* ViewMenu = nullptr;
+  QMenu* GameMenu = nullptr;
   QMenu* mnuHelp = nullptr;
 
   QAction* mnuMap = nullptr;
@@ -40,6 +41,16 @@ struct MainMenu {
   QAction* ViewKey = nullptr;
   QAction* ViewDistances = nullptr;
   QAction* ViewKeepDestination = nullptr;
+  QAction* ViewNumbersInLegend = nullptr;
+  QMenu* ViewOverlaySets = nullptr;
+
+  QAction* GameReload = nullptr;
+  QMenu* GameRecent = nullptr;
+  QAction* GameReopenAtStart = nullptr;
+  QAction* GameReloadByItself = nullptr;
+  QAction* GameReports = nullptr;
+  QAction* GameColoursForEveryEye = nullptr;
+  QAction* GameDefaultColours = nullptr;
 
   QAction* mnuAbout = nullptr;
   QAction* mnuThanks = nullptr;
@@ -47,6 +58,7 @@ struct MainMenu {
 
  private:
   void AddViewItems();
+  void AddGameItems();
 };
 
 }  // namespace quorvane

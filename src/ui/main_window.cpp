@@ -17,6 +17,7 @@
 
 #include "loading/load_game.h"
 #include "paint/twips.h"
+#include "rules/every_eye_colours.h"
 #include "screens/main_layout.h"
 #include "screens/main_texts.h"
 #include "ui/controls.h"
@@ -30,7 +31,10 @@
 #include "ui/map_panel.h"
 #include "ui/message_box_prompts.h"
 #include "ui/overlay_bar.h"
+#include "ui/overlay_sets_menu.h"
 #include "ui/pixel_rect.h"
+#include "ui/recent_games.h"
+#include "ui/reload_bar.h"
 #include "ui/texts.h"
 
 namespace quorvane {
@@ -125,7 +129,14 @@ void Main::Form_Load() {
   Menu.ViewOutlineNames->setChecked(options.OutlineNames);
   Menu.ViewFewerNames->setChecked(options.FewerNames);
   Menu.ViewGatesOfSelected->setChecked(options.GatesOfSelectedOnly);
+  Menu.ViewNumbersInLegend->setChecked(preferences_.Values().NumbersInLegend);
+  Menu.GameReopenAtStart->setChecked(preferences_.Values().ReopenAtStart);
+  Menu.GameReloadByItself->setChecked(preferences_.Values().ReloadByItself);
+  RaceLegend->ShowNumbers(preferences_.Values().NumbersInLegend);
   Navigator->EnableCommands();
+  sets_->ShowSets(preferences_.Values().Sets);
+  ShowSets();
+  EnableGameCommands();
   TellFault();
 }
 
@@ -157,6 +168,7 @@ void Main::BuildArea() {
   Combo1->setGeometry(PixelRect(RaceChooserRect()));
   Map = new MapPanel(*area_, state_);
   Navigator = new MapNavigator(*Map, state_, Menu);
+  Bar = new ReloadBar(Map->Universe);
   RaceLegend = new Legend(*area_);
   Detail = new DetailsPanel(area_);
   Board = new DrawingBoard(session_, *Map, *Detail->Tools, prompts_);
@@ -200,6 +212,7 @@ void Main::ConnectParts() {
 void Main::EnableOverlays(bool isEnabled) {
   Overlays->EnableButtons(kOverlayButtonCount, isEnabled);
   Menu.mnuOver->setEnabled(isEnabled);
+  ShowSets();
 }
 
 void Main::ConnectMenus() {
@@ -215,9 +228,32 @@ void Main::ConnectMenus() {
        {Menu.ViewOutlineNames, Menu.ViewFewerNames, Menu.ViewGatesOfSelected}) {
     connect(option, &QAction::triggered, this, &Main::ViewOption_Click);
   }
+  connect(Menu.ViewNumbersInLegend, &QAction::triggered, this, &Main::GameOption_Click);
+  ConnectGameMenu();
   connect(Menu.mnuAbout, &QAction::triggered, this, &Main::mnuAbout_Click);
   connect(Menu.mnuThanks, &QAction::triggered, this, &Main::mnuThanks_Click);
   connect(Menu.mnuManual, &QAction::triggered, this, &Main::mnuManual_Click);
+}
+
+void Main::ConnectGameMenu() {
+  connect(Menu.GameReload, &QAction::triggered, this, &Main::GameReload_Click);
+  recent_ = new RecentGames(*Menu.GameRecent, *Menu.GameMenu, memories_);
+  // The menu is filled anew when another game is opened, and is on its way up until then.
+  connect(recent_, &RecentGames::Chosen, this, &Main::GameRecent_Click, Qt::QueuedConnection);
+  connect(Menu.GameReopenAtStart, &QAction::triggered, this, &Main::GameOption_Click);
+  connect(Menu.GameReloadByItself, &QAction::triggered, this, &Main::GameOption_Click);
+  connect(Menu.GameColoursForEveryEye, &QAction::triggered, this,
+          [this] { UseColours(kEveryEyeColours); });
+  connect(Menu.GameDefaultColours, &QAction::triggered, this,
+          [this] { UseColours(kDefaultRaceColours); });
+  connect(&watcher_, &GameWatcher::Began, this, &Main::Watcher_Began);
+  connect(&watcher_, &GameWatcher::Changed, this, &Main::Watcher_Changed);
+  connect(Bar, &ReloadBar::ReloadAsked, this, &Main::GameReload_Click);
+  connect(Bar, &ReloadBar::Dismissed, this, &Main::Bar_Dismissed);
+  sets_ = new OverlaySetsMenu(*Menu.ViewOverlaySets);
+  connect(sets_, &OverlaySetsMenu::SetChosen, this, &Main::ViewSet_Choose);
+  connect(sets_, &OverlaySetsMenu::SaveAsked, this, &Main::ViewSaveSet_Click);
+  connect(sets_, &OverlaySetsMenu::RemoveAsked, this, &Main::ViewRemoveSet_Click);
 }
 
 void Main::resizeEvent(QResizeEvent* event) {
@@ -232,6 +268,8 @@ void Main::moveEvent(QMoveEvent* event) {
 }
 
 void Main::closeEvent(QCloseEvent* event) {
+  if (!MayLeaveGame()) return event->ignore();
+  RememberShown();
   preferences_.KeepPlace(kDocks, saveState());
   QMainWindow::closeEvent(event);
 }

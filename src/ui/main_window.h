@@ -12,10 +12,16 @@
 #include "map/overlay_kind.h"
 #include "model/game_session.h"
 #include "model/result.h"
+#include "screens/game_memory.h"
+#include "screens/reload_plan.h"
+#include "screens/unsaved_changes.h"
+#include "ui/game_memories.h"
+#include "ui/game_watcher.h"
 #include "ui/main_menu.h"
 #include "ui/open_file.h"
 #include "ui/preferences.h"
 #include "ui/prompts.h"
+#include "ui/report_surveyor.h"
 
 class QScrollArea;
 
@@ -30,6 +36,10 @@ class KeyDock;
 class Legend;
 class LongStep;
 class Manual;
+class OverlaySetsMenu;
+class ReloadBar;
+class RecentGames;
+class ReportsDock;
 class MapNavigator;
 class MapPanel;
 class OverlayBar;
@@ -47,6 +57,11 @@ class Main : public QMainWindow {
                 const std::filesystem::path& preferences = {});
   ~Main() override;
 
+  /// Lets the open dialog begin with the last game, as nothing else says where to look.
+  void OfferLastGame();
+  /// What a start shows: the last game as it was left, where the user wants that, or else the open
+  /// dialog.
+  void Begin();
   /// "Load Data": lets the user choose a game in the open dialog and loads it.
   void mnuMap_Click();
   /// Loads the game that the open dialog left chosen. A load that fails says why, and the game on
@@ -56,6 +71,7 @@ class Main : public QMainWindow {
   void DrawOverlays();
 
   const GameSession& Session() const { return session_; }
+  GameWatcher& Watcher() { return watcher_; }
 
   MainMenu Menu;
   MapPanel* Map = nullptr;
@@ -66,6 +82,8 @@ class Main : public QMainWindow {
   Legend* RaceLegend = nullptr;
   quorvane::KeyDock* KeyDock = nullptr;
   quorvane::DistancesDock* DistancesDock = nullptr;
+  quorvane::ReportsDock* ReportsDock = nullptr;
+  ReloadBar* Bar = nullptr;
   QComboBox* Combo1 = nullptr;
   QLabel* XYCoord = nullptr;
   QLabel* theplanet = nullptr;
@@ -75,6 +93,7 @@ class Main : public QMainWindow {
   void resizeEvent(QResizeEvent* event) override;
   void moveEvent(QMoveEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
+  void changeEvent(QEvent* event) override;
   bool eventFilter(QObject* target, QEvent* event) override;
 
  private:
@@ -101,6 +120,17 @@ class Main : public QMainWindow {
   void mnuSave_Click();
   void mnuSaveRaceC_Click();
   void mnuExit_Click();
+  void GameReload_Click();
+  void GameRecent_Click(const std::filesystem::path& map);
+  void GameOption_Click();
+  void Watcher_Began(const std::filesystem::path& map, const GameWatcher::Stamps& files);
+  void Watcher_Changed(const std::filesystem::path& map, const GameWatcher::Stamps& files);
+  void Bar_Dismissed();
+  void ReportsDock_Ticked(int row, bool isIn);
+  void ReportsDock_YearTyped(int row, const QString& year);
+  void ViewSet_Choose(int index);
+  void ViewSaveSet_Click();
+  void ViewRemoveSet_Click(int index);
 
   void BuildArea();
   void BuildDocks();
@@ -115,14 +145,37 @@ class Main : public QMainWindow {
   void KeepDestination(int planet);
   void ConnectParts();
   void ConnectMenus();
+  void ConnectGameMenu();
   void EnableOverlays(bool isEnabled);
   void PickPlanet(SurfacePoint at);
   void Selection_Changed();
+  void ShowSelection();
   void ShowFullView();
   void Repaint();
   void TellFault();
-  Result<GameSession> RunLoad();
+  bool Load(const GameChoice& choice, const std::optional<GameWatcher::Stamps>& since = {});
+  Result<GameSession> RunLoad(const GameChoice& choice);
   void ShowLoadedGame();
+  bool Open(const GameMemory& game);
+  void Reload(const GameChoice& choice);
+  void ReloadByItself();
+  void ShowNews();
+  ShownState Shown() const;
+  void ShowAgain(const ShownState& shown);
+  void RememberGame();
+  void RememberShown();
+  UnsavedChanges Unsaved() const;
+  bool MayLeaveGame();
+  Result<void> SaveChanges(const UnsavedChanges& changes);
+  void UseColours(const RaceColourTable& preset);
+  void ShowNewColours();
+  void SurveyReports();
+  void ShowReports();
+  void EnableGameCommands();
+  void ShowSets();
+  void KeepSets(const Preferences& preferences);
+  void ShowMarkerNumber();
+  void KeepPreferences(const Preferences& preferences);
   void ResetWindow();
   void PaintMap(OverlaySwitches switches);
   void ShowWhetherStopped(bool isStopped, const char* sentence);
@@ -130,6 +183,8 @@ class Main : public QMainWindow {
   std::unique_ptr<Prompts> ownPrompts_;
   Prompts& prompts_;
   PreferencesFile preferences_;
+  GameMemories memories_{preferences_};
+  GameWatcher watcher_;
   bool arePlacesKnown_ = false;  // of the docks
   OpenState open_;
   // These have their places kept when they go, and so go before.
@@ -137,7 +192,20 @@ class Main : public QMainWindow {
   std::unique_ptr<FindPlanet> findPlanet_;
   std::unique_ptr<Grid> grid_;
   std::unique_ptr<Manual> manual_;
+  // What the open dialog is to show when it is opened next.
+  std::optional<GameChoice> offered_;
   GameSession session_;
+  SavedSession saved_;
+  // With what the game would be loaded again.
+  GameChoice next_;
+  // The game's files as they were loaded, as they are, and the changes that the user has put off.
+  GameWatcher::Stamps loadedFiles_;
+  GameWatcher::Stamps files_;
+  std::vector<FileChange> dismissed_;
+  OverlaySetsMenu* sets_ = nullptr;
+  RecentGames* recent_ = nullptr;
+  ReportSurveyor surveyor_;
+  ReportSurveys surveys_;
   MapState state_;
   std::optional<SurfacePoint> pointer_;  // where it was over the map last
   QScrollArea* scroll_ = nullptr;

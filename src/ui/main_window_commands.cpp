@@ -12,7 +12,6 @@
 #include "formats/empire_data_file.h"
 #include "formats/game_files.h"
 #include "formats/race_colour_file.h"
-#include "loading/load_game.h"
 #include "model/text.h"
 #include "paint/picture_file.h"
 #include "screens/main_texts.h"
@@ -23,7 +22,6 @@
 #include "ui/find_planet.h"
 #include "ui/grid.h"
 #include "ui/legend.h"
-#include "ui/long_step.h"
 #include "ui/main_window.h"
 #include "ui/manual.h"
 #include "ui/map_navigator.h"
@@ -54,34 +52,11 @@ void Main::mnuMap_Click() {
     openFile_ = std::make_unique<OpenFile>(open_, prompts_, this);
     RememberPlace(*openFile_, preferences_);
   }
+  open_.RecentFolders = memories_.Folders();
+  if (offered_) openFile_->ShowChoice(*std::exchange(offered_, {}));
   openFile_->exec();
   if (open_.OpenDialogResult != 0) return;
   LoadChosenGame();
-}
-
-void Main::LoadChosenGame() {
-  const bool wasEnabled = Menu.mnuOver->isEnabled();
-  Menu.mnuOver->setEnabled(false);
-  repaint();
-  Result<GameSession> loaded = RunLoad();
-  const bool isStopped = loaded.Message() == kLoadingStopped;
-  ShowWhetherStopped(isStopped, kLoadingStopped);
-  if (!loaded) {
-    Menu.mnuOver->setEnabled(wasEnabled);
-    ProgressBar1->setValue(0);
-    if (!isStopped) prompts_.Inform(loaded.Message());
-    return;
-  }
-  session_ = std::move(*loaded);
-  ShowLoadedGame();
-  if (!session_.OwnersWithoutRecord.empty()) {
-    prompts_.Inform(LeftOutMessage(session_.OwnersWithoutRecord));
-  }
-}
-
-Result<GameSession> Main::RunLoad() {
-  LongStep step(*ProgressBar1);
-  return LoadGame(open_.Choice, session_.MyRaceName, step.Display());
 }
 
 void Main::ShowLoadedGame() {
@@ -101,6 +76,10 @@ void Main::ShowLoadedGame() {
   Menu.mnuData->setEnabled(true);
   Map->ShowHint(!Overlays->Switches().ShowsAnything());
   ShowKey();
+  surveys_ = {};
+  SurveyReports();
+  ShowNews();
+  EnableGameCommands();
 }
 
 // Every load begins with a blank map and all overlays released.
@@ -152,6 +131,7 @@ void Main::mnuGrid_Click() {
 void Main::mnuGrid2_Click() {
   EmpireStat statistics(session_, prompts_, this);
   RememberPlace(statistics, preferences_);
+  connect(&statistics, &EmpireStat::Saved, this, [this] { saved_.TakeRaces(session_); });
   statistics.exec();
 }
 
@@ -187,13 +167,13 @@ void Main::mnuSave_Click() {
 void Main::mnuSaveRaceC_Click() {
   if (!session_.IsLoaded()) return prompts_.Inform(kNothingToSave);
   const Result<void> saved = WriteRaceColourFile(session_);
+  if (saved) saved_.TakeColours(session_);
   prompts_.Inform(saved ? SavedRacesMessage("Current Colour settings saved", session_)
                         : saved.Message());
 }
 
 void Main::mnuExit_Click() {
-  close();
-  QApplication::quit();
+  if (close()) QApplication::quit();
 }
 
 }  // namespace quorvane

@@ -16,6 +16,7 @@
 #include "ui/map_navigator.h"
 #include "ui/map_panel.h"
 #include "ui/overlay_bar.h"
+#include "ui/reports_dock.h"
 #include "ui/texts.h"
 
 namespace quorvane {
@@ -50,6 +51,15 @@ void Main::BuildDocks() {
           &Main::ViewKeepDestination_Click);
   connect(DistancesDock, &quorvane::DistancesDock::ForgetAsked, this,
           [this] { KeepDestination(0); });
+  ReportsDock = new quorvane::ReportsDock(this);
+  AddDock(*ReportsDock, *Menu.GameReports);
+  connect(ReportsDock->toggleViewAction(), &QAction::toggled, this, &Main::SurveyReports);
+  connect(ReportsDock, &quorvane::ReportsDock::Ticked, this, &Main::ReportsDock_Ticked);
+  connect(ReportsDock, &quorvane::ReportsDock::YearTyped, this, &Main::ReportsDock_YearTyped);
+  connect(&surveyor_, &ReportSurveyor::Found, this, [this](const ReportSurveys& surveys) {
+    surveys_ = surveys;
+    ShowReports();
+  });
 }
 
 // The menu item opens and closes the dock, and tells whether it is open.
@@ -67,14 +77,16 @@ void Main::AddDock(QDockWidget& dock, QAction& item) {
 // The empty place beside the map, between the legend and the details, on the screen.
 QRect Main::PlaceOfFloatingDock() const {
   constexpr int kGap = 8;
-  constexpr int kStep = 24;  // so that a second dock leaves the title of the first one in sight
+  constexpr int kStep = 24;  // so that each dock leaves the titles of the others in sight
   const QRect swatch = RaceLegend->RaceC[kLegendRows - 1]->geometry();
   const QRect details = Detail->geometry();
   const QRect place(QPoint(details.left(), swatch.bottom() + kGap),
                     QPoint(details.right(), details.top() - kGap));
-  const bool isTaken = (KeyDock->isVisible() && KeyDock->isFloating()) ||
-                       (DistancesDock->isVisible() && DistancesDock->isFloating());
-  return place.translated(area_->mapToGlobal(QPoint()) + (isTaken ? QPoint(0, kStep) : QPoint()));
+  const QList<QDockWidget*> docks = findChildren<QDockWidget*>();
+  const auto taken = std::ranges::count_if(
+      docks, [](const QDockWidget* dock) { return dock->isVisible() && dock->isFloating(); });
+  return place.translated(area_->mapToGlobal(QPoint()) +
+                          QPoint(0, kStep * static_cast<int>(taken)));
 }
 
 // A dock that was never placed takes the room beside the map and its details; where there is none

@@ -16,6 +16,7 @@
 #include "ui/map_navigator.h"
 #include "ui/map_panel.h"
 #include "ui/overlay_bar.h"
+#include "ui/overlay_sets_menu.h"
 #include "ui/race_colour.h"
 #include "ui/texts.h"
 
@@ -60,8 +61,7 @@ void Main::ViewOption_Click() {
   preferences.Map = {.OutlineNames = Menu.ViewOutlineNames->isChecked(),
                      .FewerNames = Menu.ViewFewerNames->isChecked(),
                      .GatesOfSelectedOnly = Menu.ViewGatesOfSelected->isChecked()};
-  preferences_.Keep(preferences);
-  TellFault();
+  KeepPreferences(preferences);
   if (session_.IsLoaded()) Repaint();
 }
 
@@ -73,14 +73,26 @@ void Main::ShowFullView() {
   Map->PlaceSelector();
 }
 
-// Some overlays depend on which planet is selected.
-void Main::Selection_Changed() {
+void Main::ShowSelection() {
   Map->PlaceSelector();
+  ShowMarkerNumber();
   Navigator->EnableCommands();
   ShowNearest();
   ShowDistances();
+}
+
+// Some overlays depend on which planet is selected.
+void Main::Selection_Changed() {
+  ShowSelection();
   const MapOptions& options = preferences_.Values().Map;
   if (session_.IsLoaded() && (options.FewerNames || options.GatesOfSelectedOnly)) Repaint();
+}
+
+// Whose planet is selected can be read, however alike two colours are to an eye.
+void Main::ShowMarkerNumber() {
+  const int planet = SelectedPlanet(state_, session_);
+  const bool isTold = preferences_.Values().NumbersInLegend && planet > 0;
+  Map->ShowMarkerNumber(isTold ? session_.FindPlayerByName(session_.Planet(planet).Owner()) : 0);
 }
 
 void Main::Combo1_Click() {
@@ -138,9 +150,7 @@ void Main::RaceC_Click(int index) {
   RaceColour dialog(session_, index, slot, ToQString(race), this);
   RememberPlace(dialog, preferences_);
   if (dialog.exec() == QDialog::Accepted) RaceLegend->ShowChangedColour(session_, index);
-  state_.BordersCached = 0;
-  Map->Universe2->Surface().Clear();
-  DrawOverlays();
+  ShowNewColours();
 }
 
 void Main::DrawOverlays() {
@@ -158,6 +168,44 @@ void Main::DrawOverlays() {
   PaintMap(redraw.Switches);
   if (hasDrawing) Detail->Tools->SelectColour(1);
   Navigator->Visit();
+  ShowSets();
+}
+
+void Main::ShowSets() {
+  sets_->ShowLit(Overlays->Switches(), session_.ReportStyle == kNewReportStyle,
+                 Menu.mnuOver->isEnabled());
+}
+
+// All buttons and items of the set are pressed in one redraw.
+void Main::ViewSet_Choose(int index) {
+  if (!Menu.mnuOver->isEnabled()) return;
+  {
+    const QScopedValueRollback noRedraw(isDrawing_, true);
+    const OverlaySet& set = preferences_.Values().Sets.at(static_cast<std::size_t>(index));
+    Overlays->Show(SwitchesFor(set, Overlays->Switches(), session_.ReportStyle == kNewReportStyle));
+  }
+  DrawOverlays();
+}
+
+void Main::ViewSaveSet_Click() {
+  const auto name = prompts_.AskText("Save as Set", "Name of the set:", "");
+  if (!name) return;
+  Preferences preferences = preferences_.Values();
+  const Result<void> saved = SaveAsSet(preferences.Sets, *name, Overlays->Switches());
+  if (!saved) return prompts_.Inform(saved.Message());
+  KeepSets(preferences);
+}
+
+void Main::ViewRemoveSet_Click(int index) {
+  Preferences preferences = preferences_.Values();
+  preferences.Sets.erase(preferences.Sets.begin() + index);
+  KeepSets(preferences);
+}
+
+void Main::KeepSets(const Preferences& preferences) {
+  KeepPreferences(preferences);
+  sets_->ShowSets(preferences.Sets);
+  ShowSets();
 }
 
 // A map that gets another size meanwhile is painted again.

@@ -88,6 +88,7 @@ MapPanel::MapPanel(QWidget& area, const MapState& state)
   WayLine = new LineShape(*Universe, "WayLine");
   WayLine->AddDarkSides();
   WayLength = NewNote("WayLength", *Universe);
+  MarkerNumber = NewNote("MarkerNumber", *Universe);
   CurrentSelected = new SquareShape(*Universe, "CurrentSelected");
   CurrentSelected->AddDarkSides();
   ZoomBox = new SquareShape(*Universe, "ZoomBox");
@@ -159,6 +160,24 @@ void MapPanel::PlaceSelector() {
       MarkerAround(state_.View, state_.SelectedX, state_.SelectedY);
   CurrentSelected->setVisible(marker.has_value());
   if (marker) CurrentSelected->Place({marker->Left, marker->Top}, marker->Side);
+  PlaceMarkerNumber();
+}
+
+void MapPanel::ShowMarkerNumber(int race) {
+  MarkerNumber->setText(race > 0 ? QString::number(race) : QString());
+  PlaceMarkerNumber();
+}
+
+// Right of the marker, or left of it where the map ends there.
+void MapPanel::PlaceMarkerNumber() {
+  MarkerNumber->setVisible(!CurrentSelected->isHidden() && !MarkerNumber->text().isEmpty());
+  MarkerNumber->adjustSize();
+  const QRect marker = CurrentSelected->geometry();
+  const int right = marker.right() + 1;
+  const bool isRoom = right + MarkerNumber->width() <= Universe->width();
+  MarkerNumber->move(isRoom ? right : marker.left() - MarkerNumber->width(),
+                     std::clamp(marker.center().y() - MarkerNumber->height() / 2, 0,
+                                std::max(Universe->height() - MarkerNumber->height(), 0)));
 }
 
 void MapPanel::Timer1_Timer() {
@@ -172,6 +191,7 @@ void MapPanel::Timer1_Timer() {
 void MapPanel::Universe_Resize() {
   Universe2->Surface().Resize(Universe->size(), Universe->devicePixelRatioF());
   PlaceHint();
+  PlaceMarkerNumber();
   emit Resized();
 }
 

@@ -34,6 +34,8 @@ class MapPanel : public QObject {
   /// @param length  what is told of its length
   void ShowWay(const std::optional<std::pair<StoredPoint, StoredPoint>>& ends,
                const QString& length);
+  /// Shows a race's number beside the selection marker; 0: none.
+  void ShowMarkerNumber(int race);
   void ShowHint(bool isShown);
   /// Places the selection marker around the selected planet, or hides it where there is nothing to
   /// mark.
@@ -50,6 +52,8 @@ class MapPanel : public QObject {
   QLabel* MapHint = nullptr;
   /// The selection marker.
   SquareShape* CurrentSelected = nullptr;
+  /// Whose planet the marker is around.
+  QLabel* MarkerNumber = nullptr;
   /// Animates the marker.
   QTimer* Timer1 = nullptr;
 
@@ -61,6 +65,7 @@ class MapPanel : public QObject {
   void Universe_Resize();
   void Timer1_Timer();
   void PlaceHint();
+  void PlaceMarkerNumber();
 
   const MapState& state_;
 };

@@ -33,6 +33,21 @@ bool MessageBoxPrompts::AskYesNo(const std::string& title, const std::string& qu
   return box.exec() == QMessageBox::Yes;
 }
 
+SaveAnswer MessageBoxPrompts::AskSave(const std::string& question) {
+  QMessageBox box(QMessageBox::Question, kProgramName, "",
+                  QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, Parent());
+  SetText(box, question);
+  box.setDefaultButton(QMessageBox::Save);
+  switch (box.exec()) {
+    case QMessageBox::Save:
+      return SaveAnswer::Save;
+    case QMessageBox::Discard:
+      return SaveAnswer::Discard;
+    default:
+      return SaveAnswer::Cancel;
+  }
+}
+
 std::optional<std::string> MessageBoxPrompts::AskText(const std::string& title,
                                                       const std::string& prompt,
                                                       const std::string& preset) {

@@ -13,6 +13,7 @@ class MessageBoxPrompts : public Prompts {
 
   void Inform(const std::string& text) override;
   bool AskYesNo(const std::string& title, const std::string& question) override;
+  SaveAnswer AskSave(const std::string& question) override;
   std::optional<std::string> AskText(const std::string& title, const std::string& prompt,
                                      const std::string& preset) override;
 

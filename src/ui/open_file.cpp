@@ -4,13 +4,19 @@
 #include <QDir>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QSignalBlocker>
+#include <QUrl>
 #include <QVBoxLayout>
 
 #include "files/files.h"
 #include "formats/dialog_files.h"
 #include "formats/game_files.h"
 #include "loading/report_finder.h"
+#include "model/field_value.h"
 #include "screens/open_checks.h"
+#include "screens/typed_path.h"
 #include "ui/controls.h"
 #include "ui/file_chooser.h"
 #include "ui/icons.h"
@@ -68,14 +74,30 @@ void OpenFile::Build() {
 void OpenFile::AddFileChooser(QBoxLayout& column) {
   QLabel* heading = NewLabel("Label3", "Choose a MAP file:", this);
   Drive1 = Named(new DriveList(this), "Drive1", tr("Drive"));
+  QBoxLayout* pathRow = NewPathRow();
   Dir1 = Named(new FolderList(this), "Dir1", tr("Folder"));
   NameBox(*Drive1, tr("Drive"));
   File1 = Named(new ChoiceList(this), "File1", tr("Map files"));
   heading->setBuddy(File1);
   column.addWidget(heading);
   column.addWidget(Drive1);
+  column.addLayout(pathRow);
   column.addWidget(Dir1, 3);
   column.addWidget(File1, 2);
+}
+
+QBoxLayout* OpenFile::NewPathRow() {
+  auto* row = new QHBoxLayout();
+  FolderPath = Named(new QLineEdit(this), "FolderPath", tr("Path of the folder"));
+  FolderPath->setToolTip(tr("Type or paste the path of a folder or a map, and press Enter"));
+  FolderPath->installEventFilter(this);
+  RecentFolders = NewButton("RecentFolders", tr("Recent"), this);
+  RecentFolders->setAutoDefault(false);
+  recent_ = new QMenu(RecentFolders);
+  RecentFolders->setMenu(recent_);
+  row->addWidget(FolderPath, 1);
+  row->addWidget(RecentFolders);
+  return row;
 }
 
 void OpenFile::AddReports(QBoxLayout& column) {
@@ -102,16 +124,25 @@ void OpenFile::AddReports(QBoxLayout& column) {
   PLALabelText->hide();
 }
 
-void OpenFile::AddSettings(QBoxLayout& column) {
-  auto* yearRow = new QHBoxLayout();
-  QLabel* yearLabel = NewLabel("Label2", "Current Game Year:", this);
+QBoxLayout* OpenFile::NewYearRow() {
+  auto* row = new QHBoxLayout();
+  QLabel* label = NewLabel("Label2", "Current Game Year:", this);
   txtGameYear = Named(new QLineEdit(this), "txtGameYear", tr("Current game year"));
   txtGameYear->setFixedWidth(80);
-  yearLabel->setBuddy(txtGameYear);
-  yearRow->addWidget(yearLabel);
-  yearRow->addWidget(txtGameYear);
-  yearRow->addStretch(1);
-  column.addLayout(yearRow);
+  label->setBuddy(txtGameYear);
+  OfferedYear = NewButton("OfferedYear", "", this);
+  OfferedYear->setToolTip(tr("Take this year, which the game's own file tells"));
+  OfferedYear->setAutoDefault(false);
+  OfferedYear->hide();
+  row->addWidget(label);
+  row->addWidget(txtGameYear);
+  row->addWidget(OfferedYear);
+  row->addStretch(1);
+  return row;
+}
+
+void OpenFile::AddSettings(QBoxLayout& column) {
+  column.addLayout(NewYearRow());
 
   auto* frame = new QGroupBox("Sphere of Influence Setting", this);
   frame->setObjectName("Frame1");
@@ -152,9 +183,12 @@ void OpenFile::AddButtons(QBoxLayout& column) {
 void OpenFile::ConnectControls() {
   connect(Drive1, &QComboBox::currentIndexChanged, this, &OpenFile::Drive1_Change);
   connect(Dir1, &FolderList::FolderChanged, this, &OpenFile::Dir1_Change);
-  connect(Dir1, &FolderList::FolderRefused, this, [this](const QString& folder) {
-    prompts_.Inform(ToText(tr("The folder %1 cannot be opened.").arg(folder)));
-  });
+  connect(Dir1, &FolderList::FolderRefused, this, &OpenFile::RefuseFolder);
+  connect(recent_, &QMenu::aboutToShow, this, &OpenFile::RecentFolders_Show);
+  connect(OfferedYear, &QPushButton::clicked, this, &OpenFile::OfferedYear_Click);
+  for (const QRadioButton* player : Rows->Player) {
+    connect(player, &QRadioButton::toggled, this, &OpenFile::ShowOfferedYear);
+  }
   connect(File1, &ChoiceList::Chosen, this, &OpenFile::File1_Click);
   connect(RemRace, &QPushButton::clicked, this, &OpenFile::RemRace_Click);
   connect(SaveYears, &QPushButton::clicked, this, &OpenFile::SaveYears_Click);
@@ -186,6 +220,9 @@ void OpenFile::Dir1_Change() {
     auto* item = new QListWidgetItem(PathText(name), File1);
     item->setData(kPathRole, QVariant::fromValue(name));  // which its text may not tell
   }
+  ShowFolderPath();
+  stamps_.clear();
+  ShowOfferedYear();
   state_.Choice.MapDirectory = " ";
   Command1->setEnabled(false);
   SaveYears->setEnabled(false);
@@ -195,27 +232,136 @@ void OpenFile::Dir1_Change() {
 }
 
 void OpenFile::File1_Click() {
-  const QListWidgetItem* map = File1->currentItem();
-  if (map == nullptr) return;
-  Command1->setEnabled(true);
-  RemRace->show();
-  ChooseMap(state_.Choice, Dir1->Folder() / map->data(kPathRole).value<std::filesystem::path>());
-  state_.StarsInstallDir = state_.Choice.MapDirectory;
   const auto askForNewStyle = [this] {
     return prompts_.AskYesNo("Map Error",
                              "PLA and P?? files have both been found for this map.\r\n\r\n"
                              "Import New style P?? files? (NO will import PLA file)");
   };
-  if (!FindReportFiles(state_.Choice, ToText(txtGameYear->text()), askForNewStyle)) {
-    prompts_.Inform("No Player files found for this map");
-    return;
+  if (!ShowMap(askForNewStyle)) prompts_.Inform("No Player files found for this map");
+}
+
+// Shows the map that is chosen in the list. @return false for one without reports
+bool OpenFile::ShowMap(const AskForNewStyle& ask) {
+  const QListWidgetItem* map = File1->currentItem();
+  if (map == nullptr) return true;
+  Command1->setEnabled(true);
+  RemRace->show();
+  ChooseMap(state_.Choice, Dir1->Folder() / map->data(kPathRole).value<std::filesystem::path>());
+  state_.StarsInstallDir = state_.Choice.MapDirectory;
+  stamps_ = StampGameFiles(state_.Choice.MapFilePath);
+  const bool areFound = FindReportFiles(state_.Choice, ToText(txtGameYear->text()), ask);
+  if (areFound) {
+    ClearReports();
+    if (state_.Choice.ReportStyle == kNewReportStyle) {
+      ShowNewReports();
+    } else {
+      ShowOldReport();
+    }
   }
-  ClearReports();
-  if (state_.Choice.ReportStyle == kNewReportStyle) {
-    ShowNewReports();
-  } else {
-    ShowOldReport();
+  ShowOfferedYear();
+  return areFound;
+}
+
+// Makes a map of the folder the current one of the list, without choosing it yet.
+bool OpenFile::SelectMap(const std::filesystem::path& map) {
+  const QSignalBlocker noChoice(File1);
+  for (int row = 0; row < File1->count(); ++row) {
+    if (File1->item(row)->data(kPathRole).value<std::filesystem::path>() != map) continue;
+    File1->setCurrentRow(row);
+    return true;
   }
+  return false;
+}
+
+void OpenFile::ShowChoice(const GameChoice& accepted) {
+  if (!ShowFolder(accepted.MapFilePath.parent_path())) return;
+  if (!SelectMap(accepted.MapFilePath.filename())) return;
+  const QString gameYear = accepted.GameYear != 0 ? QString::number(accepted.GameYear) : "";
+  txtGameYear->setText(gameYear);
+  txtSOI->setText(QString::number(accepted.SoiSetting));
+  const bool isNew = accepted.ReportStyle == kNewReportStyle;
+  if (!ShowMap([isNew] { return isNew; }) || state_.Choice.ReportStyle != kNewReportStyle) return;
+  for (int row = 1; row <= kMaxPlayers; ++row) {
+    const auto index = static_cast<std::size_t>(row);
+    const ReportFileSlot& report = accepted.ReportFiles[index];
+    if (!Rows->IsShown(row) || report.Path.empty()) continue;
+    Rows->Check1[index]->setChecked(FieldValue(report.Included).ReadsAs(1));
+    // An empty box stands for the game's year.
+    const QString year = ToQString(report.Year);
+    Rows->TxtPxYear[index]->setText(year == gameYear ? QString() : year);
+  }
+  if (!Rows->IsShown(accepted.MyRaceRow)) return;
+  Rows->Player[static_cast<std::size_t>(accepted.MyRaceRow)]->setChecked(true);
+}
+
+bool OpenFile::ShowFolder(const std::filesystem::path& folder) {
+  if (!Dir1->ShowFolder(folder)) return false;
+  Drive1->SelectDriveOf(Dir1->Folder());
+  return true;
+}
+
+void OpenFile::RefuseFolder(const QString& folder) {
+  prompts_.Inform(ToText(tr("The folder %1 cannot be opened.").arg(folder)));
+}
+
+void OpenFile::ShowFolderPath() {
+  FolderPath->setText(QDir::toNativeSeparators(PathText(Dir1->Folder())));
+}
+
+// A folder, or a map, which is chosen then.
+void OpenFile::FolderPath_Enter() {
+  const QString typed = FolderPath->text().trimmed();
+  const QUrl url(typed);
+  const std::string text = ToText(url.isLocalFile() ? url.toLocalFile() : typed);
+  const std::filesystem::path path = TypedPath(text, Dir1->Folder(), ToPath(QDir::homePath()));
+  const auto map = FindFile(path);
+  if (!ShowFolder(map ? map->parent_path() : path)) {
+    FolderPath->selectAll();
+    return RefuseFolder(typed);
+  }
+  if (!map || !SelectMap(map->filename())) return;
+  File1->setFocus();
+  File1_Click();
+}
+
+void OpenFile::RecentFolders_Show() {
+  recent_->clear();
+  for (const std::filesystem::path& folder : state_.RecentFolders) {
+    const QString text = QDir::toNativeSeparators(PathText(folder));
+    connect(recent_->addAction(WithoutAccessKeys(text)), &QAction::triggered, this,
+            [this, folder, text] {
+              if (!ShowFolder(folder)) RefuseFolder(text);
+            });
+  }
+}
+
+void OpenFile::ShowOfferedYear() {
+  const std::optional<YearOffer> offer = OfferYear(stamps_, state_.Choice);
+  OfferedYear->setVisible(offer.has_value());
+  if (!offer) return;
+  OfferedYear->setProperty("year", offer->Year);
+  OfferedYear->setText(
+      WithoutAccessKeys(tr("%1, from %2").arg(offer->Year).arg(PathText(offer->File))));
+}
+
+void OpenFile::OfferedYear_Click() {
+  txtGameYear->setText(OfferedYear->property("year").toString());
+  txtGameYear->setFocus();
+}
+
+// Enter is the path's own: the dialog would take it for its button. Half a path that is left is
+// none.
+bool OpenFile::eventFilter(QObject* target, QEvent* event) {
+  if (target == FolderPath && event->type() == QEvent::FocusOut && !FolderPath->hasSelectedText()) {
+    ShowFolderPath();
+  }
+  if (target != FolderPath || event->type() != QEvent::KeyPress) {
+    return QDialog::eventFilter(target, event);
+  }
+  const int key = static_cast<QKeyEvent*>(event)->key();
+  if (key != Qt::Key_Return && key != Qt::Key_Enter) return false;
+  FolderPath_Enter();
+  return true;
 }
 
 void OpenFile::ClearReports() {
@@ -303,6 +449,7 @@ void OpenFile::reject() {
 
 void OpenFile::showEvent(QShowEvent* event) {
   if (!event->spontaneous()) File1->setFocus();
+  RecentFolders->setEnabled(!state_.RecentFolders.empty());
   QDialog::showEvent(event);
 }
 

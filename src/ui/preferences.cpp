@@ -20,11 +20,19 @@ constexpr const char* kFormatKey = "Format";
 
 struct Switch {
   const char* Key;
-  bool MapOptions::*Value;
+  bool* Value;
 };
-constexpr Switch kSwitches[] = {{"Map/OutlineNames", &MapOptions::OutlineNames},
-                                {"Map/FewerNames", &MapOptions::FewerNames},
-                                {"Map/GatesOfSelectedOnly", &MapOptions::GatesOfSelectedOnly}};
+
+std::vector<Switch> SwitchesOf(Preferences& values) {
+  return {{"Map/OutlineNames", &values.Map.OutlineNames},
+          {"Map/FewerNames", &values.Map.FewerNames},
+          {"Map/GatesOfSelectedOnly", &values.Map.GatesOfSelectedOnly},
+          {"Map/NumbersInLegend", &values.NumbersInLegend},
+          {"Start/ReopenLastGame", &values.ReopenAtStart},
+          {"Start/ReloadByItself", &values.ReloadByItself}};
+}
+
+constexpr const char* kSets = "OverlaySets";
 
 QString PlaceKey(const QString& window) { return "Places/" + window; }
 
@@ -81,9 +89,22 @@ void PreferencesFile::Open(const QString& path) {
     fault_ = {"Preferences of a newer version",
               "The preferences were written by a newer version and stay as they are: " + path};
   }
-  for (const auto& [key, value] : kSwitches) {
+  Read();
+}
+
+void PreferencesFile::Read() {
+  for (const auto& [key, value] : SwitchesOf(values_)) {
     const QString kept = settings_->value(key).toString();
-    if (kept == "true" || kept == "false") values_.Map.*value = kept == "true";
+    if (kept == "true" || kept == "false") *value = kept == "true";
+  }
+  const QMap<QString, QString> sets = TextsOf(kSets);
+  if (!sets.isEmpty()) values_.Sets.clear();
+  for (const QString& set : sets) {
+    // The overlays' names have no line break; the name may hold anything else.
+    const qsizetype end = set.indexOf('\n');
+    if (end < 0) continue;
+    static_cast<void>(
+        SaveAsSet(values_.Sets, ToText(set.mid(end + 1)), OverlaysFromText(ToText(set.left(end)))));
   }
 }
 
@@ -103,8 +124,16 @@ void PreferencesFile::SetAside(const QString& path) {
 }
 
 void PreferencesFile::Keep(const Preferences& values) {
+  const bool areSetsNew = values_.Sets != values.Sets;
   values_ = values;
-  for (const auto& [key, value] : kSwitches) Write(key, values.Map.*value);
+  for (const auto& [key, value] : SwitchesOf(values_)) Write(key, *value);
+  if (!areSetsNew) return;
+  QMap<QString, QString> sets = {{"Count", QString::number(values_.Sets.size())}};
+  for (const OverlaySet& set : values_.Sets) {
+    sets[QString::number(sets.size())] =
+        ToQString(OverlaysText(set.Switches)) + "\n" + ToQString(set.Name);
+  }
+  KeepTexts(kSets, sets);
 }
 
 QByteArray PreferencesFile::PlaceOf(const QString& window) const {
@@ -117,8 +146,34 @@ void PreferencesFile::KeepPlace(const QString& window, const QByteArray& place) 
 
 void PreferencesFile::Write(const QString& key, const QVariant& value) {
   if (!isKept_ || settings_->value(key) == value) return;
-  settings_->setValue(kFormatKey, kFormat);
   settings_->setValue(key, value);
+  Finish();
+}
+
+QStringList PreferencesFile::Groups() const {
+  return settings_ == nullptr ? QStringList() : settings_->childGroups();
+}
+
+QMap<QString, QString> PreferencesFile::TextsOf(const QString& group) const {
+  QMap<QString, QString> texts;
+  if (settings_ == nullptr) return texts;
+  settings_->beginGroup(group);
+  for (const QString& key : settings_->childKeys()) texts[key] = settings_->value(key).toString();
+  settings_->endGroup();
+  return texts;
+}
+
+void PreferencesFile::KeepTexts(const QString& group, const QMap<QString, QString>& texts) {
+  if (!isKept_ || TextsOf(group) == texts) return;
+  settings_->remove(group);
+  for (auto text = texts.begin(); text != texts.end(); ++text) {
+    settings_->setValue(group + "/" + text.key(), text.value());
+  }
+  Finish();
+}
+
+void PreferencesFile::Finish() {
+  settings_->setValue(kFormatKey, kFormat);
   settings_->sync();
   if (settings_->status() != QSettings::AccessError) return;
   isKept_ = false;

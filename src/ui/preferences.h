@@ -1,12 +1,16 @@
 #pragma once
 
 #include <QByteArray>
+#include <QMap>
 #include <QString>
+#include <QStringList>
 #include <filesystem>
 #include <memory>
 #include <optional>
+#include <vector>
 
 #include "map/map_options.h"
+#include "map/overlay_sets.h"
 
 class QSettings;
 class QWidget;
@@ -16,6 +20,13 @@ namespace quorvane {
 /// What the user chose once for all games.
 struct Preferences {
   MapOptions Map = {.OutlineNames = true};
+  /// Whether the race's number stands on its swatch and beside the marker.
+  bool NumbersInLegend = false;
+  /// Whether a start shows the last game instead of the open dialog.
+  bool ReopenAtStart = false;
+  /// Whether a game whose files changed is loaded again without being asked.
+  bool ReloadByItself = false;
+  std::vector<OverlaySet> Sets = FirstOverlaySets();
 };
 
 /// Keeps the preferences, and the places of the windows, in a file. It is a helper: without it, or
@@ -36,6 +47,12 @@ class PreferencesFile {
   QByteArray PlaceOf(const QString& window) const;
   void KeepPlace(const QString& window, const QByteArray& place);
 
+  /// Groups of texts of other kinds: the names of all, what one holds, and one as it is from now
+  /// on; without texts it is forgotten.
+  QStringList Groups() const;
+  QMap<QString, QString> TextsOf(const QString& group) const;
+  void KeepTexts(const QString& group, const QMap<QString, QString>& texts);
+
   /// What went wrong: in a few words, and with the file.
   struct Fault {
     QString Words;
@@ -47,7 +64,9 @@ class PreferencesFile {
  private:
   void Open(const QString& path);
   void SetAside(const QString& path);
+  void Read();
   void Write(const QString& key, const QVariant& value);
+  void Finish();
 
   Preferences values_;
   std::unique_ptr<QSettings> settings_;

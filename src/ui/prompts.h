@@ -5,6 +5,9 @@
 
 namespace quorvane {
 
+/// What becomes of changes that are not saved.
+enum class SaveAnswer { Save, Discard, Cancel };
+
 /// How windows talk to the user. The program shows message boxes; tests answer from a script.
 class Prompts {
  public:
@@ -13,6 +16,8 @@ class Prompts {
   virtual void Inform(const std::string& text) = 0;
   /// Asks with Yes and No buttons. @return whether the answer was Yes
   virtual bool AskYesNo(const std::string& title, const std::string& question) = 0;
+  /// Asks with Save, Discard and Cancel buttons, before changes would be lost.
+  virtual SaveAnswer AskSave(const std::string& question) = 0;
   /// Asks for one line of text. @param preset the answer to start from
   /// @return nothing when the user cancelled or left the answer empty
   virtual std::optional<std::string> AskText(const std::string& title, const std::string& prompt,

@@ -33,6 +33,10 @@ QPushButton:default { background: #3d6ea5; border-color: #6fa0d8; color: #ffffff
 QPushButton:focus { border: 2px solid #ffffff; padding: 3px 11px; }
 QPushButton[attention="true"] { background: #8a5a14; border-color: #d89a3c; color: #ffffff; }
 QPushButton[attention="true"]:hover { background: #9c6819; }
+QPushButton::menu-indicator {
+  subcontrol-origin: padding; subcontrol-position: center right; right: 5px; bottom: 0px; }
+QPushButton#RecentFolders { padding-right: 20px; }
+QPushButton#RecentFolders:focus { padding-right: 19px; }
 QPushButton:disabled { background: #2f3541; border-color: #3a4250; color: #7a8495; }
 QTabWidget::pane { border: 1px solid #454e5f; top: -1px; background: #2b303b; }
 QTabBar::tab {
@@ -42,17 +46,18 @@ QTabBar::tab:selected { background: #3a4250; border-color: #55617a; }
 QTabBar::tab:selected:focus { border-color: #ffffff; }
 QTabWidget#Detail > QTabBar::tab { padding: 3px 5px; min-width: 20px; }
 QListWidget#ShowHideList::item { padding: 2px; }
-QRadioButton::indicator, QCheckBox::indicator, QListView::indicator {
+QRadioButton::indicator, QCheckBox::indicator, QListView::indicator, QTreeView::indicator {
   width: 13px; height: 13px; border: 1px solid #77829a; background: #1f232b; }
 QRadioButton::indicator { border-radius: 7px; }
-QCheckBox::indicator, QListView::indicator { border-radius: 3px; }
+QCheckBox::indicator, QListView::indicator, QTreeView::indicator { border-radius: 3px; }
 QRadioButton::indicator:checked { border-color: #8fb8e8; background: qradialgradient(
   cx: 0.5, cy: 0.5, radius: 0.5, fx: 0.5, fy: 0.5,
   stop: 0 #ffffff, stop: 0.5 #ffffff, stop: 0.62 #3d6ea5, stop: 1 #3d6ea5); }
-QCheckBox::indicator:checked, QListView::indicator:checked {
+QCheckBox::indicator:checked, QListView::indicator:checked, QTreeView::indicator:checked {
   border-color: #8fb8e8; background: #3d6ea5; image: url(:/icons/check.svg); }
 QRadioButton::indicator:focus, QCheckBox::indicator:focus { border-color: #ffffff; }
 QRadioButton::indicator:disabled, QCheckBox::indicator:disabled { border-color: #4a5366; }
+QTreeView::indicator:disabled { border-color: #4a5366; background: #3a4250; }
 QLabel[value="true"] { color: #ffffff; }
 QPushButton[range="true"] {
   color: #ffffff; background: #1f232b; border: 1px solid #505b6f; border-radius: 3px;
@@ -63,6 +68,8 @@ QPushButton[range="true"]:disabled { color: #7a8495; border-color: #3a4250; }
 QLabel[title="true"] { color: #ffffff; font-size: 15pt; }
 QLabel[heading="true"] { color: #9fb4d0; }
 QLabel[note="true"] { color: #b9c4d6; background: rgba(16, 19, 25, 190); padding: 2px 6px; }
+QFrame#ReloadBar { background: #2f3f55; border: none; border-bottom: 1px solid #6fa0d8; }
+QLabel#MarkerNumber { color: #ffffff; font-weight: bold; padding: 1px 4px; }
 QDockWidget {
   border: 1px solid #454e5f;
   titlebar-close-icon: url(:/icons/close.svg); titlebar-normal-icon: url(:/icons/float.svg); }

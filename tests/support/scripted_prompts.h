@@ -20,6 +20,10 @@ class ScriptedPrompts : public Prompts {
     shown_.push_back(title + ": " + question);
     return answer_;
   }
+  SaveAnswer AskSave(const std::string& question) override {
+    shown_.push_back(question);
+    return saveAnswer_;
+  }
   std::optional<std::string> AskText(const std::string& title, const std::string& prompt,
                                      const std::string& preset) override {
     shown_.push_back(title + ": " + prompt + " [" + preset + "]");
@@ -31,6 +35,8 @@ class ScriptedPrompts : public Prompts {
 
   /// Questions are answered so from now on; before, they are answered with no.
   void Answer(bool yes) { answer_ = yes; }
+  /// Questions whether to save are answered so from now on; before, changes are discarded.
+  void AnswerSave(SaveAnswer answer) { saveAnswer_ = answer; }
   /// The next text that is asked for; an empty one cancels, as every text without an answer does.
   void AnswerText(const std::string& text) { textAnswers_.push_back(text); }
   /// What was shown since this was last asked.
@@ -39,6 +45,7 @@ class ScriptedPrompts : public Prompts {
  private:
   Texts shown_;
   bool answer_ = false;
+  SaveAnswer saveAnswer_ = SaveAnswer::Discard;
   std::deque<std::string> textAnswers_;
 };
 

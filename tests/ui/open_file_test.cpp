@@ -5,12 +5,16 @@
 #include <QApplication>
 #include <QFocusEvent>
 #include <QListWidget>
+#include <QMenu>
 #include <QScreen>
+#include <tuple>
 
+#include "model/field_value.h"
 #include "support/game_folder.h"
 #include "support/scripted_prompts.h"
 #include "support/window_driver.h"
 #include "ui/file_chooser.h"
+#include "ui/texts.h"
 
 namespace quorvane {
 namespace {
@@ -140,6 +144,79 @@ TEST_F(OpenFileTest, TakesItsCloseBoxAsCancelAndStartsAfreshInAFolderThatIsThere
   EXPECT_EQ(state.OpenDialogResult, 1);
   EXPECT_TRUE(dialog.IsDiscarded());
   EXPECT_FALSE(OpenFile(state, prompts).Dir1->Folder().empty());
+}
+
+TEST_F(OpenFileTest, TakesTypedPathsAndRecentFolders) {
+  const QString path = PathText(folder.Path());
+  EXPECT_EQ(driver.Text("FolderPath"), path);
+  EXPECT_FALSE(driver.IsEnabled("RecentFolders"));
+  driver.Type("FolderPath", "Deeper").Press("FolderPath", Qt::Key_Return);
+  EXPECT_EQ(driver.Text("FolderPath"), path + "/Deeper");
+  driver.Type("FolderPath", "nowhere").Press("FolderPath", Qt::Key_Return);
+  EXPECT_EQ(prompts.Shown(), Texts{"The folder nowhere cannot be opened."});
+  EXPECT_EQ(dialog.Dir1->Folder(), folder / "Deeper");
+  driver.Type("FolderPath", "file://" + path + "/demo.map").Press("FolderPath", Qt::Key_Return);
+  EXPECT_EQ(state.Choice.MapFilePath, folder / "Demo.MAP");
+  EXPECT_TRUE(driver.IsVisible("Player(1)") && dialog.isVisible()) << "chosen and not loaded";
+  state.RecentFolders = {folder / "Deeper", folder / "gone"};
+  emit dialog.RecentFolders->menu()->aboutToShow();
+  const QList<QAction*> recent = dialog.RecentFolders->menu()->actions();
+  recent.at(1)->trigger();
+  EXPECT_EQ(prompts.Shown().size(), 1U);
+  recent.at(0)->trigger();
+  EXPECT_EQ(driver.Text("FolderPath"), path + "/Deeper");
+}
+
+TEST_F(OpenFileTest, OffersTheYearThatTheTurnFileOfTheChosenRaceTells) {
+  const auto turnFile = [](char turn) {
+    return std::string("\x10\x20J3J3\x01\x02\x03\x04\x60\x2A", 12) + turn + std::string(5, '\0');
+  };
+  folder.Write("demo.m1", turnFile(51));
+  folder.Write("Demo.M3", turnFile(50));
+  EXPECT_FALSE(driver.IsVisible("OfferedYear"));
+  driver.ClickEntry("File1", "Demo.MAP");
+  EXPECT_EQ(driver.Text("OfferedYear"), "2451, from demo.m1");
+  EXPECT_EQ(driver.Text("txtGameYear"), "") << "it is never typed by itself";
+  driver.Click("Player(3)");
+  EXPECT_EQ(driver.Text("OfferedYear"), "2450, from Demo.M3");
+  driver.Click("OfferedYear");
+  EXPECT_EQ(driver.Text("txtGameYear"), "2450");
+  driver.ClickEntry("File1", "Lonely.map");
+  EXPECT_FALSE(driver.IsVisible("OfferedYear"));
+}
+
+TEST_F(OpenFileTest, ShowsAnAcceptedChoiceSoThatItIsAcceptedAgain) {
+  folder.AddOldReport();
+  folder.Write("Demo.P4", "x");
+  prompts.Answer(true);
+  driver.ClickEntry("File1", "Demo.MAP").Click("Player(3)").Click("Check1(4)");
+  driver.Type("TxtPxYear(1)", "2449").Type("txtGameYear", "2450").Type("txtSOI", "120");
+  driver.Click("Command1");
+  const GameChoice accepted = state.Choice;
+  prompts.Shown();
+  OpenState other = {.StarsInstallDir = folder / "Deeper"};
+  OpenFile again(other, prompts);
+  again.ShowChoice(accepted);
+  again.show();
+  WindowDriver(again).Click("Command1");
+  EXPECT_EQ(prompts.Shown(), Texts());
+  EXPECT_EQ(other.OpenDialogResult, 0);
+  EXPECT_EQ(other.Choice.ReportStyle, kNewReportStyle);
+  EXPECT_EQ(std::tuple(other.Choice.MapFilePath, other.Choice.MyRaceRow, other.Choice.GameYear,
+                       other.Choice.SoiSetting),
+            std::tuple(accepted.MapFilePath, 3, 2450, 120));
+  for (std::size_t row = 1; row <= kMaxPlayers; ++row) {
+    const ReportFileSlot& report = other.Choice.ReportFiles[row];
+    EXPECT_EQ(report.Path, accepted.ReportFiles[row].Path);
+    EXPECT_EQ(report.Year, accepted.ReportFiles[row].Year) << row;
+    EXPECT_EQ(NumericValue(report.Included), NumericValue(accepted.ReportFiles[row].Included));
+  }
+  std::filesystem::remove(folder / "Demo.MAP");
+  OpenFile gone(other, prompts);
+  gone.ShowChoice(accepted);
+  EXPECT_EQ(gone.Dir1->Folder(), folder.Path());
+  EXPECT_FALSE(gone.Command1->isEnabled());
+  EXPECT_EQ(prompts.Shown(), Texts());
 }
 
 }  // namespace
