@@ -1,7 +1,6 @@
 #include "loading/settled_files.h"
 
 #include <algorithm>
-#include <ranges>
 
 namespace quorvane {
 
@@ -28,13 +27,13 @@ void SettledFiles::Look(const std::vector<GameFileStamp>& files, std::int64_t no
 }
 
 bool SettledFiles::IsAtRest() const {
-  return std::ranges::all_of(files_ | std::views::values,
-                             [](const Tracked& file) { return file.Settled == file.Seen; });
+  return std::ranges::all_of(
+      files_, [](const auto& file) { return file.second.Settled == file.second.Seen; });
 }
 
 std::vector<GameFileStamp> SettledFiles::Files() const {
   std::vector<GameFileStamp> settled;
-  for (const Tracked& file : files_ | std::views::values) {
+  for (const auto& [key, file] : files_) {
     if (file.Settled) settled.push_back(*file.Settled);
   }
   return settled;

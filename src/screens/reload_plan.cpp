@@ -120,9 +120,8 @@ std::vector<FileChange> FindChanges(const std::vector<GameFileStamp>& before,
 
 std::string DescribeChanges(std::vector<FileChange> changes, const GameChoice& game,
                             std::int64_t today) {
-  std::ranges::stable_sort(changes, {}, [&](const FileChange& change) {
-    return PlaceInNews(change.File, game);
-  });
+  std::ranges::stable_sort(
+      changes, {}, [&](const FileChange& change) { return PlaceInNews(change.File, game); });
   std::string text;
   for (const FileChange& change : changes) {
     if (!text.empty()) text += ", ";
@@ -159,6 +158,15 @@ ReloadPlan PlanReload(const GameChoice& loaded, const std::vector<GameFileStamp>
   if (isOwnNew && own > 0) plan.Years[Index(own)] = "";
   SetGameYear(plan, plan.GameYear);
   return plan;
+}
+
+RowYears TypedYears(const GameChoice& choice) {
+  RowYears years;
+  for (std::size_t row = 1; row <= kMaxPlayers; ++row) {
+    const std::string& year = choice.ReportFiles[row].Year;
+    if (year != YearText(choice.GameYear)) years[row] = year;
+  }
+  return years;
 }
 
 void SetGameYear(ReloadPlan& plan, const std::string& year) {

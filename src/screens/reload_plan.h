@@ -49,6 +49,10 @@ struct ReloadPlan {
 ReloadPlan PlanReload(const GameChoice& loaded, const std::vector<GameFileStamp>& before,
                       const std::vector<GameFileStamp>& now);
 
+/// The years that the open dialog's boxes would hold for a choice: an empty one stands for the
+/// game's year.
+RowYears TypedYears(const GameChoice& choice);
+
 /// Gives the game's year to a plan, and to the reports that it is offered for.
 void SetGameYear(ReloadPlan& plan, const std::string& year);
 

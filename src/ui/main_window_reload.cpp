@@ -122,9 +122,9 @@ void Main::ReportsDock_Ticked(int row, bool isIn) {
   SurveyReports();
 }
 
-// The year is kept for the open dialog, too.
+// The year is kept for the open dialog, too, with those of the other reports.
 void Main::ReportsDock_YearTyped(int row, const QString& year) {
-  RowYears years = LoadYearsFile(next_.YearsFilePath).value_or(RowYears());
+  RowYears years = LoadYearsFile(next_.YearsFilePath).value_or(TypedYears(next_));
   years.at(static_cast<std::size_t>(row)) = ToText(year);
   if (const Result<void> saved = SaveYearsFile(next_.YearsFilePath, years); !saved) {
     prompts_.Inform(saved.Message());

@@ -16,6 +16,7 @@
 #include "loading/report_finder.h"
 #include "model/field_value.h"
 #include "screens/open_checks.h"
+#include "screens/reload_plan.h"
 #include "screens/typed_path.h"
 #include "ui/controls.h"
 #include "ui/file_chooser.h"
@@ -276,19 +277,17 @@ bool OpenFile::SelectMap(const std::filesystem::path& map) {
 void OpenFile::ShowChoice(const GameChoice& accepted) {
   if (!ShowFolder(accepted.MapFilePath.parent_path())) return;
   if (!SelectMap(accepted.MapFilePath.filename())) return;
-  const QString gameYear = accepted.GameYear != 0 ? QString::number(accepted.GameYear) : "";
-  txtGameYear->setText(gameYear);
+  txtGameYear->setText(accepted.GameYear != 0 ? QString::number(accepted.GameYear) : "");
   txtSOI->setText(QString::number(accepted.SoiSetting));
   const bool isNew = accepted.ReportStyle == kNewReportStyle;
   if (!ShowMap([isNew] { return isNew; }) || state_.Choice.ReportStyle != kNewReportStyle) return;
+  const RowYears years = TypedYears(accepted);
   for (int row = 1; row <= kMaxPlayers; ++row) {
     const auto index = static_cast<std::size_t>(row);
     const ReportFileSlot& report = accepted.ReportFiles[index];
     if (!Rows->IsShown(row) || report.Path.empty()) continue;
     Rows->Check1[index]->setChecked(FieldValue(report.Included).ReadsAs(1));
-    // An empty box stands for the game's year.
-    const QString year = ToQString(report.Year);
-    Rows->TxtPxYear[index]->setText(year == gameYear ? QString() : year);
+    Rows->TxtPxYear[index]->setText(ToQString(years[index]));
   }
   if (!Rows->IsShown(accepted.MyRaceRow)) return;
   Rows->Player[static_cast<std::size_t>(accepted.MyRaceRow)]->setChecked(true);
