@@ -239,7 +239,7 @@ void Main::ConnectGameMenu() {
   connect(Menu.GameReload, &QAction::triggered, this, &Main::GameReload_Click);
   recent_ = new RecentGames(*Menu.GameRecent, *Menu.GameMenu, memories_);
   // The menu is filled anew when another game is opened, and is on its way up until then.
-  connect(recent_, &RecentGames::Chosen, this, &Main::GameRecent_Click, Qt::QueuedConnection);
+  connect(recent_, &RecentGames::Chosen, this, &Main::Open, Qt::QueuedConnection);
   connect(Menu.GameReopenAtStart, &QAction::triggered, this, &Main::GameOption_Click);
   connect(Menu.GameReloadByItself, &QAction::triggered, this, &Main::GameOption_Click);
   connect(Menu.GameColoursForEveryEye, &QAction::triggered, this,

@@ -121,7 +121,6 @@ class Main : public QMainWindow {
   void mnuSaveRaceC_Click();
   void mnuExit_Click();
   void GameReload_Click();
-  void GameRecent_Click(const std::filesystem::path& map);
   void GameOption_Click();
   void Watcher_Began(const std::filesystem::path& map, const GameWatcher::Stamps& files);
   void Watcher_Changed(const std::filesystem::path& map, const GameWatcher::Stamps& files);
@@ -156,7 +155,7 @@ class Main : public QMainWindow {
   bool Load(const GameChoice& choice, const std::optional<GameWatcher::Stamps>& since = {});
   Result<GameSession> RunLoad(const GameChoice& choice);
   void ShowLoadedGame();
-  bool Open(const GameMemory& game);
+  bool Open(const std::filesystem::path& map);
   void Reload(const GameChoice& choice);
   void ReloadByItself();
   void ShowNews();

@@ -35,7 +35,7 @@ void Main::OfferLastGame() {
 void Main::Begin() {
   const std::vector<GameMemory>& games = memories_.Games();
   const bool isReopened = preferences_.Values().ReopenAtStart && !games.empty();
-  if (!isReopened || !Open(GameMemory(games.front()))) mnuMap_Click();
+  if (!isReopened || !Open(games.front().Choice.MapFilePath)) mnuMap_Click();
 }
 
 // The game on screen stays until the new one is complete.
@@ -78,15 +78,18 @@ Result<GameSession> Main::RunLoad(const GameChoice& choice) {
   return LoadGame(choice, session_.MyRaceName, step.Display());
 }
 
-// Opens a game as it was left. What became of its files since is news.
-bool Main::Open(const GameMemory& game) {
+// Opens a remembered game as it was left. What became of its files since is news.
+bool Main::Open(const std::filesystem::path& map) {
   if (redraw_ != nullptr || !MayLeaveGame()) return false;
+  RememberShown();
+  const GameMemory* known = memories_.Find(map);
+  if (known == nullptr) return false;
+  const GameMemory game = *known;
   ReloadPlan plan = PlanReload(game.Choice, game.Files, game.Files);
   if (const std::string problem = AcceptReload(plan); !problem.empty()) {
     prompts_.Inform(problem);
     return false;
   }
-  RememberShown();
   const bool areFilesKnown = !game.Files.empty();
   if (!Load(plan.Choice, areFilesKnown ? std::optional(game.Files) : std::nullopt)) return false;
   offered_ = session_;
@@ -175,10 +178,6 @@ void Main::RememberShown() {
   game.Shown = Shown();
   memories_.Keep(game);
   TellFault();
-}
-
-void Main::GameRecent_Click(const std::filesystem::path& map) {
-  if (const GameMemory* game = memories_.Find(map)) Open(GameMemory(*game));
 }
 
 UnsavedChanges Main::Unsaved() const {

@@ -81,6 +81,7 @@ void Main::GameReload_Click() {
   files_ = watcher_.LookBeforeLoad(session_.MapFilePath).value_or(files_);
   ReloadPlan plan = PlanReload(next_, loadedFiles_, files_);
   const bool isToAsk = plan.IsOwnYearAsked && Bar->isHidden();
+  if (isToAsk) dismissed_.clear();
   if (isToAsk) ShowNews();
   if (!Bar->isHidden()) Bar->TakeYears(plan);
   if (isToAsk || (plan.IsOwnYearAsked && plan.GameYear.empty())) {
