@@ -140,6 +140,20 @@ TEST_F(PreferencesTest, AreKeptForTheNextStart) {
   EXPECT_EQ(main.Text("theplanet"), "");
 }
 
+TEST_F(PreferencesTest, OverlaySetsAreKeptWhateverTheirNames) {
+  Preferences values;
+  EXPECT_EQ(PreferencesFile(file).Values().Sets.size(), 6U);
+  values.Sets.resize(2);
+  values.Sets[1].Name = "=a, \"b\"\n%20;[c] \xC3\xA4";
+  values.NumbersInLegend = true;
+  PreferencesFile(file).Keep(values);
+  EXPECT_EQ(PreferencesFile(file).Values().Sets, values.Sets);
+  EXPECT_TRUE(PreferencesFile(file).Values().NumbersInLegend);
+  values.Sets.clear();
+  PreferencesFile(file).Keep(values);
+  EXPECT_TRUE(PreferencesFile(file).Values().Sets.empty()) << "all removed";
+}
+
 TEST_F(PreferencesTest, DamagedOnesAreKeptAsideAndToldOfOnce) {
   const std::string damaged = "[Map]\nFewerNames=true\n\x01\xff no value here\n[[[\n";
   folder.Write("quorvane.ini", damaged);

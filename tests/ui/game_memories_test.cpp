@@ -6,6 +6,7 @@
 #include <tuple>
 
 #include "formats/game_files.h"
+#include "support/write_faults.h"
 #include "ui/details_panel.h"
 #include "ui/main_window_fixture.h"
 #include "ui/overlay_bar.h"
@@ -114,6 +115,20 @@ TEST_F(GameMemoriesTest, NonsenseInThemIsPassedOver) {
   }
   preferences.KeepTexts("Game-0123456789abcdef", {{"Map", "elsewhere"}});
   EXPECT_EQ(GameMemories(preferences).Games().size(), 1U) << "no game has that name";
+}
+
+TEST_F(GameMemoriesTest, StayWholeOnAFullDisk) {
+  PreferencesFile preferences(File());
+  GameMemories memories(preferences);
+  memories.Keep(Memory(folder / "first.map", 1000));
+  const std::string before = folder.Read("quorvane.ini");
+  {
+    const FullDisk full(1);
+    memories.Keep(Memory(folder / "second.map", 1001));
+  }
+  EXPECT_EQ(folder.Read("quorvane.ini"), before);
+  ASSERT_TRUE(preferences.TakeFault());
+  EXPECT_EQ(memories.Games().size(), 2U) << "as long as the program runs";
 }
 
 // The program's window with a preferences file of its own.
