@@ -246,6 +246,9 @@ void Main::ConnectGameMenu() {
           [this] { UseColours(kEveryEyeColours); });
   connect(Menu.GameDefaultColours, &QAction::triggered, this,
           [this] { UseColours(kDefaultRaceColours); });
+  remember_.setSingleShot(true);
+  connect(&remember_, &QTimer::timeout, this, &Main::RememberShown);
+  connect(Detail, &QTabWidget::currentChanged, this, &Main::RememberSoon);
   connect(&watcher_, &GameWatcher::Began, this, &Main::Watcher_Began);
   connect(&watcher_, &GameWatcher::Changed, this, &Main::Watcher_Changed);
   connect(Bar, &ReloadBar::ReloadAsked, this, &Main::GameReload_Click);

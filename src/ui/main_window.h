@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QMainWindow>
 #include <QProgressBar>
+#include <QTimer>
 #include <filesystem>
 #include <memory>
 #include <optional>
@@ -163,6 +164,7 @@ class Main : public QMainWindow {
   void ShowAgain(const ShownState& shown);
   void RememberGame();
   void RememberShown();
+  void RememberSoon();
   UnsavedChanges Unsaved() const;
   bool MayLeaveGame();
   Result<void> SaveChanges(const UnsavedChanges& changes);
@@ -203,6 +205,7 @@ class Main : public QMainWindow {
   std::vector<FileChange> dismissed_;
   OverlaySetsMenu* sets_ = nullptr;
   RecentGames* recent_ = nullptr;
+  QTimer remember_;
   ReportSurveyor surveyor_;
   ReportSurveys surveys_;
   MapState state_;

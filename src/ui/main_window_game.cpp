@@ -4,6 +4,7 @@
 #include <QMenu>
 #include <QScopedValueRollback>
 #include <algorithm>
+#include <chrono>
 #include <utility>
 
 #include "formats/empire_data_file.h"
@@ -162,13 +163,16 @@ void Main::KeepPreferences(const Preferences& preferences) {
 
 void Main::RememberGame() {
   GameMemory game = {.Choice = session_, .Shown = Shown(), .Files = loadedFiles_};
-  // Until it is left, the game is shown next time as it was left last time.
-  const GameMemory* known = memories_.Find(session_.MapFilePath);
-  if (known != nullptr && !Overlays->Switches().ShowsAnything()) game.Shown = known->Shown;
   game.Opened = memories_.TimeOfOpening(QDateTime::currentSecsSinceEpoch());
   memories_.Keep(game);
   recent_->Fill();
   TellFault();
+}
+
+// Not every program is closed before it ends.
+void Main::RememberSoon() {
+  constexpr std::chrono::seconds kAfterLastAction(3);
+  remember_.start(kAfterLastAction);
 }
 
 void Main::RememberShown() {

@@ -54,6 +54,7 @@ void Main::Navigator_FrameDue() {
   Map->PlaceSelector();
   Map->ShowZoomBox();
   if (Navigator->Pointer()) Universe_MouseMove(*Navigator->Pointer());
+  RememberSoon();
 }
 
 void Main::ViewOption_Click() {
@@ -79,6 +80,7 @@ void Main::ShowSelection() {
   Navigator->EnableCommands();
   ShowNearest();
   ShowDistances();
+  RememberSoon();
 }
 
 // Some overlays depend on which planet is selected.
@@ -169,6 +171,7 @@ void Main::DrawOverlays() {
   if (hasDrawing) Detail->Tools->SelectColour(1);
   Navigator->Visit();
   ShowSets();
+  RememberSoon();
 }
 
 void Main::ShowSets() {
