@@ -28,6 +28,7 @@ namespace quorvane {
 namespace {
 
 constexpr QSize kFirstSize(820, 560);
+constexpr int kWidestOffer = 240;
 constexpr int kLeastRoom = 80;  // of the reports, which scroll
 // A map of the list: the name that its file has on the disk.
 constexpr int kPathRole = Qt::UserRole;
@@ -132,7 +133,6 @@ QBoxLayout* OpenFile::NewYearRow() {
   txtGameYear->setFixedWidth(80);
   label->setBuddy(txtGameYear);
   OfferedYear = NewButton("OfferedYear", "", this);
-  OfferedYear->setToolTip(tr("Take this year, which the game's own file tells"));
   OfferedYear->setAutoDefault(false);
   OfferedYear->hide();
   row->addWidget(label);
@@ -339,8 +339,10 @@ void OpenFile::ShowOfferedYear() {
   OfferedYear->setVisible(offer.has_value());
   if (!offer) return;
   OfferedYear->setProperty("year", offer->Year);
-  OfferedYear->setText(
-      WithoutAccessKeys(tr("%1, from %2").arg(offer->Year).arg(PathText(offer->File))));
+  const QString text = tr("%1, from %2").arg(offer->Year).arg(PathText(offer->File));
+  const QString shortened = fontMetrics().elidedText(text, Qt::ElideMiddle, kWidestOffer);
+  OfferedYear->setText(WithoutAccessKeys(shortened));
+  SetPlainToolTip(*OfferedYear, tr("Take this year, which %1 tells").arg(PathText(offer->File)));
 }
 
 void OpenFile::OfferedYear_Click() {

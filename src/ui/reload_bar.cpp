@@ -1,5 +1,6 @@
 #include "ui/reload_bar.h"
 
+#include <QAccessible>
 #include <QEvent>
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -76,6 +77,8 @@ void ReloadBar::ShowNews(const QString& news, const ReloadPlan& plan) {
   Place();
   show();
   raise();
+  QAccessibleEvent told(ReloadNews, QAccessible::Alert);
+  QAccessible::updateAccessibility(&told);
 }
 
 // The boxes of reports that were new before as well stay, with the keyboard in them.
