@@ -6,23 +6,18 @@
 
 #include "formats/turn_file.h"
 #include "loading/settled_files.h"
-#include "support/temp_folder.h"
+#include "support/game_folder.h"
 
 namespace quorvane {
 namespace {
 
 using Stamps = std::vector<GameFileStamp>;
 
-std::string TurnBlock(int turn) {
-  return std::string("\x10\x20J3J3\x01\x02\x03\x04\x60\x2A", 12) + static_cast<char>(turn % 256) +
-         static_cast<char>(turn / 256) + "abcd";
-}
-
 TEST(TurnYear, IsToldByAWholeFirstBlockOnly) {
-  EXPECT_EQ(TurnYear(TurnBlock(0)), 2400);
-  EXPECT_EQ(TurnYear(TurnBlock(51)), 2451);
-  EXPECT_EQ(TurnYear(TurnBlock(0xFFFF) + "more"), 2400 + 65535);
-  const std::string block = TurnBlock(51);
+  EXPECT_EQ(TurnYear(TurnBlock(2400)), 2400);
+  EXPECT_EQ(TurnYear(TurnBlock(2451)), 2451);
+  EXPECT_EQ(TurnYear(TurnBlock(2400 + 65535) + "more"), 2400 + 65535);
+  const std::string block = TurnBlock(2451);
   EXPECT_EQ(TurnYear(block.substr(0, block.size() - 1)), std::nullopt);
   EXPECT_EQ(TurnYear(""), std::nullopt);
   for (const std::size_t damaged : {0U, 1U, 2U, 5U}) {
@@ -49,10 +44,10 @@ TEST_F(GameFileStamps, FindTheFilesOfTheGameAndTheirYears) {
   for (const char* name : {"Demo.MAP", "demo.p1", "DEMO.P16", "Demo.PLA", "Demo.p17", "Demo.x1"}) {
     folder.Write(name, "12345");
   }
-  folder.Write("demo.M2", TurnBlock(50));
-  folder.Write("demo.hst", TurnBlock(51));
+  folder.Write("demo.M2", TurnBlock(2450));
+  folder.Write("demo.hst", TurnBlock(2451));
   folder.Write("Demo.m3", "no turn");
-  folder.Write("Demon.m4", TurnBlock(60));
+  folder.Write("Demon.m4", TurnBlock(2460));
   std::string found;
   for (const GameFileStamp& file : Look()) {
     found += file.Name.string() + " " + std::to_string(file.Row) + " " + std::to_string(file.Size) +
@@ -66,11 +61,11 @@ TEST_F(GameFileStamps, FindTheFilesOfTheGameAndTheirYears) {
 
 TEST_F(GameFileStamps, OfferTheYearOfTheOwnTurnFileBeforeOthers) {
   EXPECT_EQ(Offer(1), std::nullopt);
-  folder.Write("Demo.m2", TurnBlock(50));
-  folder.Write("Demo.m3", TurnBlock(52));
+  folder.Write("Demo.m2", TurnBlock(2450));
+  folder.Write("Demo.m3", TurnBlock(2452));
   EXPECT_EQ(Offer(2), (YearOffer{2450, "Demo.m2"}));
   EXPECT_EQ(Offer(1), (YearOffer{2452, "Demo.m3"}));
-  folder.Write("Demo.HST", TurnBlock(51));
+  folder.Write("Demo.HST", TurnBlock(2451));
   EXPECT_EQ(Offer(2), (YearOffer{2450, "Demo.m2"}));
   EXPECT_EQ(Offer(1), (YearOffer{2451, "Demo.HST"}));
   EXPECT_EQ(Offer(2, kOldReportStyle), (YearOffer{2451, "Demo.HST"}));  // row 2 is no player there

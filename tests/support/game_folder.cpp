@@ -21,6 +21,13 @@ constexpr const char* kOtherReport =
 
 }  // namespace
 
+std::string TurnBlock(int year) {
+  constexpr int kByte = 256;
+  const int turn = year - 2400;
+  return std::string("\x10\x20J3J3\x01\x02\x03\x04\x60\x2A", 12) + static_cast<char>(turn % kByte) +
+         static_cast<char>(turn / kByte) + "abcd";
+}
+
 GameFolder::GameFolder() {
   Write("Demo.MAP",
         "#\tX\tY\tName\r\n1\t1050\t1300\tAlpha\r\n2\t1120\t1250\tBeta\r\n3\t1300\t1100\tGamma\r\n"

@@ -168,11 +168,8 @@ TEST_F(OpenFileTest, TakesTypedPathsAndRecentFolders) {
 }
 
 TEST_F(OpenFileTest, OffersTheYearThatTheTurnFileOfTheChosenRaceTells) {
-  const auto turnFile = [](char turn) {
-    return std::string("\x10\x20J3J3\x01\x02\x03\x04\x60\x2A", 12) + turn + std::string(5, '\0');
-  };
-  folder.Write("demo.m1", turnFile(51));
-  folder.Write("Demo.M3", turnFile(50));
+  folder.Write("demo.m1", TurnBlock(2451));
+  folder.Write("Demo.M3", TurnBlock(2450));
   EXPECT_FALSE(driver.IsVisible("OfferedYear"));
   driver.ClickEntry("File1", "Demo.MAP");
   EXPECT_EQ(driver.Text("OfferedYear"), "2451, from demo.m1");

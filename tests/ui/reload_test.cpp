@@ -16,12 +16,6 @@ namespace {
 namespace fs = std::filesystem;
 using namespace std::chrono_literals;
 
-std::string TurnFile(int year) {
-  const int turn = year - 2400;
-  return std::string("\x10\x20J3J3\x01\x02\x03\x04\x60\x2A", 12) + static_cast<char>(turn % 256) +
-         static_cast<char>(turn / 256) + "abcd and what is encrypted";
-}
-
 class ReloadTest : public LoadedGameTest {
  protected:
   ReloadTest() { Hasten(window); }
@@ -33,7 +27,7 @@ class ReloadTest : public LoadedGameTest {
     report.replace(report.find("900000"), 6, "950000");
     folder.Write(file, report);
   }
-  void WriteTurn(int year) { folder.Write("Demo.m1", TurnFile(year)); }
+  void WriteTurn(int year) { folder.Write("Demo.m1", TurnBlock(year) + "what is encrypted"); }
   bool IsNews(const QString& news) {
     return QTest::qWaitFor([&] { return window.Bar->isVisible() && News().contains(news); }, 5000);
   }
