@@ -5,10 +5,14 @@
 
 namespace quorvane {
 
-/// The path that a user means who types or pastes a text: quotes around it are dropped, ~ is the
-/// home folder, relative paths begin at the folder on show, and a path of the game's own system
-/// such as C:\Stars is looked for in the Wine prefix of systems that have no drives.
-std::filesystem::path TypedPath(std::string_view text, const std::filesystem::path& shown,
+/// The path that somebody means who types or pastes it. Blanks and quotes around it are no part of
+/// it; it may be a `file://` URL as file managers copy it, begin with "~/", or count from the
+/// folder on show. Where the game runs under Wine, C:\Stars lies in the prefix ~/.wine.
+/// Nothing is looked up but the case of the folders in a Windows path: the path need not exist. An
+/// empty text means the folder on show.
+/// @param folder  the folder on show
+/// @param home    the user's home folder
+std::filesystem::path TypedPath(std::string_view typed, const std::filesystem::path& folder,
                                 const std::filesystem::path& home);
 
 }  // namespace quorvane

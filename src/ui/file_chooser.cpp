@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QKeyEvent>
+#include <QMenu>
 #include <QMouseEvent>
 #include <QSignalBlocker>
 #include <QStorageInfo>
@@ -16,6 +17,11 @@ namespace {
 // A list entry that keeps the folder it stands for.
 constexpr int kPathRole = Qt::UserRole;
 constexpr int kLeastDriveWidth = 80;  // whatever the length of its paths
+constexpr int kLongestEntry = 480;    // pixels: so much of a path stands in a menu
+
+QString NativePath(const std::filesystem::path& path) {
+  return QDir::toNativeSeparators(PathText(path));
+}
 
 }  // namespace
 
@@ -97,6 +103,55 @@ void FolderList::AddFolder(const QString& name, const QString& path, int depth, 
                                    QString(qsizetype{2} * depth, ' ') + name, this);
   item->setData(kPathRole, path);
   item->setToolTip(PlainToolTip(QDir::toNativeSeparators(path)));
+}
+
+FolderBox::FolderBox(QWidget* parent) : QLineEdit(parent) {}
+
+void FolderBox::ShowFolder(const std::filesystem::path& folder) {
+  folder_ = NativePath(folder);
+  setText(folder_);
+}
+
+// Enter is the box's own, as it is the list's.
+void FolderBox::keyPressEvent(QKeyEvent* event) {
+  if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) {
+    QLineEdit::keyPressEvent(event);
+    return;
+  }
+  event->accept();
+  emit PathEntered(text());
+}
+
+// A look at another window, from which a path may be copied, or the box's own menu is no leaving.
+void FolderBox::focusOutEvent(QFocusEvent* event) {
+  QLineEdit::focusOutEvent(event);
+  const bool comesBack =
+      event->reason() == Qt::ActiveWindowFocusReason || event->reason() == Qt::PopupFocusReason;
+  if (!comesBack) setText(folder_);
+}
+
+RecentFoldersButton::RecentFoldersButton(const QString& caption, QWidget* parent)
+    : QPushButton(caption, parent) {
+  setMenu(new QMenu(this));
+  menu()->setToolTipsVisible(true);  // of paths that are cut
+  connect(menu(), &QMenu::aboutToShow, this, &RecentFoldersButton::FillMenu);
+  setDisabled(true);
+}
+
+void RecentFoldersButton::ShowFolders(const std::vector<std::filesystem::path>& folders) {
+  folders_ = folders;
+  setDisabled(folders.empty());
+}
+
+void RecentFoldersButton::FillMenu() {
+  menu()->clear();
+  for (const std::filesystem::path& folder : folders_) {
+    const QString path = NativePath(folder);
+    const QString entry = menu()->fontMetrics().elidedText(path, Qt::ElideMiddle, kLongestEntry);
+    QAction* action = menu()->addAction(WithoutAccessKeys(entry));
+    action->setToolTip(PlainToolTip(path));
+    connect(action, &QAction::triggered, this, [this, folder] { emit FolderChosen(folder); });
+  }
 }
 
 DriveList::DriveList(QWidget* parent) : QComboBox(parent) {

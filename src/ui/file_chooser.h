@@ -1,8 +1,11 @@
 #pragma once
 
 #include <QComboBox>
+#include <QLineEdit>
 #include <QListWidget>
+#include <QPushButton>
 #include <filesystem>
+#include <vector>
 
 namespace quorvane {
 
@@ -53,6 +56,46 @@ class FolderList : public QListWidget {
   void AddFolder(const QString& name, const QString& path, int depth, bool isOnTheWay);
 
   std::filesystem::path folder_;
+};
+
+/// The path of the folder on show. Another one can be typed or pasted, and is gone to with Enter;
+/// who leaves the box without that finds the folder's path again.
+class FolderBox : public QLineEdit {
+  Q_OBJECT
+
+ public:
+  explicit FolderBox(QWidget* parent = nullptr);
+
+  void ShowFolder(const std::filesystem::path& folder);
+
+ signals:
+  void PathEntered(const QString& typed);
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
+
+ private:
+  QString folder_;
+};
+
+/// A button whose menu has the folders in which games were lately.
+class RecentFoldersButton : public QPushButton {
+  Q_OBJECT
+
+ public:
+  explicit RecentFoldersButton(const QString& caption, QWidget* parent = nullptr);
+
+  /// Lists these folders, the first one on top. Without any, the button is disabled.
+  void ShowFolders(const std::vector<std::filesystem::path>& folders);
+
+ signals:
+  void FolderChosen(const std::filesystem::path& folder);
+
+ private:
+  void FillMenu();
+
+  std::vector<std::filesystem::path> folders_;
 };
 
 /// The drives of the system, or the places where a search for games can start.

@@ -13,13 +13,14 @@
 #include "ui/prompts.h"
 
 class QBoxLayout;
-class QMenu;
 
 namespace quorvane {
 
 class ChoiceList;
 class DriveList;
+class FolderBox;
 class FolderList;
+class RecentFoldersButton;
 class ReportRows;
 
 /// What the open dialog works on; it outlives the dialog.
@@ -27,10 +28,10 @@ struct OpenState {
   GameChoice Choice;
   /// The folder in which the dialog starts: the game's own, later that of the last chosen map.
   std::filesystem::path StarsInstallDir;
+  /// The folders of the last games, the newest first, none of them twice.
+  std::vector<std::filesystem::path> RecentFolders;
   /// 0: the choice is to be loaded; 1: cancelled.
   int OpenDialogResult = 1;
-  /// The folders of the games that were opened last.
-  std::vector<std::filesystem::path> RecentFolders;
 };
 
 /// The dialog "Open Stars! game files": choose a game's map, its reports, the user's own race, the
@@ -41,16 +42,17 @@ class OpenFile : public QDialog {
  public:
   OpenFile(OpenState& state, Prompts& prompts, QWidget* parent = nullptr);
 
-  /// Shows a choice that was accepted before, so that it can be accepted again: the map with its
-  /// reports, own race, ticks, years and setting, as far as they are there still. Asks nothing.
+  /// Shows a choice that was accepted earlier, so that loading gives the same one again, as far as
+  /// its files are still there. Where reports of both styles are, it decides; nothing is asked or
+  /// told. Without its map only the folder is shown.
   void ShowChoice(const GameChoice& accepted);
 
   /// Whether the close box was used: the next opening starts afresh.
   bool IsDiscarded() const { return isDiscarded_; }
 
   DriveList* Drive1 = nullptr;
-  QLineEdit* FolderPath = nullptr;
-  QPushButton* RecentFolders = nullptr;
+  FolderBox* FolderPath = nullptr;
+  RecentFoldersButton* RecentFolders = nullptr;
   FolderList* Dir1 = nullptr;
   ChoiceList* File1 = nullptr;
   ReportRows* Rows = nullptr;
@@ -70,37 +72,36 @@ class OpenFile : public QDialog {
  protected:
   void showEvent(QShowEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
-  bool eventFilter(QObject* target, QEvent* event) override;
 
  private:
   void Build();
   void AddFileChooser(QBoxLayout& column);
-  QBoxLayout* NewPathRow();
-  QBoxLayout* NewYearRow();
+  QBoxLayout* NewFolderRow();
   void AddReports(QBoxLayout& column);
+  void AddYear(QBoxLayout& column);
   void AddSettings(QBoxLayout& column);
   void AddButtons(QBoxLayout& column);
   void ConnectControls();
+
   void ShowStartFolder();
+  bool ShowFolder(const std::filesystem::path& folder);
+  void GoToFolder(const std::filesystem::path& folder);
+  void TellRefusal(const QString& folder);
+  bool GoToMap(const std::filesystem::path& map);
 
   void Drive1_Change();
-  void FolderPath_Enter();
-  void RecentFolders_Show();
-  void OfferedYear_Click();
+  void FolderPath_Enter(const QString& typed);
   void Dir1_Change();
   void File1_Click();
+  void OfferedYear_Click();
   void RemRace_Click();
   void SaveYears_Click();
   void txtSOI_Change();
   void Command1_Click();
   void Command2_Click();
 
-  bool ShowFolder(const std::filesystem::path& folder);
-  void RefuseFolder(const QString& folder);
-  void ShowFolderPath();
-  bool SelectMap(const std::filesystem::path& map);
-  bool ShowMap(const AskForNewStyle& ask);
-  void ShowOfferedYear();
+  bool ChooseCurrentMap(const AskForNewStyle& askForNewStyle);
+  void ShowOffer();
   void ClearReports();
   void ShowOldReport();
   void ShowNewReports();
@@ -108,9 +109,8 @@ class OpenFile : public QDialog {
 
   OpenState& state_;
   Prompts& prompts_;
+  std::vector<GameFileStamp> gameFiles_;  // of the chosen map
   bool isDiscarded_ = false;
-  QMenu* recent_ = nullptr;
-  std::vector<GameFileStamp> stamps_;  // of the chosen map's game
 };
 
 }  // namespace quorvane

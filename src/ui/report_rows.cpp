@@ -4,7 +4,9 @@
 #include <QGridLayout>
 
 #include "formats/game_files.h"
+#include "model/field_value.h"
 #include "screens/open_checks.h"
+#include "screens/reload_plan.h"
 #include "ui/texts.h"
 
 namespace quorvane {
@@ -98,6 +100,22 @@ void ReportRows::SetOldReport(const QString& caption) {
   isFillingRows_ = false;
 }
 
+void ReportRows::ShowAccepted(const GameChoice& accepted) {
+  RowYears years = TypedYears(accepted);
+  for (int row = 1; row <= kMaxPlayers; ++row) {
+    const ReportFileSlot& report = accepted.ReportFiles[Index(row)];
+    const bool isKnown =
+        IsShown(row) && accepted.ReportStyle == choice_.ReportStyle && !report.Path.empty();
+    if (!isKnown) {
+      years[Index(row)].clear();
+      continue;
+    }
+    Check1[Index(row)]->setChecked(FieldValue(report.Included).ReadsAs(1));
+    if (row == accepted.MyRaceRow) Player[Index(row)]->setChecked(true);
+  }
+  SetYears(years);
+}
+
 RowYears ReportRows::Years() const {
   RowYears years;
   for (int row = 1; row <= kMaxPlayers; ++row) {
@@ -125,6 +143,7 @@ void ReportRows::Player_Click(int row) {
   choice_.MyRaceRow = row;
   for (QRadioButton* player : Player) player->setFocusPolicy(Qt::ClickFocus);
   Player[Index(row)]->setFocusPolicy(Qt::StrongFocus);
+  emit RaceChosen();
 }
 
 void ReportRows::Check1_Click(int row) {

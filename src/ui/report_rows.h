@@ -29,6 +29,10 @@ class ReportRows : public QWidget {
   /// Ticks hidden row 0, which stands for the old-style report, and gives it its caption.
   void SetOldReport(const QString& caption);
 
+  /// Shows race, ticks and years of a choice that was accepted earlier, as far as its reports are
+  /// shown. New reports stay as they are, without a year.
+  void ShowAccepted(const GameChoice& accepted);
+
   RowYears Years() const;
   void SetYears(const RowYears& years);
   bool IsShown(int row) const;
@@ -36,6 +40,10 @@ class ReportRows : public QWidget {
   std::array<QRadioButton*, kMaxPlayers + 1> Player = {};
   std::array<QCheckBox*, kMaxPlayers + 1> Check1 = {};
   std::array<QLineEdit*, kMaxPlayers + 1> TxtPxYear = {};
+
+ signals:
+  /// The own race is another one.
+  void RaceChosen();
 
  private:
   void AddRow(int row);

@@ -7,6 +7,7 @@
 #include <QListWidget>
 #include <QMenu>
 #include <QScreen>
+#include <QTest>
 #include <tuple>
 
 #include "model/field_value.h"
@@ -147,24 +148,38 @@ TEST_F(OpenFileTest, TakesItsCloseBoxAsCancelAndStartsAfreshInAFolderThatIsThere
 }
 
 TEST_F(OpenFileTest, TakesTypedPathsAndRecentFolders) {
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
   const QString path = PathText(folder.Path());
   EXPECT_EQ(driver.Text("FolderPath"), path);
   EXPECT_FALSE(driver.IsEnabled("RecentFolders"));
   driver.Type("FolderPath", "Deeper").Press("FolderPath", Qt::Key_Return);
   EXPECT_EQ(driver.Text("FolderPath"), path + "/Deeper");
-  driver.Type("FolderPath", "nowhere").Press("FolderPath", Qt::Key_Return);
-  EXPECT_EQ(prompts.Shown(), Texts{"The folder nowhere cannot be opened."});
+  for (const char* refused : {"nowhere", "../Demo.P1"}) {
+    driver.Type("FolderPath", refused).Press("FolderPath", Qt::Key_Return);
+    EXPECT_EQ(prompts.Shown(), Texts{std::string("The folder ") + refused + " cannot be opened."});
+    EXPECT_EQ(dialog.FolderPath->selectedText(), refused);
+  }
   EXPECT_EQ(dialog.Dir1->Folder(), folder / "Deeper");
+  QFocusEvent lookElsewhere(QEvent::FocusOut, Qt::ActiveWindowFocusReason);
+  QApplication::sendEvent(dialog.FolderPath, &lookElsewhere);
+  EXPECT_EQ(driver.Text("FolderPath"), "../Demo.P1");
+  driver.Press("FolderPath", Qt::Key_Tab);
+  EXPECT_EQ(driver.Text("FolderPath"), path + "/Deeper");
   driver.Type("FolderPath", "file://" + path + "/demo.map").Press("FolderPath", Qt::Key_Return);
   EXPECT_EQ(state.Choice.MapFilePath, folder / "Demo.MAP");
   EXPECT_TRUE(driver.IsVisible("Player(1)") && dialog.isVisible()) << "chosen and not loaded";
-  state.RecentFolders = {folder / "Deeper", folder / "gone"};
+
+  std::filesystem::create_directory(folder / "A&B");
+  state.RecentFolders = {folder / "A&B", folder / "gone"};
+  dialog.hide();
+  dialog.show();
   emit dialog.RecentFolders->menu()->aboutToShow();
   const QList<QAction*> recent = dialog.RecentFolders->menu()->actions();
+  EXPECT_EQ(recent.at(0)->text(), path + "/A&&B");
   recent.at(1)->trigger();
   EXPECT_EQ(prompts.Shown().size(), 1U);
   recent.at(0)->trigger();
-  EXPECT_EQ(driver.Text("FolderPath"), path + "/Deeper");
+  EXPECT_EQ(driver.Text("FolderPath"), path + "/A&B");
 }
 
 TEST_F(OpenFileTest, OffersTheYearThatTheTurnFileOfTheChosenRaceTells) {
@@ -176,9 +191,15 @@ TEST_F(OpenFileTest, OffersTheYearThatTheTurnFileOfTheChosenRaceTells) {
   EXPECT_EQ(driver.Text("txtGameYear"), "") << "it is never typed by itself";
   driver.Click("Player(3)");
   EXPECT_EQ(driver.Text("OfferedYear"), "2450, from Demo.M3");
-  driver.Click("OfferedYear");
+  dialog.OfferedYear->setFocus();
+  driver.Press("OfferedYear", Qt::Key_Return);
   EXPECT_EQ(driver.Text("txtGameYear"), "2450");
+  EXPECT_EQ(dialog.focusWidget(), dialog.txtGameYear);
+  EXPECT_TRUE(dialog.isVisible() && dialog.Command1->isDefault());
   driver.ClickEntry("File1", "Lonely.map");
+  EXPECT_FALSE(driver.IsVisible("OfferedYear"));
+  driver.ClickEntry("File1", "Demo.MAP").Type("FolderPath", "Deeper");
+  driver.Press("FolderPath", Qt::Key_Enter);
   EXPECT_FALSE(driver.IsVisible("OfferedYear"));
 }
 
@@ -191,29 +212,36 @@ TEST_F(OpenFileTest, ShowsAnAcceptedChoiceSoThatItIsAcceptedAgain) {
   driver.Click("Command1");
   const GameChoice accepted = state.Choice;
   prompts.Shown();
-  OpenState other = {.StarsInstallDir = folder / "Deeper"};
-  OpenFile again(other, prompts);
-  again.ShowChoice(accepted);
-  again.show();
-  WindowDriver(again).Click("Command1");
-  EXPECT_EQ(prompts.Shown(), Texts());
-  EXPECT_EQ(other.OpenDialogResult, 0);
-  EXPECT_EQ(other.Choice.ReportStyle, kNewReportStyle);
-  EXPECT_EQ(std::tuple(other.Choice.MapFilePath, other.Choice.MyRaceRow, other.Choice.GameYear,
-                       other.Choice.SoiSetting),
+  folder.Write("Demo.P5", "x");
+  folder.Write("Demo.YRS", "2448,2448,2448,2448,2460,2460");
+  dialog.ShowChoice(state.Choice);
+  dialog.show();
+  driver.Click("Command1");
+  EXPECT_FALSE(dialog.isVisible());
+  EXPECT_EQ(state.Choice.ReportStyle, kNewReportStyle);
+  EXPECT_EQ(std::tuple(state.Choice.MapFilePath, state.Choice.MyRaceRow, state.Choice.GameYear,
+                       state.Choice.SoiSetting),
             std::tuple(accepted.MapFilePath, 3, 2450, 120));
   for (std::size_t row = 1; row <= kMaxPlayers; ++row) {
-    const ReportFileSlot& report = other.Choice.ReportFiles[row];
-    EXPECT_EQ(report.Path, accepted.ReportFiles[row].Path);
+    const ReportFileSlot& report = state.Choice.ReportFiles[row];
+    const std::string& included = row == 5 ? "1" : accepted.ReportFiles[row].Included;
+    EXPECT_EQ(NumericValue(report.Included), NumericValue(included)) << row;
     EXPECT_EQ(report.Year, accepted.ReportFiles[row].Year) << row;
-    EXPECT_EQ(NumericValue(report.Included), NumericValue(accepted.ReportFiles[row].Included));
   }
-  std::filesystem::remove(folder / "Demo.MAP");
-  OpenFile gone(other, prompts);
-  gone.ShowChoice(accepted);
-  EXPECT_EQ(gone.Dir1->Folder(), folder.Path());
-  EXPECT_FALSE(gone.Command1->isEnabled());
-  EXPECT_EQ(prompts.Shown(), Texts());
+  GameChoice other = accepted;
+  other.ReportStyle = kOldReportStyle;
+  dialog.ShowChoice(other);
+  EXPECT_EQ(state.Choice.ReportStyle, kOldReportStyle);
+  for (const char* without : {"Lonely.map", "gone.map", "no/such/folder.map"}) {
+    dialog.ShowChoice(accepted);
+    other.MapFilePath = folder / without;
+    dialog.ShowChoice(other);
+    dialog.show();
+    if (dialog.Command1->isEnabled()) driver.Click("Command1");
+    EXPECT_TRUE(dialog.isVisible()) << without << " loads reports of another map";
+    EXPECT_EQ(dialog.Dir1->Folder(), folder.Path());
+  }
+  EXPECT_EQ(prompts.Shown(), Texts{"No planet files selected"}) << "what the load button says";
 }
 
 }  // namespace
