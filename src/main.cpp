@@ -55,8 +55,8 @@ Start FindStart() {
   const auto places = quorvane::SettingsPlaces(home, programData);
   const std::filesystem::path folder = quorvane::FindInstallDir(places, home);
   const bool areExamples = folder.parent_path() == programData;
-  return {.Folder = quorvane::ExampleFolder(folder, programData,
-                                            quorvane::ToPath(userData) / "quorvane"),
+  return {.Folder =
+              quorvane::ExampleFolder(folder, programData, quorvane::ToPath(userData) / "quorvane"),
           .IsNamed = quorvane::NamesInstallDir(places) && !areExamples};
 }
 

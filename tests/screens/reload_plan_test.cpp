@@ -52,7 +52,8 @@ TEST(DescribeChanges, TellsWhichFilesAreNewAndOfWhichYear) {
   const GameFileStamp map = {.Name = "Demo.map", .Time = today};
   GameFileStamp damaged = Turn(4, 0);
   damaged.Year.reset();
-  const Stamps now = {map, Report(1, LocalTime(23, 14, 2)),
+  const Stamps now = {map,
+                      Report(1, LocalTime(23, 14, 2)),
                       Report(4, LocalTime(22, 9, 30)),
                       Turn(1, 2451),
                       ordersGiven,
