@@ -93,8 +93,10 @@ void ReportDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option
                                : option.palette.color(QPalette::PlaceholderText));
     painter->drawRect(box);
   }
-  if (IsWarning(index))
+  const bool hasWholeLine = !HasFile(row) && !hasDetails_;
+  if (IsWarning(index) && !hasWholeLine) {
     DrawWarning(*painter, line.rect.adjusted(kMargin, 0, 0, 0), row, isSelected);
+  }
   painter->restore();
 }
 
@@ -113,6 +115,9 @@ void ReportDelegate::DrawFurtherLines(QPainter& painter, const QRect& whole,
   const ReportRow& row = RowAt(index);
   QRect line = FirstLine(whole).adjusted(kSign + 2 * kMargin, 0, -kMargin, 0);
   painter.save();
+  if (!HasFile(row) && !hasDetails_) {  // the row's columns are empty
+    DrawWarning(painter, FirstLine(whole).adjusted(kMargin, 0, -kMargin, 0), row, isSelected);
+  }
   if (!hasDetails_) {
     line.translate(0, line.height());
     DrawDetails(painter, line, row, isSelected);
