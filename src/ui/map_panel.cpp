@@ -168,16 +168,20 @@ void MapPanel::ShowMarkerNumber(int race) {
   PlaceMarkerNumber();
 }
 
-// Right of the marker, or left of it where the map ends there.
+// Right of the marker, or left of it where the map ends there, or within one that is wider than the
+// map. A marker outside the map leaves no number at the edge.
 void MapPanel::PlaceMarkerNumber() {
-  MarkerNumber->setVisible(!CurrentSelected->isHidden() && !MarkerNumber->text().isEmpty());
-  MarkerNumber->adjustSize();
   const QRect marker = CurrentSelected->geometry();
+  const bool isSeen = !CurrentSelected->isHidden() && marker.intersects(Universe->rect());
+  MarkerNumber->setVisible(isSeen && !MarkerNumber->text().isEmpty());
+  MarkerNumber->adjustSize();
+  const QPoint last(Universe->width() - MarkerNumber->width(),
+                    Universe->height() - MarkerNumber->height());
   const int right = marker.right() + 1;
-  const bool isRoom = right + MarkerNumber->width() <= Universe->width();
-  MarkerNumber->move(isRoom ? right : marker.left() - MarkerNumber->width(),
-                     std::clamp(marker.center().y() - MarkerNumber->height() / 2, 0,
-                                std::max(Universe->height() - MarkerNumber->height(), 0)));
+  const int left = marker.left() - MarkerNumber->width();
+  const int beside = right <= last.x() ? right : left >= 0 ? left : last.x();
+  MarkerNumber->move(beside, std::clamp(marker.center().y() - MarkerNumber->height() / 2, 0,
+                                        std::max(last.y(), 0)));
 }
 
 void MapPanel::Timer1_Timer() {

@@ -57,6 +57,14 @@ TEST_F(OverlaySetsMenuTest, NumbersStandOnSwatchesAndBesideTheMarker) {
   EXPECT_FALSE(swatch() == plain);
   EXPECT_TRUE(driver.IsVisible("MarkerNumber"));
   EXPECT_EQ(driver.Text("MarkerNumber"), "2") << "the Drask own Gamma";
+  while (driver.Action("ViewZoomIn").isEnabled()) driver.Choose("ViewZoomIn");
+  QApplication::processEvents();
+  EXPECT_FALSE(driver.IsVisible("MarkerNumber")) << "Gamma is out of sight";
+  driver.Choose("ViewZoomToSelected");
+  QApplication::processEvents();  // as near as that, the marker is wider than the map
+  EXPECT_TRUE(driver.IsVisible("MarkerNumber"));
+  EXPECT_TRUE(driver.Find("Universe").rect().contains(driver.Find("MarkerNumber").geometry()));
+  driver.Choose("ViewWholeUniverse");
   driver.ClickAt("Universe", At({1390, 1390}));
   EXPECT_FALSE(driver.IsVisible("MarkerNumber")) << "nobody owns Delta";
   driver.Choose("ViewNumbersInLegend");
