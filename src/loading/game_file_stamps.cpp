@@ -67,6 +67,13 @@ std::vector<GameFileStamp> StampGameFiles(const fs::path& mapFile,
   return folder.Stamps;
 }
 
+const GameFileStamp* FindStamp(const std::vector<GameFileStamp>& stamps, GameFileKind kind,
+                               int row) {
+  const auto found = std::ranges::find_if(
+      stamps, [&](const GameFileStamp& stamp) { return stamp.Kind == kind && stamp.Row == row; });
+  return found != stamps.end() ? &*found : nullptr;
+}
+
 std::optional<YearOffer> OfferYear(const std::vector<GameFileStamp>& stamps,
                                    const GameChoice& choice) {
   const GameFileStamp* best = nullptr;

@@ -34,6 +34,11 @@ struct GameFileStamp {
 std::vector<GameFileStamp> StampGameFiles(const std::filesystem::path& mapFile,
                                           const std::function<bool()>& isStopped = {});
 
+/// The stamp of a game's file among others; nullptr where there is no such file.
+/// @param row  of a report or turn file; 0 for the other kinds
+const GameFileStamp* FindStamp(const std::vector<GameFileStamp>& stamps, GameFileKind kind,
+                               int row);
+
 /// A year of the game, and the file that tells it.
 struct YearOffer {
   int Year = 0;

@@ -1,11 +1,10 @@
 #include "screens/reload_plan.h"
 
 #include <algorithm>
-#include <array>
-#include <ctime>
 
 #include "files/files.h"
 #include "model/field_value.h"
+#include "screens/local_time.h"
 
 namespace quorvane {
 namespace {
@@ -18,25 +17,9 @@ bool TellsYear(const GameFileStamp& file) {
   return file.Kind == GameFileKind::Turn || file.Kind == GameFileKind::Host;
 }
 
-const GameFileStamp* FindStamp(const std::vector<GameFileStamp>& files, GameFileKind kind,
-                               int row) {
-  const auto found = std::ranges::find_if(
-      files, [&](const GameFileStamp& file) { return file.Kind == kind && file.Row == row; });
-  return found != files.end() ? &*found : nullptr;
-}
-
-std::string LocalTime(std::int64_t milliseconds) {
-  const std::time_t seconds = milliseconds / 1000;
-  std::array<char, 32> text = {};
-  if (const std::tm* local = std::localtime(&seconds)) {
-    std::strftime(text.data(), text.size(), "%Y-%m-%d %H:%M", local);
-  }
-  return text.data();
-}
-
 std::string TimeText(std::int64_t milliseconds, std::int64_t today) {
-  const std::string time = LocalTime(milliseconds);
-  const bool isToday = time.substr(0, kDateLength) == LocalTime(today).substr(0, kDateLength);
+  const std::string time = LocalTimeText(milliseconds);
+  const bool isToday = time.substr(0, kDateLength) == LocalTimeText(today).substr(0, kDateLength);
   return isToday && time.size() > kDateLength ? time.substr(kDateLength) : time;
 }
 
@@ -99,6 +82,22 @@ void UpdateReports(GameChoice& choice, const std::vector<GameFileStamp>& now) {
 
 std::string YearText(int year) { return year > 0 ? std::to_string(year) : ""; }
 
+bool IsOwnReportNew(const GameChoice& game, const std::vector<FileChange>& changes) {
+  return game.ReportStyle == kNewReportStyle
+             ? HasChanged(changes, GameFileKind::Report, game.MyRaceRow)
+             : HasChanged(changes, GameFileKind::OldReport, 0);
+}
+
+std::vector<int> OtherNewReports(const GameChoice& game, const std::vector<FileChange>& changes) {
+  std::vector<int> rows;
+  for (const FileChange& change : changes) {
+    const bool isOther = change.File.Kind == GameFileKind::Report && !change.IsGone &&
+                         change.File.Row != game.MyRaceRow;
+    if (isOther && game.ReportStyle == kNewReportStyle) rows.push_back(change.File.Row);
+  }
+  return rows;
+}
+
 }  // namespace
 
 std::vector<FileChange> FindChanges(const std::vector<GameFileStamp>& before,
@@ -130,22 +129,17 @@ std::string DescribeChanges(std::vector<FileChange> changes, const GameChoice& g
   return text;
 }
 
+bool BringReports(const std::vector<FileChange>& changes) {
+  return std::ranges::any_of(
+      changes, [](const FileChange& change) { return !change.IsGone && !TellsYear(change.File); });
+}
+
 ReloadPlan PlanReload(const GameChoice& loaded, const std::vector<GameFileStamp>& before,
                       const std::vector<GameFileStamp>& now) {
   ReloadPlan plan = {.Choice = loaded, .GameYear = YearText(loaded.GameYear)};
   UpdateReports(plan.Choice, now);
-  for (int row = 1; row <= kMaxPlayers; ++row) {
-    plan.Years[Index(row)] = plan.Choice.ReportFiles[Index(row)].Year;
-  }
   const std::vector<FileChange> changes = FindChanges(before, now);
-  const bool isOld = loaded.ReportStyle != kNewReportStyle;
-  const int own = loaded.MyRaceRow;
-  const bool isOwnNew = isOld ? HasChanged(changes, GameFileKind::OldReport, 0)
-                              : HasChanged(changes, GameFileKind::Report, own);
-  for (int row = 1; row <= kMaxPlayers && !isOld; ++row) {
-    if (row != own && HasChanged(changes, GameFileKind::Report, row))
-      plan.ChangedRows.push_back(row);
-  }
+  const bool isOwnNew = IsOwnReportNew(loaded, changes);
   const std::optional<int> turnYear = OwnTurnYear(loaded, now);
   const bool isTurnNew = turnYear != OwnTurnYear(loaded, before);
   plan.IsOwnYearAsked = isOwnNew && !turnYear;
@@ -154,9 +148,13 @@ ReloadPlan PlanReload(const GameChoice& loaded, const std::vector<GameFileStamp>
     const std::optional<YearOffer> offer = OfferYear(now, loaded);
     plan.GameYear = offer ? YearText(offer->Year) : "";
   }
-  // A report that is later than the game would be refused; the earlier year is the game's then.
-  if (isOwnNew && own > 0) plan.Years[Index(own)] = "";
-  SetGameYear(plan, plan.GameYear);
+  for (std::size_t row = 1; row <= kMaxPlayers; ++row) {
+    plan.Years[row] = plan.Choice.ReportFiles[row].Year;
+  }
+  // An empty one stands for the game's year, which may still be asked.
+  if (isOwnNew) plan.Years[Index(loaded.MyRaceRow)] = "";
+  plan.ChangedRows = OtherNewReports(loaded, changes);
+  for (const int row : plan.ChangedRows) plan.Years[Index(row)] = plan.GameYear;
   return plan;
 }
 
@@ -167,11 +165,6 @@ RowYears TypedYears(const GameChoice& choice) {
     if (year != YearText(choice.GameYear)) years[row] = year;
   }
   return years;
-}
-
-void SetGameYear(ReloadPlan& plan, const std::string& year) {
-  plan.GameYear = year;
-  for (const int row : plan.ChangedRows) plan.Years[Index(row)] = year;
 }
 
 std::string AcceptReload(ReloadPlan& plan) {

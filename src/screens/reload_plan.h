@@ -22,6 +22,9 @@ struct FileChange {
 std::vector<FileChange> FindChanges(const std::vector<GameFileStamp>& before,
                                     const std::vector<GameFileStamp>& now);
 
+/// Whether changes bring anything that a reload would show: turn files alone do not.
+bool BringReports(const std::vector<FileChange>& changes);
+
 /// What the user is told of changes: "game.p2 is new (14:02), game.m2 is of year 2451". Times are
 /// local ones, with their date where that is not today's. What is the user's own comes first, and
 /// what hardly matters last.
@@ -52,9 +55,6 @@ ReloadPlan PlanReload(const GameChoice& loaded, const std::vector<GameFileStamp>
 /// The years that the open dialog's boxes would hold for a choice: an empty one stands for the
 /// game's year.
 RowYears TypedYears(const GameChoice& choice);
-
-/// Gives the game's year to a plan, and to the reports that it is offered for.
-void SetGameYear(ReloadPlan& plan, const std::string& year);
 
 /// Makes the plan's choice complete, as the open dialog does. @return why it cannot be, or nothing
 std::string AcceptReload(ReloadPlan& plan);

@@ -1,30 +1,18 @@
 #include "screens/report_texts.h"
 
 #include <algorithm>
-#include <array>
-#include <ctime>
 
 #include "files/files.h"
+#include "screens/local_time.h"
 
 namespace quorvane {
 namespace {
 
-// In the user's own time; empty for a moment that no calendar has.
-std::string DateText(std::int64_t millisecondsSince1970) {
-  const auto moment = static_cast<std::time_t>(millisecondsSince1970 / 1000);
-  const std::tm* const parts = std::localtime(&moment);
-  std::array<char, 32> text;
-  if (parts == nullptr) return "";
-  return {text.data(), std::strftime(text.data(), text.size(), "%Y-%m-%d %H:%M", parts)};
-}
-
 std::string DateOf(int row, int reportStyle, const std::vector<GameFileStamp>& stamps) {
-  const bool isOldStyle = reportStyle == kOldReportStyle;
-  const auto stamp = std::ranges::find_if(stamps, [&](const GameFileStamp& file) {
-    return isOldStyle ? file.Kind == GameFileKind::OldReport
-                      : file.Kind == GameFileKind::Report && file.Row == row;
-  });
-  return stamp != stamps.end() ? DateText(stamp->Time) : "";
+  const GameFileStamp* stamp = reportStyle == kOldReportStyle
+                                   ? FindStamp(stamps, GameFileKind::OldReport, 0)
+                                   : FindStamp(stamps, GameFileKind::Report, row);
+  return stamp != nullptr ? LocalTimeText(stamp->Time) : "";
 }
 
 std::string WarningOf(const ReportFileSlot& slot, int gameYear, const ReportSurvey& survey) {

@@ -2,7 +2,6 @@
 #include <QAction>
 #include <QApplication>
 #include <QDateTime>
-#include <algorithm>
 
 #include "formats/dialog_files.h"
 #include "ui/details_panel.h"
@@ -15,17 +14,6 @@
 #include "ui/texts.h"
 
 namespace quorvane {
-namespace {
-
-// Turn files alone bring nothing that could be shown.
-bool BringReports(const std::vector<FileChange>& changes) {
-  return std::ranges::any_of(changes, [](const FileChange& change) {
-    return !change.IsGone && change.File.Kind != GameFileKind::Turn &&
-           change.File.Kind != GameFileKind::Host;
-  });
-}
-
-}  // namespace
 
 // Network folders do not tell of changes.
 void Main::changeEvent(QEvent* event) {
@@ -81,8 +69,10 @@ void Main::GameReload_Click() {
   files_ = watcher_.LookBeforeLoad(session_.MapFilePath).value_or(files_);
   ReloadPlan plan = PlanReload(next_, loadedFiles_, files_);
   const bool isToAsk = plan.IsOwnYearAsked && Bar->isHidden();
-  if (isToAsk) dismissed_.clear();
-  if (isToAsk) ShowNews();
+  if (isToAsk) {
+    dismissed_.clear();
+    ShowNews();
+  }
   if (!Bar->isHidden()) Bar->TakeYears(plan);
   if (isToAsk || (plan.IsOwnYearAsked && plan.GameYear.empty())) {
     return Bar->AskForYear(session_.MyRaceRow);
