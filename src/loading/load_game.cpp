@@ -1,6 +1,5 @@
 #include "loading/load_game.h"
 
-#include <cmath>
 #include <utility>
 
 #include "files/files.h"
@@ -18,13 +17,8 @@
 namespace quorvane {
 namespace {
 
-constexpr double kGridSteps = 650;
-
 void PlacePlanets(GameSession& session, const UniverseMap& map) {
-  session.UniverseExtent = map.Extent;
-  session.GridCellSize = (map.Extent - kUniverseOrigin) / kGridSteps;
-  session.GridSize =
-      static_cast<int>(std::floor((map.Extent - kUniverseOrigin) / session.GridCellSize));
+  session.MeasureUniverse(map.Extent);
   session.CreatePlanetTable(static_cast<int>(map.Planets.size()));
   for (int i = 1; i <= session.PlanetCount; ++i) {
     const MapPlanet& source = map.Planets.at(static_cast<std::size_t>(i) - 1);

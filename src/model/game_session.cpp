@@ -1,7 +1,11 @@
 #include "model/game_session.h"
 
+#include <cmath>
+
 namespace quorvane {
 namespace {
+
+constexpr double kGridSteps = 650;
 
 // Record 0 of a table is no planet and no player.
 template <typename Record, typename Table>
@@ -35,9 +39,15 @@ void GameSession::CreatePlanetTable(int count) {
   PlanetTable.assign(static_cast<std::size_t>(count) + 1, PlanetRecord());
 }
 
+void GameSession::MeasureUniverse(int extent) {
+  UniverseExtent = extent;
+  GridCellSize = (extent - kUniverseOrigin) / kGridSteps;
+  GridSize = static_cast<int>(std::floor((extent - kUniverseOrigin) / GridCellSize));
+}
+
 void GameSession::CreatePlayerTable() { PlayerTable.fill(PlayerRecord()); }
 
-void GameSession::CreateInfluenceGrid(int size) { InfluenceGrid = quorvane::InfluenceGrid(size); }
+void GameSession::CreateInfluenceGrid(int size) { InfluenceGrid.Reset(size); }
 
 int GameSession::FindPlayerByName(std::string_view name) const {
   for (int player = 1; player <= PlayerCount; ++player) {

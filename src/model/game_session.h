@@ -68,6 +68,8 @@ struct GameSession : GameChoice {
   void Reset();
   /// Creates `count` planet records of empty fields.
   void CreatePlanetTable(int count);
+  /// Takes the universe's far edge, and the influence grid's cells that follow from it.
+  void MeasureUniverse(int extent);
   /// Creates the 17 player records of empty fields.
   void CreatePlayerTable();
   /// Creates an influence grid of (size + 1) x (size + 1) points that nobody holds.

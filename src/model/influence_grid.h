@@ -23,6 +23,13 @@ class InfluenceGrid {
       : size_(size),
         points_(static_cast<std::size_t>(size + 1) * static_cast<std::size_t>(size + 1)) {}
 
+  /// Becomes (size + 1) x (size + 1) points that nobody holds, in the memory that it has.
+  void Reset(int size) {
+    size_ = size;
+    const auto side = static_cast<std::size_t>(size + 1);
+    points_.assign(side * side, {});
+  }
+
   /// The highest index in either direction; -1 for a grid without points.
   int Size() const { return size_; }
   InfluencePoint& At(int gx, int gy) { return points_[IndexOf(gx, gy)]; }
