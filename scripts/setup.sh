@@ -2,7 +2,8 @@
 # What run.sh, test.sh and the continuous integration share: installing what the build needs and this
 # machine lacks, and building. Every step that is not possible stops with one plain sentence.
 
-program_packages="g++ cmake ninja-build qt6-base-dev qt6-svg-dev libqt6svg6 libgl-dev fonts-liberation"
+program_packages="g++ cmake ninja-build qt6-base-dev qt6-svg-dev qt6-charts-dev libqt6svg6 libgl-dev libsqlitecpp-dev \
+  libsqlite3-dev fonts-liberation"
 test_packages="$program_packages libgtest-dev libbenchmark-dev libcli11-dev file dpkg-dev"
 
 say() { printf '%s\n' "$*"; }
