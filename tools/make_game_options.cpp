@@ -37,6 +37,9 @@ class CommandLine {
         ->excludes(size)
         ->excludes(planets)
         ->excludes(years_);
+    app_.add_flag("--war", shape_.IsWar,
+                  "the years of --years are a war: planets change hands, races die out, and "
+                  "reports are missing");
     app_.add_flag("--companions", shape_.HasCompanions,
                   "write the files that Quorvane keeps beside a game, too");
     app_.add_flag("--turn-files", shape_.HasTurnFiles,
@@ -90,9 +93,9 @@ class CommandLine {
     if (const Result<void> possible = CheckShape(shape_); !possible) {
       return possible.Error();
     }
-    if (years_->count() > 0 && (yearCount_ < 1 || yearCount_ > kMostYears)) {
+    if (years_->count() > 0 && (yearCount_ < 1 || yearCount_ > MostYears(shape_))) {
       return Failure{"The number of years is " + std::to_string(yearCount_) + ", it must be 1 to " +
-                     std::to_string(kMostYears) + "."};
+                     std::to_string(MostYears(shape_)) + "."};
     }
     MakeGameOptions options{.Shape = shape_, .Years = yearCount_, .MapFile = PathFromText(map_)};
     const std::filesystem::path beside = options.MapFile.parent_path();

@@ -10,6 +10,7 @@ namespace {
 constexpr int kYearsOfSettling = 50;
 constexpr int kYearsOfPeace = 15;
 constexpr int kYearsOfDoubt = 8;
+constexpr int kYearsBetweenFalls = 9;  // of one race of a war and of the next
 constexpr int kNowhere = std::numeric_limits<int>::max() / 4;
 
 struct Empire {
@@ -157,7 +158,7 @@ class History {
 
   void SettleUntil(int wanted, int year) {
     for (int total = TotalPlanets(); total < wanted;) {
-      const std::optional<std::size_t> race = NextToSettle();
+      const std::optional<std::size_t> race = NextToSettle(year);
       if (!race) return;
       const std::optional<std::size_t> planet = BestFreePlanet(*race, year);
       if (!planet) {
@@ -171,11 +172,12 @@ class History {
   }
 
   // The empire that lags furthest behind what its vigour promises.
-  std::optional<std::size_t> NextToSettle() const {
+  std::optional<std::size_t> NextToSettle(int year) const {
     std::optional<std::size_t> next;
     int fewest = kNowhere;
     for (std::size_t race = 0; race < empires_.size(); ++race) {
       const int size = empires_[race].Planets * 1000 / universe_.Races[race].Vigour;
+      if (IsBeaten(race) || IsFalling(race, year)) continue;
       if (empires_[race].IsHemmedIn || size >= fewest) continue;
       fewest = size;
       next = race;
@@ -241,7 +243,7 @@ class History {
     for (std::size_t race = 0; race < empires_.size(); ++race) {
       const bool isOwner = planet.History.back().Race == static_cast<int>(race);
       const int distance = empires_[race].DistanceFromEdge[index];
-      if (isOwner || distance >= nearest) continue;
+      if (isOwner || IsBeaten(race) || IsFalling(race, year) || distance >= nearest) continue;
       if (HabValue(universe_.Races[race].Ranges, planet.Original) < -12) continue;
       nearest = distance;
       winner = race;
@@ -257,10 +259,53 @@ class History {
       empire.IsHemmedIn = false;
     }
     SettleUntil(TotalPlanets() + std::max(2, planets / 50), year);
+    if (course_.IsWar) Fight(year);
     for (int tries = planets / 60 + 1; tries > 0; --tries) {
       if (random_.Chance(50)) Attack(AnyPlanet(), year);
       if (random_.Chance(25)) GiveUp(AnyPlanet(), year);
     }
+  }
+
+  // The fronts move, and who cannot hold out any longer loses planet after planet, its home last.
+  void Fight(int year) {
+    const int planets = static_cast<int>(universe_.Planets.size());
+    for (int tries = planets / 8; tries > 0; --tries) Attack(AnyPlanet(), year);
+    for (std::size_t race = 0; race < empires_.size(); ++race) {
+      if (IsFalling(race, year)) Overrun(race, year);
+    }
+  }
+
+  bool IsBeaten(std::size_t race) const { return empires_[race].Planets == 0; }
+
+  // Every second race does not live through a long war.
+  bool IsFalling(std::size_t race, int year) const {
+    const int years = year - universe_.Year;
+    return course_.IsWar && race % 2 == 1 && static_cast<int>(race) != course_.Survivor &&
+           !IsBeaten(race) && years > static_cast<int>(race / 2) * kYearsBetweenFalls;
+  }
+
+  void Overrun(std::size_t race, int year) {
+    int losses = empires_[race].Planets / 4 + 1;
+    for (std::size_t index = 0; index < universe_.Planets.size() && losses > 0; ++index) {
+      const Planet& planet = universe_.Planets[index];
+      const bool isHeld = planet.OwnerIn(year) == static_cast<int>(race);
+      const bool isSpared = planet.IsHomeWorld && empires_[race].Planets > 1;
+      if (!isHeld || isSpared || planet.History.back().Year >= year) continue;
+      Claim(NearestEnemy(race, index), index, year);
+      --losses;
+    }
+  }
+
+  std::size_t NearestEnemy(std::size_t race, std::size_t index) const {
+    std::size_t enemy = static_cast<std::size_t>(course_.Survivor);
+    for (std::size_t other = 0; other < empires_.size(); ++other) {
+      if (other == race || IsBeaten(other)) continue;
+      const auto distance = [&](std::size_t each) {
+        return empires_[each].DistanceFromEdge[index];
+      };
+      if (distance(other) < distance(enemy)) enemy = other;
+    }
+    return enemy;
   }
 
   // Colonies that never flourished are given up; what flourishes is too dear to its owner.

@@ -26,6 +26,16 @@ struct Limit {
   int Highest;
 };
 
+// The dead export nothing, and in a war not everybody finds the time.
+bool IsMissing(const Universe& universe, const GameShape& shape, int author) {
+  constexpr int kPercentMissing = 12;
+  if (!shape.IsWar || author + 1 == shape.OwnSlot) return false;
+  const bool isAlive = std::ranges::any_of(
+      universe.Planets, [&](const Planet& planet) { return planet.OwnerIn(shape.Year) == author; });
+  Random random(shape.Seed, "missing " + std::to_string(author) + " " + std::to_string(shape.Year));
+  return !isAlive || random.Chance(kPercentMissing);
+}
+
 void AddReports(const Universe& universe, const GameShape& shape, GeneratedGame& game) {
   const bool isOldStyle = shape.Style == kOldReportStyle;
   for (int slot = 1; slot <= (isOldStyle ? 1 : shape.ReportCount); ++slot) {
@@ -37,6 +47,7 @@ void AddReports(const Universe& universe, const GameShape& shape, GeneratedGame&
     const ReportHead head = {.Author = author, .Year = year, .Style = shape.Style};
     const std::vector<Sighting> known = KnowledgeOf(universe, author, year, random);
     game.ReportYears.push_back(year);
+    if (IsMissing(universe, shape, author)) continue;
     game.Files.push_back(
         {isOldStyle ? ".pla" : ".p" + std::to_string(slot), ReportText(universe, head, known)});
   }
@@ -138,9 +149,11 @@ GeneratedGame GenerateGame(const GameShape& shape) {
 }
 
 std::vector<GeneratedGame> GenerateYears(const GameShape& shape, int years) {
-  assert(CheckShape(shape) && years >= 1 && years <= kMostYears);
+  assert(CheckShape(shape) && years >= 1 && years <= MostYears(shape));
   // All years are played in any case: what settlers will make of a planet shows before they come.
-  const Universe universe = MakeUniverse(shape, NewPlanets(shape), {kSettledAtFirst, kMostYears});
+  const Universe universe =
+      MakeUniverse(shape, NewPlanets(shape),
+                   {kSettledAtFirst, MostYears(shape), shape.IsWar, shape.OwnSlot - 1});
   const std::string map = MapText(universe.Planets);
   std::vector<GeneratedGame> games;
   games.reserve(static_cast<std::size_t>(years));

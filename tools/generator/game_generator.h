@@ -29,6 +29,9 @@ struct GameShape {
   int AgeSpread = 6;            // years by which the others' reports may be older
   bool HasCompanions = false;   // whether the program's own files lie beside the game's
   bool HasTurnFiles = false;    // whether every player's turn file and the host's are there
+  /// Whether the years of `GenerateYears` are a war: planets change hands all the time, races die
+  /// out, and now and then a player has not exported a report.
+  bool IsWar = false;
 };
 
 /// One file of a game: what follows the game's name, ".p1" for instance, and the file's bytes.
@@ -42,7 +45,8 @@ struct GeneratedGame {
   std::vector<GeneratedFile> Files;
   int Year = 0;
   int OwnSlot = 1;
-  /// The year of the report of slot 1, 2, …; of the one report in an old-style game.
+  /// The year of the report of slot 1, 2, …; of the one report in an old-style game. A missing
+  /// report has one as well.
   std::vector<int> ReportYears;
 
   /// The content of the file of that extension, nullptr when the game has none.
@@ -58,8 +62,10 @@ GeneratedGame GenerateGame(const GameShape& shape);
 
 /// How many years of one game can be made.
 inline constexpr int kMostYears = 50;
+inline constexpr int kMostYearsOfWar = 200;
+inline int MostYears(const GameShape& shape) { return shape.IsWar ? kMostYearsOfWar : kMostYears; }
 
-/// Makes the shape's year of a game and the years behind it, 1 … `kMostYears` together, each with
+/// Makes the shape's year of a game and the years behind it, 1 … `MostYears` together, each with
 /// all its files. The map stays the same to the byte; from year to year the empires settle more
 /// planets and grow, and now and then a planet changes hands or is given up. A year's files do not
 /// depend on how many years are made. The game is another one than `GenerateGame` gives: its
