@@ -1,14 +1,13 @@
 // How long it takes to store a year of the largest game, and to have it back as a whole session, in
 // a history of a hundred years; and how large that history is.
 
-#include <benchmark/benchmark.h>
-
 #include <filesystem>
 #include <utility>
 
 #include "game_on_disk.h"
 #include "history/game_hash.h"
 #include "loading/load_game.h"
+#include "ratio_reporter.h"
 #include "screens/stored_session.h"
 
 namespace quorvane {
@@ -77,15 +76,6 @@ void ReadAYear(benchmark::State& state) {
   }
 }
 
-void ReadAYearWithoutInfluence(benchmark::State& state) {
-  HundredYears& game = Game();
-  const std::string hash = GameHash(game.Session);
-  for (auto _ : state) {
-    const auto read = game.Years->ReadYear(hash, kFirstYear);
-    if (!read) return state.SkipWithError(read.Message().c_str());
-  }
-}
-
 void ReadTheCurves(benchmark::State& state) {
   HundredYears& game = Game();
   const std::string hash = GameHash(game.Session);
@@ -103,13 +93,19 @@ void OpenAndCheck(benchmark::State& state) {
   }
 }
 
-BENCHMARK(StoreAYear)->Unit(benchmark::kMillisecond);
-BENCHMARK(ReadAYear)->Unit(benchmark::kMillisecond);
-BENCHMARK(ReadAYearWithoutInfluence)->Unit(benchmark::kMillisecond);
-BENCHMARK(ReadTheCurves)->Unit(benchmark::kMillisecond);
-BENCHMARK(OpenAndCheck)->Unit(benchmark::kMillisecond);
+void RegisterAll() {
+  constexpr double kStoreTarget = 40;
+  constexpr double kReadTarget = 15;
+  Register("fast/store a year, 940 planets", StoreAYear, kStoreTarget);
+  Register("fast/read a year, with influence", ReadAYear, kReadTarget);
+  Register("fast/curves of 100 years, 16 races", ReadTheCurves);
+  Register("fast/open and check 100 years", OpenAndCheck);
+}
 
 }  // namespace
 }  // namespace quorvane
 
-BENCHMARK_MAIN();
+int main(int argc, char** argv) {
+  quorvane::RegisterAll();
+  return quorvane::RunRatioBenchmarks(argc, argv);
+}

@@ -6,7 +6,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 seconds=${1:-60}
-targets="fuzz_map fuzz_report fuzz_items fuzz_companions fuzz_load"
+targets="fuzz_map fuzz_report fuzz_items fuzz_companions fuzz_history fuzz_load"
 seeds=build/fuzz/seeds
 game=build/fuzz/seeds/game
 
@@ -28,7 +28,7 @@ number_of_runs() {
   case $1 in
     fuzz_map) echo 60000 ;;
     fuzz_companions) echo 20000 ;;
-    fuzz_load) echo 2000 ;;
+    fuzz_load | fuzz_history) echo 2000 ;;
     *) echo 6000 ;;
   esac
 }

@@ -2,8 +2,8 @@
 # What run.sh, test.sh and the continuous integration share: installing what the build needs and this
 # machine lacks, and building. Every step that is not possible stops with one plain sentence.
 
-program_packages="g++ cmake ninja-build qt6-base-dev qt6-svg-dev qt6-charts-dev libqt6svg6 libgl-dev libsqlitecpp-dev \
-  libsqlite3-dev fonts-liberation"
+program_packages="g++ cmake ninja-build qt6-base-dev qt6-svg-dev qt6-charts-dev libqt6opengl6-dev libqt6svg6
+  libgl-dev libsqlitecpp-dev libsqlite3-dev fonts-liberation"
 test_packages="$program_packages libgtest-dev libbenchmark-dev libcli11-dev file dpkg-dev"
 
 say() { printf '%s\n' "$*"; }
@@ -20,7 +20,7 @@ missing_packages() {
 install_packages() {
   command -v apt-get >/dev/null || {
     say "This is no Debian system: please install cmake 3.25, ninja, a C++20 compiler, Qt 6.4 (with" \
-      "its SVG module) and, for the tests, GoogleTest, Google Benchmark and CLI11 yourself."
+      "its SVG and Charts modules), SQLiteCpp and, for the tests, GoogleTest, Google Benchmark and CLI11 yourself."
     return 0
   }
   missing=$(missing_packages "$@")

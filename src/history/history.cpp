@@ -36,6 +36,7 @@ Result<void> History::Store(const GameSession& session, std::int64_t loaded) {
   if (session.GameYear < 1) return Failure{"A game without a year is not kept"};
   try {
     WriteYear(*database_, session, loaded);
+    database_->tryExec("PRAGMA wal_checkpoint");  // so that a copy of the file alone is complete
     return {};
   } catch (const std::exception& fault) {
     return HistoryFailure(file_, "The year is not kept", fault);

@@ -3,6 +3,7 @@
 #include <SQLiteCpp/SQLiteCpp.h>
 #include <sqlite3.h>
 
+#include <string_view>
 #include <system_error>
 #include <utility>
 
@@ -44,10 +45,34 @@ void CheckContent(SQLite::Database& database) {
   if (verdict != "ok") throw SQLite::Exception(verdict, SQLITE_CORRUPT);
 }
 
+// The name of a file as one that nobody changes meanwhile.
+std::string UnchangingName(const std::filesystem::path& file) {
+  std::string name = "file:";
+  for (const char each : ShownPath(file)) {
+    constexpr std::string_view kMeaningful = "%?#";
+    constexpr std::string_view kDigits = "0123456789ABCDEF";
+    const auto byte = static_cast<unsigned char>(each);
+    if (kMeaningful.find(each) == kMeaningful.npos) {
+      name += each;
+    } else {
+      name += {'%', kDigits[byte >> 4], kDigits[byte & 15]};
+    }
+  }
+  return name + "?immutable=1";
+}
+
 HistoryFile OpenToReadOnly(const std::filesystem::path& file) {
-  HistoryFile opened{.Database = Connect(ShownPath(file), SQLite::OPEN_READONLY, kReaderPatience)};
-  TablesVersion(*opened.Database);  // finds out whether it can be read
-  return opened;
+  const auto open = [](const std::string& name, int flags) {
+    HistoryFile opened{.Database = Connect(name, SQLite::OPEN_READONLY | flags, kReaderPatience)};
+    TablesVersion(*opened.Database);  // finds out whether it can be read
+    return opened;
+  };
+  try {
+    return open(ShownPath(file), 0);
+  } catch (const SQLite::Exception&) {
+    // Where nothing may be written, there is no place for what readers and writers agree on.
+    return open(UnchangingName(file), SQLite::OPEN_URI);
+  }
 }
 
 HistoryFile OpenToWrite(const std::filesystem::path& file) {

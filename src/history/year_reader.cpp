@@ -80,7 +80,7 @@ void ReadPlanets(const SQLite::Database& database, std::int64_t year, GameSessio
       TakeField(planet.Field(field), rows.getColumn(static_cast<int>(field) + 1));
     }
     const double radius = planet[PlanetField::SoiRadius].Number();
-    if (!(radius >= 0 && radius <= kLargestSoiSetting)) Refuse("a sphere is damaged");
+    if (!(radius >= 0 && radius <= session.SoiSetting)) Refuse("a sphere is damaged");
   }
 }
 

@@ -3,6 +3,7 @@
 #include <SQLiteCpp/SQLiteCpp.h>
 #include <gtest/gtest.h>
 
+#include <random>
 #include <thread>
 
 #include "history/game_hash.h"
@@ -170,6 +171,40 @@ TEST_F(HistoryTest, WhatItCannotReadIsNeverLost) {
               "The history was damaged; the file is kept as " + (folder_ / name).string());
     Keep(history, session);
   }
+}
+
+// Bytes turned over and ends cut off, as broken disks and crashed systems leave them.
+TEST_F(HistoryTest, DamageNeverCrashesAndNeverLosesTheFile) {
+  const TempFolder folder;
+  const GameSession session = LoadGenerated(folder, generator::GenerateGame(kSmallShape));
+  {
+    History history = Opened();
+    Keep(history, session);
+  }
+  const std::string whole = folder_.Read("data/history.sqlite");
+  std::mt19937 random(3);
+  int readable = 0;
+  for (int number = 0; number < 80; ++number) {
+    std::string damaged = whole;
+    for (int flips = number % 4; flips > 0; --flips) {
+      const std::size_t reach = number % 8 < 4 ? 200 : damaged.size();
+      damaged[random() % reach] ^= static_cast<char>(1 + random() % 255);
+    }
+    if (number % 4 == 0) damaged.resize(random() % damaged.size());
+    std::filesystem::remove_all(File().parent_path());
+    std::filesystem::create_directories(File().parent_path());
+    folder_.Write("data/history.sqlite", damaged);
+    Result<History> history = History::Open(File());
+    if (!history) continue;  // told, and the file is where it was
+    if (history->Notice().find(" kept as ") != std::string::npos) {
+      EXPECT_EQ(folder_.Read("data/history.sqlite.damaged"), damaged) << number;
+      Keep(*history, session);
+    }
+    const auto read = SessionOfYear(*history, GameHash(session), session.GameYear, session);
+    EXPECT_TRUE(!read || read->PlanetCount == session.PlanetCount);
+    if (read) ++readable;
+  }
+  EXPECT_GT(readable, 40);
 }
 
 TEST_F(HistoryTest, ANewerVersionIsOnlyRead) {
