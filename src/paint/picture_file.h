@@ -7,8 +7,9 @@
 
 namespace quorvane {
 
-/// Writes a picture as a Windows bitmap, replacing a file of that name whole; the old file stays
-/// when that fails.
-Result<void> SavePicture(const std::filesystem::path& file, const QImage& picture);
+/// Writes a picture, replacing a file of that name whole; the old file stays when that fails.
+/// @param format  as Qt names it; a Windows bitmap where none is given
+Result<void> SavePicture(const std::filesystem::path& file, const QImage& picture,
+                         const char* format = "bmp");
 
 }  // namespace quorvane

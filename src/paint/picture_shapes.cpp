@@ -2,6 +2,7 @@
 
 #include <QEvent>
 #include <QPainter>
+#include <utility>
 
 #include "paint/picture_box.h"
 
@@ -69,6 +70,25 @@ void LineShape::Place(SurfacePoint from, SurfacePoint to) {
 
 void LineShape::Paint(QPainter& painter, QPointF first, QPointF last) const {
   painter.drawLine(first, last);
+}
+
+void RingsShape::Place(std::vector<SurfacePoint> centres) {
+  centres_ = std::move(centres);
+  Fit();
+}
+
+SurfacePoint RingsShape::Last() const {
+  return Picture().LogicalPoint(Picture().rect().bottomRight());
+}
+
+void RingsShape::Paint(QPainter& painter, QPointF first, QPointF last) const {
+  constexpr double kRadius = 8;  // pixels
+  const QRectF seen = QRectF(first, last).adjusted(-kRadius, -kRadius, kRadius, kRadius);
+  painter.setRenderHint(QPainter::Antialiasing);
+  for (const SurfacePoint& centre : centres_) {
+    const QPointF pixel = Picture().WidgetPoint(centre);
+    if (seen.contains(pixel)) painter.drawEllipse(pixel, kRadius, kRadius);
+  }
 }
 
 }  // namespace quorvane

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QWidget>
+#include <vector>
 
 #include "map/map_view.h"
 #include "model/race_colours.h"
@@ -32,6 +33,7 @@ class PictureShape : public QWidget {
   virtual SurfacePoint Last() const = 0;
   /// Draws the shape between its two points, given in pixels.
   virtual void Paint(QPainter& painter, QPointF first, QPointF last) const = 0;
+  const PictureBox& Picture() const { return picture_; }
 
  private:
   PictureBox& picture_;
@@ -75,6 +77,23 @@ class LineShape : public PictureShape {
  private:
   SurfacePoint from_;
   SurfacePoint to_;
+};
+
+/// Rings around places of the picture, as large at every size of it.
+class RingsShape : public PictureShape {
+ public:
+  using PictureShape::PictureShape;
+
+  void Place(std::vector<SurfacePoint> centres);
+  const std::vector<SurfacePoint>& Centres() const { return centres_; }
+
+ protected:
+  SurfacePoint First() const override { return {}; }
+  SurfacePoint Last() const override;
+  void Paint(QPainter& painter, QPointF first, QPointF last) const override;
+
+ private:
+  std::vector<SurfacePoint> centres_;
 };
 
 }  // namespace quorvane
