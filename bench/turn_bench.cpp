@@ -16,6 +16,7 @@
 #include "ui/main_window.h"
 #include "ui/map_panel.h"
 #include "ui/theme.h"
+#include "ui/years_dock.h"
 
 namespace quorvane {
 namespace {
@@ -81,6 +82,25 @@ void Reload(benchmark::State& state) {
   }
 }
 
+// To and fro between two stored years, as the slider is dragged.
+void Scrub(benchmark::State& state) {
+  const Player& player = HugePlayer();
+  Main window(player.Folder(), nullptr, player.Settings(), player.Folder() / "history.sqlite");
+  window.show();
+  window.Begin();
+  GameSession stored = window.Session();
+  for (stored.GameYear -= 2; stored.GameYear < window.Loaded().GameYear; ++stored.GameYear) {
+    if (!window.Keeper().StoreNow(stored)) return state.SkipWithError("no year was stored");
+  }
+  QApplication::processEvents();
+  bool isFirst = false;
+  for (auto _ : state) {
+    isFirst = !isFirst;
+    emit window.YearsDock->YearChosen(window.Loaded().GameYear - (isFirst ? 1 : 2));
+    benchmark::DoNotOptimize(window.grab());
+  }
+}
+
 void Survey(benchmark::State& state) {
   const GameChoice& choice = HugePlayer().choice;
   const Result<GameSession> session = LoadGame(choice, "", {});
@@ -97,6 +117,8 @@ void RegisterAll() {
   RegisterStep("fast/look at 33 of 1034 files", [] {
     benchmark::DoNotOptimize(StampGameFiles(HugePlayer().choice.MapFilePath).size());
   });
+  constexpr double kScrubTarget = 50;
+  Register("fast/another year of the huge game", Scrub, kScrubTarget);
   Register("fast/survey of 16 reports", Survey);
 }
 

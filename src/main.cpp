@@ -65,6 +65,12 @@ std::filesystem::path PreferencesPlace() {
   return quorvane::ToPath(folder) / "quorvane" / "quorvane.ini";
 }
 
+// The user's data on this machine: XDG_DATA_HOME, or the local application data of Windows.
+std::filesystem::path HistoryPlace() {
+  const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+  return quorvane::ToPath(folder) / "quorvane" / "history.sqlite";
+}
+
 // Opens the first dialog when the window has its place on the screen: it stands in the middle of
 // it.
 class FirstDialog : public QObject {
@@ -97,7 +103,7 @@ int main(int argc, char* argv[]) {
   quorvane::InstallAccessibleRoles();
   QApplication::setWindowIcon(quorvane::ThemedIcon("quorvane"));
   const Start start = FindStart();
-  quorvane::Main window(start.Folder, nullptr, PreferencesPlace());
+  quorvane::Main window(start.Folder, nullptr, PreferencesPlace(), HistoryPlace());
   if (!start.IsNamed) window.OfferLastGame();
   window.show();
   const FirstDialog firstDialog(window);

@@ -14,6 +14,7 @@
 namespace quorvane {
 namespace {
 
+constexpr const char* kWhyToSave = "You need to save for the lines to redraw";
 constexpr std::array<const char*, 4> kTools = {"Stop Drawing", "Draw a Circle", "Draw a Line",
                                                "Add text"};
 
@@ -67,6 +68,12 @@ DrawingTool DrawingTools::Tool() const {
 
 void DrawingTools::StopDrawing() { Draw[0]->setChecked(true); }
 
+void DrawingTools::EnableEditing(bool isEnabled, const QString& reason) {
+  setEnabled(isEnabled);
+  setToolTip(reason);
+  SaveQVL->setToolTip(isEnabled ? kWhyToSave : reason);
+}
+
 void DrawingTools::SelectColour(int number) {
   const auto index = static_cast<std::size_t>(number) - 1;
   if (index < DColour.size()) DColour[index]->setChecked(true);
@@ -74,7 +81,7 @@ void DrawingTools::SelectColour(int number) {
 
 void DrawingTools::AddButtons() {
   SaveQVL = NewButton("SaveQVL", tr("Save QVL"), this);
-  SaveQVL->setToolTip("You need to save for the lines to redraw");
+  SaveQVL->setToolTip(kWhyToSave);
   ClearQVL = NewButton("ClearQVL", tr("Clear QVL"), this);
 }
 

@@ -24,6 +24,9 @@ class DrawingTools : public QWidget {
   DrawingTool Tool() const;
   /// Selects "Stop Drawing": clicks on the map show details again.
   void StopDrawing();
+  /// Whether anything can be drawn, edited and saved.
+  /// @param reason  what the user is told where it cannot
+  void EnableEditing(bool isEnabled, const QString& reason);
   /// Selects a drawing colour, 1 … 7; other numbers change nothing.
   void SelectColour(int number);
 

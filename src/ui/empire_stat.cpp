@@ -140,8 +140,17 @@ void EmpireStat::ShowPlayer(int player) {
 }
 
 void EmpireStat::EnableEditing(bool isEnabled) {
-  Race->EnableEditing(isEnabled);
-  RaceNotes->setEnabled(isEnabled);
+  Race->EnableEditing(isEnabled && !isShownOnly_);
+  RaceNotes->setEnabled(isEnabled && !isShownOnly_);
+}
+
+void EmpireStat::ShowOnly(const QString& reason) {
+  isShownOnly_ = true;
+  EnableEditing(false);
+  SaveInfo->setEnabled(false);
+  for (QWidget* control : std::initializer_list<QWidget*>{SaveInfo, Race, RaceNotes}) {
+    control->setToolTip(reason);
+  }
 }
 
 // Enter in the selector ends the typing of a name.

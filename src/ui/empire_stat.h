@@ -23,6 +23,10 @@ class EmpireStat : public QDialog {
   /// Opens on the user's own race, where the game has it.
   EmpireStat(GameSession& session, Prompts& prompts, QWidget* parent);
 
+  /// Lets nothing be changed or saved.
+  /// @param reason  what the user is told of it
+  void ShowOnly(const QString& reason);
+
   QComboBox* Combo1 = nullptr;
   QTabWidget* SSTab1 = nullptr;
   EmpireTotals* Totals = nullptr;
@@ -67,6 +71,7 @@ class EmpireStat : public QDialog {
 
   GameSession& session_;
   Prompts& prompts_;
+  bool isShownOnly_ = false;
 };
 
 }  // namespace quorvane

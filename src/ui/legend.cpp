@@ -15,11 +15,12 @@ namespace {
 
 // The names of the second column would touch the swatches of the first.
 constexpr int kNameIndent = 4;
+constexpr const char* kChangeColour = "Click to Change Colour";
 
 }  // namespace
 
 RaceSwatch::RaceSwatch(QWidget* parent) : PictureBox(parent, QSizeF(kSwatchWidth, kSwatchHeight)) {
-  setToolTip("Click to Change Colour");
+  setToolTip(kChangeColour);
   setCursor(Qt::PointingHandCursor);
   setFocusPolicy(Qt::TabFocus);  // the frame of the focus would stay behind after a click
   connect(this, &PictureBox::MouseDown, this, &RaceSwatch::Chosen);
@@ -125,6 +126,13 @@ void Legend::ShowChangedColour(const GameSession& session, int row) {
   TakeColours(session);
   outlines_.at(static_cast<std::size_t>(row)) = Colour();
   for (std::size_t shown = 0; shown < colours_.size(); ++shown) PaintRow(shown);
+}
+
+void Legend::EnableChoosing(bool isEnabled, const QString& reason) {
+  for (RaceSwatch* swatch : RaceC) {
+    swatch->setEnabled(isEnabled);
+    swatch->setToolTip(isEnabled ? kChangeColour : reason);
+  }
 }
 
 void Legend::ShowNumbers(bool areShown) {

@@ -49,6 +49,9 @@ class Legend : public QObject {
   void Place(const MainLayout& layout);
   /// Shows the players of a newly loaded game.
   void ShowPlayers(const GameSession& session);
+  /// Whether colours can be changed.
+  /// @param reason  what the user is told where they cannot
+  void EnableChoosing(bool isEnabled, const QString& reason);
   /// Whether each swatch carries its race's number, for eyes to which some colours are alike.
   void ShowNumbers(bool areShown);
   /// Shows the colours of the game again after the user changed that of a row.

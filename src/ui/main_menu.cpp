@@ -103,6 +103,8 @@ void MainMenu::AddViewItems() {
   menu.addSeparator();
   ViewKey = AddSwitch(menu, "ViewKey", "&Key to the Map", Qt::Key_F2);
   ViewDistances = AddSwitch(menu, "ViewDistances", "&Distances", Qt::Key_F8);
+  ViewChanges = AddSwitch(menu, "ViewChanges", "What &Changed", Qt::Key_F4);
+  ViewYears = AddSwitch(menu, "ViewYears", "&Years", Qt::Key_F6);
   ViewKeepDestination =
       AddItem(menu, "ViewKeepDestination", "Keep as destination", nullptr, Qt::CTRL | Qt::Key_D);
 }
@@ -116,6 +118,11 @@ void MainMenu::AddGameItems() {
   GameReloadByItself = AddSwitch(menu, "GameReloadByItself", "Reload by Itself");
   menu.addSeparator();
   GameReports = AddSwitch(menu, "GameReports", "Reports ...", Qt::Key_F7);
+  menu.addSeparator();
+  GameKeepHistory = AddSwitch(menu, "GameKeepHistory", "Keep a &History");
+  GameImportYears = AddItem(menu, "GameImportYears", "&Import Earlier Years ...", nullptr);
+  GameForgetHistory =
+      AddItem(menu, "GameForgetHistory", "&Forget This Game's History ...", nullptr);
   menu.addSeparator();
   GameColoursForEveryEye =
       AddItem(menu, "GameColoursForEveryEye", "Race Colours for Every Eye", nullptr);

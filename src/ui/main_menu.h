@@ -42,6 +42,8 @@ struct MainMenu {
   QAction* ViewDistances = nullptr;
   QAction* ViewKeepDestination = nullptr;
   QAction* ViewNumbersInLegend = nullptr;
+  QAction* ViewChanges = nullptr;
+  QAction* ViewYears = nullptr;
   QMenu* ViewOverlaySets = nullptr;
 
   QAction* GameReload = nullptr;
@@ -49,6 +51,9 @@ struct MainMenu {
   QAction* GameReopenAtStart = nullptr;
   QAction* GameReloadByItself = nullptr;
   QAction* GameReports = nullptr;
+  QAction* GameKeepHistory = nullptr;
+  QAction* GameForgetHistory = nullptr;
+  QAction* GameImportYears = nullptr;
   QAction* GameColoursForEveryEye = nullptr;
   QAction* GameDefaultColours = nullptr;
 

@@ -3,6 +3,7 @@
 #include <QAbstractItemView>
 #include <QAction>
 #include <QApplication>
+#include <QDockWidget>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMenuBar>
@@ -36,6 +37,7 @@
 #include "ui/recent_games.h"
 #include "ui/reload_bar.h"
 #include "ui/texts.h"
+#include "ui/year_band.h"
 
 namespace quorvane {
 namespace {
@@ -98,15 +100,17 @@ QSize FirstSize(const QWidget& window) {
 }  // namespace
 
 Main::Main(std::filesystem::path startFolder, Prompts* prompts,
-           const std::filesystem::path& preferences)
+           const std::filesystem::path& preferences, const std::filesystem::path& history)
     : Menu(*menuBar()),
       ownPrompts_(prompts == nullptr ? std::make_unique<MessageBoxPrompts>(*this) : nullptr),
       prompts_(prompts == nullptr ? *ownPrompts_ : *prompts),
-      preferences_(preferences) {
+      preferences_(preferences),
+      keeper_(history) {
   open_.StarsInstallDir = std::move(startFolder);
   setObjectName("Main");
   BuildArea();
   BuildDocks();
+  BuildHistory();
   ConnectParts();
   ConnectMenus();
   Form_Load();
@@ -132,6 +136,7 @@ void Main::Form_Load() {
   Menu.ViewNumbersInLegend->setChecked(preferences_.Values().NumbersInLegend);
   Menu.GameReopenAtStart->setChecked(preferences_.Values().ReopenAtStart);
   Menu.GameReloadByItself->setChecked(preferences_.Values().ReloadByItself);
+  Menu.GameKeepHistory->setChecked(preferences_.Values().KeepHistory);
   RaceLegend->ShowNumbers(preferences_.Values().NumbersInLegend);
   Navigator->EnableCommands();
   sets_->ShowSets(preferences_.Values().Sets);
@@ -143,9 +148,12 @@ void Main::Form_Load() {
 // What is wrong with the preferences is no reason to interrupt anybody.
 void Main::TellFault() {
   const std::optional<PreferencesFile::Fault> fault = preferences_.TakeFault();
-  if (!fault) return;
-  theplanet->setText(" " + fault->Words);
-  SetPlainToolTip(*theplanet, fault->Details);
+  if (fault) TellQuietly(fault->Words, fault->Details);
+}
+
+void Main::TellQuietly(const QString& words, const QString& details) {
+  theplanet->setText(" " + words);
+  SetPlainToolTip(*theplanet, details);
 }
 
 void Main::BuildArea() {
@@ -168,6 +176,7 @@ void Main::BuildArea() {
   Combo1->setGeometry(PixelRect(RaceChooserRect()));
   Map = new MapPanel(*area_, state_);
   Navigator = new MapNavigator(*Map, state_, Menu);
+  Band = new YearBand(Map->Universe);
   Bar = new ReloadBar(Map->Universe);
   RaceLegend = new Legend(*area_);
   Detail = new DetailsPanel(area_);
@@ -272,6 +281,7 @@ void Main::moveEvent(QMoveEvent* event) {
 
 void Main::closeEvent(QCloseEvent* event) {
   if (!MayLeaveGame()) return event->ignore();
+  if (keep_.isActive()) KeepYear();
   RememberShown();
   preferences_.KeepPlace(kDocks, saveState());
   QMainWindow::closeEvent(event);
@@ -300,7 +310,13 @@ void Main::Form_Resize() {
 bool Main::eventFilter(QObject* target, QEvent* event) {
   const auto* widget = qobject_cast<QWidget*>(target);
   if (target == scroll_ && event->type() == QEvent::Resize) Form_Resize();  // a dock came or went
-  if (widget == nullptr || widget->window() != this) return QMainWindow::eventFilter(target, event);
+  if (widget == nullptr) return QMainWindow::eventFilter(target, event);
+  const bool isFloatingDock = qobject_cast<const QDockWidget*>(widget->window()) != nullptr;
+  if (isFloatingDock && event->type() == QEvent::KeyPress &&
+      static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape && LeaveYear(*widget)) {
+    return true;
+  }
+  if (widget->window() != this) return QMainWindow::eventFilter(target, event);
   if (event->type() == QEvent::ShortcutOverride) {
     const auto* key = static_cast<QKeyEvent*>(event);
     const bool scrolls = Navigator->LeavesAltToArrowKeys() && ScrollKeyOf(key->key()) &&
@@ -312,7 +328,7 @@ bool Main::eventFilter(QObject* target, QEvent* event) {
   if (event->type() == QEvent::KeyPress) {
     const auto* key = static_cast<QKeyEvent*>(event);
     const bool isUsed = key->key() == Qt::Key_Escape
-                            ? GiveUpZoomBox()
+                            ? GiveUpZoomBox() || LeaveYear(*widget)
                             : !UsesArrowKeys(widget) && Form_KeyDown(key->key(), key->modifiers());
     if (isUsed) return true;
   }

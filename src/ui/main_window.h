@@ -18,6 +18,7 @@
 #include "screens/unsaved_changes.h"
 #include "ui/game_memories.h"
 #include "ui/game_watcher.h"
+#include "ui/history_keeper.h"
 #include "ui/main_menu.h"
 #include "ui/open_file.h"
 #include "ui/preferences.h"
@@ -28,6 +29,7 @@ class QScrollArea;
 
 namespace quorvane {
 
+class ChangesDock;
 class DetailsPanel;
 class DistancesDock;
 class DrawingBoard;
@@ -39,6 +41,8 @@ class LongStep;
 class Manual;
 class OverlaySetsMenu;
 class ReloadBar;
+class YearBand;
+class YearsDock;
 class RecentGames;
 class ReportsDock;
 class MapNavigator;
@@ -54,8 +58,10 @@ class Main : public QMainWindow {
   /// @param startFolder  where the open dialog starts
   /// @param prompts      how to talk to the user; nullptr: message boxes
   /// @param preferences  where the user's preferences are kept; empty: nowhere
+  /// @param history      where the years of games are kept; empty: nowhere
   explicit Main(std::filesystem::path startFolder, Prompts* prompts = nullptr,
-                const std::filesystem::path& preferences = {});
+                const std::filesystem::path& preferences = {},
+                const std::filesystem::path& history = {});
   ~Main() override;
 
   /// Lets the open dialog begin with the last game, as nothing else says where to look.
@@ -71,8 +77,12 @@ class Main : public QMainWindow {
   /// Settles the overlay switches and draws the map anew: once for each action of the user.
   void DrawOverlays();
 
+  /// The year of the game that the map shows.
   const GameSession& Session() const { return session_; }
+  /// The game as it was loaded, whichever year is shown.
+  const GameSession& Loaded() const { return lookBack_ ? lookBack_->Loaded : session_; }
   GameWatcher& Watcher() { return watcher_; }
+  HistoryKeeper& Keeper() { return keeper_; }
 
   MainMenu Menu;
   MapPanel* Map = nullptr;
@@ -84,7 +94,10 @@ class Main : public QMainWindow {
   quorvane::KeyDock* KeyDock = nullptr;
   quorvane::DistancesDock* DistancesDock = nullptr;
   quorvane::ReportsDock* ReportsDock = nullptr;
+  quorvane::ChangesDock* ChangesDock = nullptr;
+  quorvane::YearsDock* YearsDock = nullptr;
   ReloadBar* Bar = nullptr;
+  YearBand* Band = nullptr;
   QComboBox* Combo1 = nullptr;
   QLabel* XYCoord = nullptr;
   QLabel* theplanet = nullptr;
@@ -128,6 +141,12 @@ class Main : public QMainWindow {
   void Bar_Dismissed();
   void ReportsDock_Ticked(int row, bool isIn);
   void ReportsDock_YearTyped(int row, const QString& year);
+  void ChangesDock_Asked();
+  void ChangesDock_SaveAsked();
+  void GameForgetHistory_Click();
+  void GameImportYears_Click();
+  void YearsDock_SavePictureAsked();
+  void YearsDock_SaveTableAsked();
   void ViewSet_Choose(int index);
   void ViewSaveSet_Click();
   void ViewRemoveSet_Click(int index);
@@ -140,7 +159,22 @@ class Main : public QMainWindow {
   void ShowKey();
   void ShowDistances();
   void ShowNearest();
-  void DistancesDock_PlanetChosen(int planet);
+  void Dock_PlanetChosen(int planet);
+  void BuildHistory();
+  void TakeGame();
+  void KeepYear();
+  void ShowHistory();
+  void ShowYear(int year);
+  void ShowLoadedYear();
+  void YearsDock_BackAsked();
+  bool LeaveYear(const QWidget& focus);
+  void ShowOtherYear(const QString& race);
+  void ShowBand();
+  void EnableEditing(bool isEnabled);
+  void ReadComparedYear(int year);
+  void ShowChanges();
+  void ShowRings();
+  void TellQuietly(const QString& words, const QString& details);
   void ViewKeepDestination_Click();
   void KeepDestination(int planet);
   void ConnectParts();
@@ -181,6 +215,13 @@ class Main : public QMainWindow {
   void PaintMap(OverlaySwitches switches);
   void ShowWhetherStopped(bool isStopped, const char* sentence);
 
+  // What is to be there again when the year that was loaded is shown once more.
+  struct LookBack {
+    GameSession Loaded;
+    MapState State;
+    ShownState Shown;
+  };
+
   std::unique_ptr<Prompts> ownPrompts_;
   Prompts& prompts_;
   PreferencesFile preferences_;
@@ -208,6 +249,14 @@ class Main : public QMainWindow {
   QTimer remember_;
   ReportSurveyor surveyor_;
   ReportSurveys surveys_;
+  HistoryKeeper keeper_;
+  QTimer keep_;
+  std::string game_;        // its hash
+  std::vector<int> years_;  // of the game that are stored
+  std::unique_ptr<LookBack> lookBack_;
+  int comparedYear_ = 0;  // chosen to be compared with; 0: the last one before
+  std::optional<GameSession> compared_;
+  std::vector<int> ringed_;  // planets
   MapState state_;
   std::optional<SurfacePoint> pointer_;  // where it was over the map last
   QScrollArea* scroll_ = nullptr;

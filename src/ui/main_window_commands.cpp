@@ -29,6 +29,7 @@
 #include "ui/overlay_bar.h"
 #include "ui/texts.h"
 #include "ui/thanksto.h"
+#include "ui/year_band.h"
 
 namespace quorvane {
 namespace {
@@ -131,6 +132,7 @@ void Main::mnuGrid_Click() {
 void Main::mnuGrid2_Click() {
   EmpireStat statistics(session_, prompts_, this);
   RememberPlace(statistics, preferences_);
+  if (lookBack_) statistics.ShowOnly(Band->Reason());
   connect(&statistics, &EmpireStat::Saved, this, [this] { saved_.TakeRaces(session_); });
   statistics.exec();
 }

@@ -45,8 +45,7 @@ void Main::BuildDocks() {
     ShowDistances();
   });
   connect(Menu.ViewKeepDestination, &QAction::triggered, this, &Main::ViewKeepDestination_Click);
-  connect(DistancesDock, &quorvane::DistancesDock::PlanetChosen, this,
-          &Main::DistancesDock_PlanetChosen);
+  connect(DistancesDock, &quorvane::DistancesDock::PlanetChosen, this, &Main::Dock_PlanetChosen);
   connect(DistancesDock, &quorvane::DistancesDock::KeepAsked, this,
           &Main::ViewKeepDestination_Click);
   connect(DistancesDock, &quorvane::DistancesDock::ForgetAsked, this,
@@ -145,7 +144,7 @@ void Main::ShowDistances() {
   DistancesDock->ShowWays(from > 0 ? session_.Planet(from).Name() : "", toPointer, toKept);
 }
 
-void Main::DistancesDock_PlanetChosen(int planet) {
+void Main::Dock_PlanetChosen(int planet) {
   SelectPlanet(state_, session_, planet);
   Selection_Changed();
   Detail->ShowPlanet(session_, planet);

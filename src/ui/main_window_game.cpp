@@ -48,6 +48,7 @@ void Main::LoadChosenGame() {
 
 // @param since  the files that the user knows the game with; nothing: those that are there now
 bool Main::Load(const GameChoice& choice, const std::optional<GameWatcher::Stamps>& since) {
+  ShowLoadedYear();
   const auto files = watcher_.LookBeforeLoad(choice.MapFilePath);
   const bool wasEnabled = Menu.mnuOver->isEnabled();
   Menu.mnuOver->setEnabled(false);
@@ -63,11 +64,14 @@ bool Main::Load(const GameChoice& choice, const std::optional<GameWatcher::Stamp
   }
   session_ = std::move(*loaded);
   next_ = session_;
+  TakeGame();
   saved_.Take(session_);
   loadedFiles_ = since ? *since : files.value_or(GameWatcher::Stamps());
   files_ = loadedFiles_;
   watcher_.Watch(since);
   ShowLoadedGame();
+  ShowHistory();
+  keep_.start();
   if (!session_.OwnersWithoutRecord.empty()) {
     prompts_.Inform(LeftOutMessage(session_.OwnersWithoutRecord));
   }
@@ -141,7 +145,8 @@ void Main::ShowAgain(const ShownState& shown) {
 }
 
 void Main::EnableGameCommands() {
-  for (QAction* command : {Menu.GameReload, Menu.GameColoursForEveryEye, Menu.GameDefaultColours}) {
+  for (QAction* command : {Menu.GameReload, Menu.GameColoursForEveryEye, Menu.GameDefaultColours,
+                           Menu.GameImportYears}) {
     command->setEnabled(session_.IsLoaded());
   }
 }
@@ -151,6 +156,7 @@ void Main::GameOption_Click() {
   preferences.NumbersInLegend = Menu.ViewNumbersInLegend->isChecked();
   preferences.ReopenAtStart = Menu.GameReopenAtStart->isChecked();
   preferences.ReloadByItself = Menu.GameReloadByItself->isChecked();
+  preferences.KeepHistory = Menu.GameKeepHistory->isChecked();
   KeepPreferences(preferences);
   RaceLegend->ShowNumbers(preferences.NumbersInLegend);
   ShowMarkerNumber();
@@ -177,7 +183,7 @@ void Main::RememberSoon() {
 
 void Main::RememberShown() {
   const GameMemory* known = memories_.Find(session_.MapFilePath);
-  if (!session_.IsLoaded() || known == nullptr) return;
+  if (!session_.IsLoaded() || known == nullptr || lookBack_) return;
   GameMemory game = *known;
   game.Shown = Shown();
   memories_.Keep(game);
@@ -186,13 +192,14 @@ void Main::RememberShown() {
 
 UnsavedChanges Main::Unsaved() const {
   if (!session_.IsLoaded()) return {};
-  UnsavedChanges changes = saved_.ChangesOf(session_);
+  UnsavedChanges changes = saved_.ChangesOf(Loaded());
   changes.Drawings = !Detail->Tools->Layer->IsSaved();
   return changes;
 }
 
 // Asks what becomes of unsaved changes before they would be lost. @return false: all stays
 bool Main::MayLeaveGame() {
+  ShowLoadedYear();
   const UnsavedChanges changes = Unsaved();
   if (!changes.Any()) return true;
   const SaveAnswer answer = prompts_.AskSave(UnsavedQuestion(changes, session_));

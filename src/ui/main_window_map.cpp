@@ -35,7 +35,7 @@ void Main::Map_Resized() {
 void Main::Repaint() {
   const QScopedValueRollback oneRedraw(isDrawing_, true);
   PaintMap(Overlays->Switches());
-  Board->DrawShapes();
+  if (!lookBack_) Board->DrawShapes();
   Map->Universe->update();
 }
 
@@ -163,12 +163,12 @@ void Main::DrawOverlays() {
   if (redraw.StopsDrawing()) Detail->Tools->StopDrawing();
   if (!redraw.IsDue) return;
   if (redraw.IsFullView) ShowFullView();
-  const bool hasDrawing = redraw.ReadsDrawing() && Board->ReadLayer();
+  const bool hasDrawing = redraw.ReadsDrawing() && (lookBack_ || Board->ReadLayer());
   redraw.Switches.Set(OverlayKind::QvlDrawing, hasDrawing);
   Overlays->Show(redraw.Switches);
-  Board->ForgetShapes();
+  if (!lookBack_) Board->ForgetShapes();
   PaintMap(redraw.Switches);
-  if (hasDrawing) Detail->Tools->SelectColour(1);
+  if (hasDrawing && !lookBack_) Detail->Tools->SelectColour(1);
   Navigator->Visit();
   ShowSets();
   RememberSoon();
@@ -224,19 +224,21 @@ void Main::PaintMap(OverlaySwitches switches) {
     const QScopedValueRollback running(redraw_, &step);
     const Progress progress = step.Display();
     drawn = universe.Picture().size();
-    isComplete = DrawOverlayStack({.Session = session_,
-                                   .State = state_,
-                                   .Switches = switches,
-                                   .Universe = universe,
-                                   .Universe2 = Map->Universe2->Surface(),
-                                   .Progress = progress,
-                                   .Drawing = Detail->Tools->Layer->Records(),
-                                   .Options = preferences_.Values().Map});
+    isComplete = DrawOverlayStack(
+        {.Session = session_,
+         .State = state_,
+         .Switches = switches,
+         .Universe = universe,
+         .Universe2 = Map->Universe2->Surface(),
+         .Progress = progress,
+         .Drawing = lookBack_ ? session_.DrawingLayer : Detail->Tools->Layer->Records(),
+         .Options = preferences_.Values().Map});
     Map->Universe->update();
   } while (universe.Picture().size() != drawn);
   if (switches.ShowsAnything()) Map->ShowHint(false);
   ShowKey();
   ShowDistances();
+  ShowRings();
   ShowWhetherStopped(!isComplete, kDrawingStopped);
 }
 

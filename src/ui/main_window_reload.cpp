@@ -45,27 +45,33 @@ void Main::Watcher_Changed(const std::filesystem::path& map, const GameWatcher::
 
 void Main::ShowNews() {
   const std::vector<FileChange> changes = FindChanges(loadedFiles_, files_);
-  if (changes.empty() || changes == dismissed_) return Bar->hide();
-  const std::string news = DescribeChanges(changes, session_, QDateTime::currentMSecsSinceEpoch());
+  if (changes.empty() || changes == dismissed_) {
+    Bar->hide();
+    return ShowBand();
+  }
+  const std::string news = DescribeChanges(changes, Loaded(), QDateTime::currentMSecsSinceEpoch());
   Bar->ShowNews(ToQString(news), PlanReload(next_, loadedFiles_, files_));
+  ShowBand();
 }
 
 void Main::Bar_Dismissed() {
   dismissed_ = FindChanges(loadedFiles_, files_);
-  Bar->hide();
+  ShowNews();
   Map->Universe->setFocus();
 }
 
 // Nobody is asked anything by this; what would have to be asked stays in the bar.
 void Main::ReloadByItself() {
   const ReloadPlan plan = PlanReload(next_, loadedFiles_, files_);
-  const bool isBusy = redraw_ != nullptr || QApplication::activeModalWidget() != nullptr;
+  const bool isBusy =
+      redraw_ != nullptr || lookBack_ || QApplication::activeModalWidget() != nullptr;
   const bool isNew = BringReports(FindChanges(loadedFiles_, files_));
   if (isNew && !isBusy && !plan.IsOwnYearAsked && !Unsaved().Any()) GameReload_Click();
 }
 
 void Main::GameReload_Click() {
   if (!session_.IsLoaded() || redraw_ != nullptr) return;
+  ShowLoadedYear();
   files_ = watcher_.LookBeforeLoad(session_.MapFilePath).value_or(files_);
   ReloadPlan plan = PlanReload(next_, loadedFiles_, files_);
   const bool isToAsk = plan.IsOwnYearAsked && Bar->isHidden();
@@ -99,13 +105,13 @@ void Main::Reload(const GameChoice& choice) {
 }
 
 void Main::SurveyReports() {
-  if (!ReportsDock->isHidden()) surveyor_.Ask(SurveyOf(session_, next_));
+  if (!ReportsDock->isHidden()) surveyor_.Ask(SurveyOf(Loaded(), next_));
   ShowReports();
 }
 
 void Main::ShowReports() {
   if (ReportsDock->isHidden()) return;
-  ReportsDock->ShowRows(DescribeReports(session_, next_, surveys_, files_));
+  ReportsDock->ShowRows(DescribeReports(Loaded(), next_, surveys_, files_));
 }
 
 void Main::ReportsDock_Ticked(int row, bool isIn) {

@@ -88,6 +88,7 @@ MapPanel::MapPanel(QWidget& area, const MapState& state)
   WayLine = new LineShape(*Universe, "WayLine");
   WayLine->AddDarkSides();
   WayLength = NewNote("WayLength", *Universe);
+  Rings = new RingsShape(*Universe, "Rings");
   MarkerNumber = NewNote("MarkerNumber", *Universe);
   CurrentSelected = new SquareShape(*Universe, "CurrentSelected");
   CurrentSelected->AddDarkSides();
@@ -142,6 +143,14 @@ void MapPanel::ShowWay(const std::optional<std::pair<StoredPoint, StoredPoint>>&
                     Universe->height() - WayLength->height());
   WayLength->move(std::clamp(middle.x() + kBeside.x(), 0, std::max(last.x(), 0)),
                   std::clamp(middle.y() + kBeside.y(), 0, std::max(last.y(), 0)));
+}
+
+void MapPanel::ShowRings(const std::vector<StoredPoint>& planets) {
+  std::vector<SurfacePoint> centres;
+  centres.reserve(planets.size());
+  for (const StoredPoint& planet : planets) centres.push_back(state_.View.ToSurface(planet));
+  Rings->Place(std::move(centres));
+  Rings->setVisible(!planets.empty());
 }
 
 void MapPanel::ShowHint(bool isShown) {

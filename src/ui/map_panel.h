@@ -5,6 +5,7 @@
 #include <QTimer>
 #include <optional>
 #include <utility>
+#include <vector>
 
 #include "map/map_state.h"
 #include "paint/picture_box.h"
@@ -36,6 +37,8 @@ class MapPanel : public QObject {
                const QString& length);
   /// Shows a race's number beside the selection marker; 0: none.
   void ShowMarkerNumber(int race);
+  /// Rings planets above the map, by their stored positions.
+  void ShowRings(const std::vector<StoredPoint>& planets);
   void ShowHint(bool isShown);
   /// Places the selection marker around the selected planet, or hides it where there is nothing to
   /// mark.
@@ -43,6 +46,8 @@ class MapPanel : public QObject {
 
   PictureBox* Universe = nullptr;
   PictureBox* Universe2 = nullptr;
+  /// The planets that the docks speak of.
+  RingsShape* Rings = nullptr;
   /// The area that is about to be shown, above the map while it is dragged.
   SquareShape* ZoomBox = nullptr;
   /// The way from the selected planet to the kept destination, and its length beside its middle.

@@ -1,6 +1,7 @@
 #include "ui/message_box_prompts.h"
 
 #include <QApplication>
+#include <QFileDialog>
 #include <QInputDialog>
 #include <QLabel>
 #include <QMessageBox>
@@ -61,6 +62,19 @@ std::optional<std::string> MessageBoxPrompts::AskText(const std::string& title,
   box.setTextValue(ToQString(preset));
   if (box.exec() != QDialog::Accepted || box.textValue().isEmpty()) return std::nullopt;
   return ToText(box.textValue());
+}
+
+std::optional<std::filesystem::path> MessageBoxPrompts::AskSaveFile(
+    const std::string& title, const std::filesystem::path& suggestion) {
+  const QString extension = PathText(suggestion.extension());
+  QFileDialog box(Parent(), ToQString(title), PathText(suggestion.parent_path()));
+  box.setObjectName("SaveFileBox");
+  box.setAcceptMode(QFileDialog::AcceptSave);
+  box.setNameFilters({QString("*%1").arg(extension), "*"});
+  box.setDefaultSuffix(extension.mid(1));
+  box.selectFile(PathText(suggestion.filename()));
+  if (box.exec() != QDialog::Accepted) return std::nullopt;
+  return ToPath(box.selectedFiles().constFirst());
 }
 
 QWidget* MessageBoxPrompts::Parent() const {

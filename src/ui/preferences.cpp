@@ -29,7 +29,8 @@ std::vector<Switch> SwitchesOf(Preferences& values) {
           {"Map/GatesOfSelectedOnly", &values.Map.GatesOfSelectedOnly},
           {"Map/NumbersInLegend", &values.NumbersInLegend},
           {"Start/ReopenLastGame", &values.ReopenAtStart},
-          {"Start/ReloadByItself", &values.ReloadByItself}};
+          {"Start/ReloadByItself", &values.ReloadByItself},
+          {"History/Keep", &values.KeepHistory}};
 }
 
 constexpr const char* kSets = "OverlaySets";

@@ -26,6 +26,8 @@ struct Preferences {
   bool ReopenAtStart = false;
   /// Whether a game whose files changed is loaded again without being asked.
   bool ReloadByItself = false;
+  /// Whether the year of every game that is loaded is stored.
+  bool KeepHistory = true;
   std::vector<OverlaySet> Sets = FirstOverlaySets();
 };
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <optional>
 #include <string>
 
@@ -22,6 +23,10 @@ class Prompts {
   /// @return nothing when the user cancelled or left the answer empty
   virtual std::optional<std::string> AskText(const std::string& title, const std::string& prompt,
                                              const std::string& preset) = 0;
+  /// Asks where to save a file, and whether one that is there is to be replaced.
+  /// @param suggestion  the path to start from; its extension is added to a name without one
+  virtual std::optional<std::filesystem::path> AskSaveFile(
+      const std::string& title, const std::filesystem::path& suggestion) = 0;
 };
 
 }  // namespace quorvane

@@ -68,6 +68,9 @@ QPushButton[range="true"]:disabled { color: #7a8495; border-color: #3a4250; }
 QLabel[title="true"] { color: #ffffff; font-size: 15pt; }
 QLabel[heading="true"] { color: #9fb4d0; }
 QLabel[note="true"] { color: #b9c4d6; background: rgba(16, 19, 25, 190); padding: 2px 6px; }
+QListView#ChangesList::item { padding: 2px 3px; }
+QFrame#YearBand { background: #54431c; border: none; border-bottom: 1px solid #e0b040; }
+QLabel#BandYear { color: #ffe9b0; font-weight: bold; }
 QFrame#ReloadBar { background: #2f3f55; border: none; border-bottom: 1px solid #6fa0d8; }
 QLabel#MarkerNumber { color: #ffffff; font-weight: bold; padding: 1px 4px; }
 QDockWidget {
@@ -76,8 +79,9 @@ QDockWidget {
 QDockWidget::title { background: #20242c; padding: 5px 8px; }
 QScrollArea#KeyList { border: 1px solid transparent; }
 QScrollArea#KeyList:focus { border-color: #ffffff; }
-QDockWidget QTreeWidget { background: #1f232b; border: 1px solid #454e5f; }
-QDockWidget QHeaderView::section { background: #333a47; border: none; padding: 2px 5px; }
+QDockWidget QTreeWidget, QTreeWidget#ImportTable { background: #1f232b; border: 1px solid #454e5f; }
+QDockWidget QHeaderView::section, QTreeWidget#ImportTable QHeaderView::section {
+  background: #333a47; border: none; padding: 2px 5px; }
 QProgressBar {
   border: 1px solid #454e5f; border-radius: 3px; background: #1f232b; text-align: center; }
 QProgressBar::chunk { background: #3d6ea5; border-radius: 2px; }

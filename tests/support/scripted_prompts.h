@@ -33,12 +33,20 @@ class ScriptedPrompts : public Prompts {
     return answer.empty() ? std::nullopt : std::optional(answer);
   }
 
+  std::optional<std::filesystem::path> AskSaveFile(
+      const std::string& title, const std::filesystem::path& suggestion) override {
+    shown_.push_back(title + " [" + suggestion.filename().string() + "]");
+    return std::exchange(saveFile_, {});
+  }
+
   /// Questions are answered so from now on; before, they are answered with no.
   void Answer(bool yes) { answer_ = yes; }
   /// Questions whether to save are answered so from now on; before, changes are discarded.
   void AnswerSave(SaveAnswer answer) { saveAnswer_ = answer; }
   /// The next text that is asked for; an empty one cancels, as every text without an answer does.
   void AnswerText(const std::string& text) { textAnswers_.push_back(text); }
+  /// Where the next file is saved; without this, saving is cancelled.
+  void AnswerSaveFile(const std::filesystem::path& file) { saveFile_ = file; }
   /// What was shown since this was last asked.
   Texts Shown() { return std::exchange(shown_, {}); }
 
@@ -47,6 +55,7 @@ class ScriptedPrompts : public Prompts {
   bool answer_ = false;
   SaveAnswer saveAnswer_ = SaveAnswer::Discard;
   std::deque<std::string> textAnswers_;
+  std::optional<std::filesystem::path> saveFile_;
 };
 
 }  // namespace quorvane
