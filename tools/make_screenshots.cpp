@@ -9,12 +9,15 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QTemporaryDir>
 #include <QTimer>
 #include <QToolButton>
 #include <algorithm>
 #include <iostream>
 
 #include "formats/turn_file.h"
+#include "loading/earlier_years.h"
+#include "loading/load_game.h"
 #include "map/planets_in_view.h"
 #include "ui/details_panel.h"
 #include "ui/distances_dock.h"
@@ -27,6 +30,7 @@
 #include "ui/overlay_bar.h"
 #include "ui/texts.h"
 #include "ui/theme.h"
+#include "ui/years_dock.h"
 
 namespace quorvane {
 namespace {
@@ -36,6 +40,7 @@ struct ScreenshotJob {
   QString MapName;
   QString OutFolder;
   QString Suffix;
+  QString Year = "2450";
 };
 
 void Save(QWidget& window, const ScreenshotJob& job, const QString& name) {
@@ -56,7 +61,7 @@ void UseOpenDialog(const ScreenshotJob& job) {
   }
   maps->setCurrentItem(nullptr);  // the first map may be the current one without being chosen
   maps->setCurrentItem(found.first());
-  dialog->findChild<QLineEdit*>("txtGameYear")->setText("2450");
+  dialog->findChild<QLineEdit*>("txtGameYear")->setText(job.Year);
   Save(*dialog, job, "open-dialog");
   dialog->findChild<QPushButton*>("Command1")->click();
 }
@@ -259,17 +264,60 @@ void TakePictures(const ScreenshotJob& job) {
   TakeNewTurn(window, job);
 }
 
+// Keeps the years that lie in folders beside the game's.
+void KeepYearsBeside(Main& window) {
+  const std::filesystem::path folder = window.Session().MapDirectory.parent_path();
+  for (const EarlierYear& year : FindEarlierYears(window.Session(), folder)) {
+    const Result<GameSession> loaded = LoadGame(year.Choice, window.Session().MyRaceName, {});
+    if (loaded) static_cast<void>(window.Keeper().StoreNow(*loaded));
+  }
+  QApplication::processEvents();
+}
+
+void TakeYears(const ScreenshotJob& job) {
+  const QTemporaryDir data;
+  Main window(ToPath(job.GameFolder), nullptr, {}, ToPath(data.filePath("history.sqlite")));
+  window.Map->Timer1->stop();
+  window.resize(1280, 800);
+  window.show();
+  QTimer::singleShot(100, &window, [&job] { UseOpenDialog(job); });
+  window.mnuMap_Click();
+  TakeDialog(window, job, "GameImportYears", "import-years");
+  KeepYearsBeside(window);
+  window.findChild<QAction*>("ViewSet(1)")->trigger();
+  window.findChild<QAction*>("ViewYears")->trigger();
+  ClickPlanet(window, HomeWorld(window.Session()));
+  Save(window, job, "years-loaded");
+  const QList<int> back = {1, 3, 30};
+  for (const int years : back) {
+    emit window.YearsDock->YearChosen(window.Loaded().GameYear - years);
+    Save(window, job, QString("years-back-%1").arg(years));
+  }
+  auto* curve = window.findChild<QComboBox*>("YearsCurve");
+  for (int kind = 0; kind < curve->count(); ++kind) {
+    curve->setCurrentIndex(kind);
+    Save(*window.YearsDock, job, QString("years-curve-%1").arg(kind));
+  }
+  window.findChild<QAction*>("ViewYears")->trigger();
+  window.findChild<QAction*>("ViewChanges")->trigger();
+  Save(window, job, "what-changed");
+}
+
 }  // namespace
 }  // namespace quorvane
 
 int main(int argc, char* argv[]) {
   QApplication application(argc, argv);
   CLI::App options("Loads a game and saves pictures of the windows.");
-  std::string game, map, out, suffix;
+  std::string game, map, out, suffix, warYear;
   options.add_option("GAME-FOLDER", game, "where the game lies")->required();
   options.add_option("MAP-NAME", map, "its map, as the open dialog lists it")->required();
   options.add_option("OUT-FOLDER", out, "where the pictures go")->required();
   options.add_option("SUFFIX", suffix, "what their names end in");
+  CLI::Option* year = options.add_option(
+      "--war", warYear,
+      "the game is of this year, and its earlier ones lie in folders beside its own: only pictures "
+      "of what looks back are taken");
   try {
     options.parse(argc, argv);
   } catch (const CLI::ParseError& error) {
@@ -278,6 +326,13 @@ int main(int argc, char* argv[]) {
   }
   using quorvane::ToQString;
   quorvane::ApplyTheme(application);
-  quorvane::TakePictures({ToQString(game), ToQString(map), ToQString(out), ToQString(suffix)});
+  quorvane::ScreenshotJob job = {ToQString(game), ToQString(map), ToQString(out),
+                                 ToQString(suffix)};
+  if (year->count() == 0) {
+    quorvane::TakePictures(job);
+  } else {
+    job.Year = ToQString(warYear);
+    quorvane::TakeYears(job);
+  }
   return 0;
 }
