@@ -7,12 +7,9 @@
 #include <vector>
 
 #include "history/race_years.h"
+#include "history/sqlite_database.h"
 #include "model/game_session.h"
 #include "model/result.h"
-
-namespace SQLite {
-class Database;
-}
 
 namespace quorvane {
 

@@ -1,15 +1,12 @@
 #pragma once
 
+#include <exception>
 #include <filesystem>
 #include <memory>
 #include <string>
 
+#include "history/sqlite_database.h"
 #include "model/result.h"
-
-namespace SQLite {
-class Database;
-class Exception;
-}  // namespace SQLite
 
 namespace quorvane {
 

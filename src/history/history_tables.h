@@ -1,8 +1,6 @@
 #pragma once
 
-namespace SQLite {
-class Database;
-}
+#include "history/sqlite_database.h"
 
 namespace quorvane {
 

@@ -2,11 +2,8 @@
 
 #include <string>
 
+#include "history/sqlite_database.h"
 #include "model/game_session.h"
-
-namespace SQLite {
-class Database;
-}
 
 namespace quorvane {
 

@@ -26,7 +26,7 @@ class InfluenceGrid {
   /// Becomes (size + 1) x (size + 1) points that nobody holds, in the memory that it has.
   void Reset(int size) {
     size_ = size;
-    const auto side = static_cast<std::size_t>(size + 1);
+    const auto side = static_cast<std::size_t>(size) + 1;
     points_.assign(side * side, {});
   }
 
