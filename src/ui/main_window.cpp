@@ -1,6 +1,8 @@
 #include "ui/main_window.h"
 
 #include <QAbstractItemView>
+#include <QAbstractSlider>
+#include <QAbstractSpinBox>
 #include <QAction>
 #include <QApplication>
 #include <QDockWidget>
@@ -56,6 +58,8 @@ bool UsesArrowKeys(const QWidget* widget) {
          qobject_cast<const QRadioButton*>(widget) != nullptr ||
          qobject_cast<const QTabBar*>(widget) != nullptr ||
          qobject_cast<const QComboBox*>(widget) != nullptr ||
+         qobject_cast<const QAbstractSlider*>(widget) != nullptr ||
+         qobject_cast<const QAbstractSpinBox*>(widget) != nullptr ||
          qobject_cast<const QAbstractItemView*>(widget) != nullptr;
 }
 

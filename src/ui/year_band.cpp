@@ -1,5 +1,6 @@
 #include "ui/year_band.h"
 
+#include <QAccessible>
 #include <QEvent>
 #include <QHBoxLayout>
 
@@ -30,8 +31,12 @@ void YearBand::ShowYear(int year, int loaded, int below) {
   loaded_ = loaded;
   below_ = below;
   Place();
+  const bool isNew = isHidden();
   show();
   raise();
+  if (!isNew) return;
+  QAccessibleEvent told(BandYear, QAccessible::Alert);
+  QAccessible::updateAccessibility(&told);
 }
 
 QString YearBand::Reason() const {

@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "history/game_hash.h"
+#include "screens/race_curves.h"
 #include "support/growing_game_folder.h"
 #include "support/loaded_game.h"
 #include "ui/changes_dock.h"
@@ -88,12 +89,19 @@ TEST_F(HistoryWindowTest, LooksBackAndReturnsToExactlyWhatWasThere) {
               "Year 2450 is shown: only 2452 can be edited and saved");
   }
   EXPECT_FALSE(driver->IsEnabled("SaveQVL"));
+  InNextDialog([](QWidget& statistics) {
+    EXPECT_FALSE(WindowDriver(statistics).IsEnabled("SaveInfo"));
+    EXPECT_FALSE(WindowDriver(statistics).IsEnabled("RaceNotes"));
+    statistics.close();
+  });
+  driver->Choose("mnuGrid2");
   EXPECT_FALSE(driver->IsEnabled("RaceC(0)"));
 
   for (int drag = 0; drag < 100; ++drag) ShowYear(2450 + drag % 3);
   ShowYear(2451);
   EXPECT_EQ(Picture(), pictures[2451]);
-  driver->Click("OvButt(3)").Choose("ViewZoomIn");
+  driver->Click("OvButt(3)").Choose("ViewZoomIn").Press("YearsSlider", Qt::Key_Left);
+  ExpectSameGame(window->Session(), loaded[2450]);
   driver->Press("YearsSlider", Qt::Key_Escape);
   ExpectSameGame(window->Session(), loaded[2452]);
   EXPECT_EQ(Picture(), before);
@@ -103,6 +111,20 @@ TEST_F(HistoryWindowTest, LooksBackAndReturnsToExactlyWhatWasThere) {
   EXPECT_EQ(driver->Find<QSlider>("YearsSlider").value(), 2);
   EXPECT_EQ(window->Detail->Tools->Layer->Records().size(), 0U) << "not saved, so not read";
   EXPECT_FALSE(window->Detail->Tools->Layer->IsSaved());
+}
+
+TEST_F(HistoryWindowTest, SavesTheCurvesAsPictureAndTable) {
+  PlayYears(2);
+  prompts.AnswerSaveFile(data / "curves.png");
+  driver->Click("YearsSavePicture");
+  EXPECT_GT(QImage(QString::fromStdString((data / "curves.png").string())).width(), 200);
+  prompts.AnswerSaveFile(data / "curves.csv");
+  driver->Click("YearsSaveTable");
+  const std::vector<RaceYear>& curves = window->YearsDock->Curves();
+  EXPECT_EQ(data.Read("curves.csv"), CurvesCsv(curves));
+  ASSERT_EQ(curves.size(), 3U * 4);
+  EXPECT_EQ(curves.back().Population,
+            loaded[2452].Player(4)[PlayerField::TotalPopulation].Number());
 }
 
 TEST_F(HistoryWindowTest, WhatWouldLeaveTheYearComesBackFirst) {
