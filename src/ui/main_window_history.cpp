@@ -3,7 +3,6 @@
 #include <QAction>
 #include <QMenu>
 #include <QScopedValueRollback>
-#include <algorithm>
 #include <set>
 #include <utility>
 
@@ -17,6 +16,7 @@
 #include "screens/main_texts.h"
 #include "screens/race_curves.h"
 #include "screens/stored_session.h"
+#include "screens/year_choice.h"
 #include "ui/changes_dock.h"
 #include "ui/controls.h"
 #include "ui/details_panel.h"
@@ -96,12 +96,8 @@ void Main::ShowHistory() {
   }
   Menu.GameForgetHistory->setEnabled(!years_.empty());
   if (!YearsDock->isHidden()) {
-    std::vector<int> shown = years_;
     const int loaded = Loaded().GameYear;
-    const auto place = std::ranges::lower_bound(shown, loaded);
-    const bool isMissing = place == shown.end() || *place != loaded;
-    if (loaded > 0 && isMissing) shown.insert(place, loaded);
-    YearsDock->ShowYears(shown, loaded, session_.GameYear);
+    YearsDock->ShowYears(YearsToShow(years_, loaded), loaded, session_.GameYear);
     const auto curves = history != nullptr ? history->RaceYears(game_) : std::vector<RaceYear>();
     YearsDock->ShowCurves(curves ? *curves : std::vector<RaceYear>());
   }
@@ -220,10 +216,8 @@ void Main::ReadComparedYear(int year) {
 void Main::ShowChanges() {
   ringed_.clear();
   if (ChangesDock->isHidden() || !session_.IsLoaded()) return ShowRings();
-  std::vector<int> earlier = years_;
-  std::erase_if(earlier, [this](int year) { return year >= session_.GameYear; });
-  const bool isThere = std::ranges::binary_search(earlier, comparedYear_);
-  const int year = isThere ? comparedYear_ : earlier.empty() ? 0 : earlier.back();
+  const std::vector<int> earlier = YearsBefore(years_, session_.GameYear);
+  const int year = ComparedYear(earlier, comparedYear_);
   ReadComparedYear(year);
   ChangesDock->ShowYears(earlier, year);
   if (!compared_) {
@@ -254,9 +248,7 @@ void Main::ShowRings() {
 }
 
 void Main::ChangesDock_Asked() {
-  comparedYear_ = ChangesDock->Against();
-  const auto last = std::ranges::lower_bound(years_, session_.GameYear);
-  if (last != years_.begin() && *std::prev(last) == comparedYear_) comparedYear_ = 0;
+  comparedYear_ = RememberedChoice(YearsBefore(years_, session_.GameYear), ChangesDock->Against());
   ShowChanges();
 }
 
