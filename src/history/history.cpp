@@ -4,14 +4,13 @@
 
 #include <utility>
 
-#include "history/history_file.h"
 #include "history/year_reader.h"
 #include "history/year_writer.h"
 
 namespace quorvane {
 
 History::History(std::filesystem::path file, std::unique_ptr<SQLite::Database> database,
-                 bool isWritable, std::string notice)
+                 bool isWritable, HistoryNotice notice)
     : file_(std::move(file)),
       database_(std::move(database)),
       isWritable_(isWritable),
@@ -29,7 +28,7 @@ Result<History> History::Open(const std::filesystem::path& file) {
 Result<History> History::OpenToRead(const std::filesystem::path& file) {
   Result<HistoryFile> opened = OpenHistoryFileToRead(file);
   if (!opened) return opened.Error();
-  return History(file, std::move(opened->Database), false, "");
+  return History(file, std::move(opened->Database), false, {});
 }
 
 Result<void> History::Store(const GameSession& session, std::int64_t loaded) {

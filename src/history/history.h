@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "history/history_file.h"
 #include "history/race_years.h"
 #include "history/sqlite_database.h"
 #include "model/game_session.h"
@@ -42,8 +43,7 @@ class History {
 
   /// Whether years can be stored.
   bool IsWritable() const { return isWritable_; }
-  /// What the user should know of how the history was opened; mostly nothing.
-  const std::string& Notice() const { return notice_; }
+  const HistoryNotice& Notice() const { return notice_; }
 
   /// Stores all that is known of a year of a game, but for the influence grid, which can be
   /// computed again. The same year of the game is replaced. Fails for a session whose year is not
@@ -65,12 +65,12 @@ class History {
 
  private:
   History(std::filesystem::path file, std::unique_ptr<SQLite::Database> database, bool isWritable,
-          std::string notice);
+          HistoryNotice notice);
 
   std::filesystem::path file_;
   std::unique_ptr<SQLite::Database> database_;
   bool isWritable_ = false;
-  std::string notice_;
+  HistoryNotice notice_;
 };
 
 }  // namespace quorvane

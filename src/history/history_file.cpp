@@ -84,7 +84,9 @@ HistoryFile OpenToWrite(const std::filesystem::path& file) {
   if (TablesVersion(database) > kTablesVersion) {
     opened.Database.reset();
     opened = OpenToReadOnly(file);
-    opened.Notice = "The history was written by a newer version: nothing is added to it";
+    opened.Notice = {"History of a newer version",
+                     "The history was written by a newer version, and nothing is added to it: " +
+                         ShownPath(file)};
     return opened;
   }
   // Where a network's folders cannot do this, the older way of writing goes on.
@@ -116,7 +118,8 @@ HistoryFile BeginAnew(const std::filesystem::path& file, const SQLite::Exception
   const std::filesystem::path kept = SetAside(file);
   if (kept.empty()) throw SQLite::Exception(fault);
   HistoryFile opened = OpenToWrite(file);
-  opened.Notice = "The history was damaged; the file is kept as " + ShownPath(kept);
+  opened.Notice = {"History was damaged",
+                   "The history was damaged; the file is kept as " + ShownPath(kept)};
   return opened;
 }
 
@@ -147,7 +150,8 @@ Result<HistoryFile> OpenHistoryFile(const std::filesystem::path& file) {
   } catch (const std::exception& fault) {
     Result<HistoryFile> readable = OpenHistoryFileToRead(file);
     if (!readable) return HistoryFailure(file, "No history can be kept", fault);
-    readable->Notice = HistoryFailure(file, "The history can only be read", fault).Message;
+    readable->Notice = {"History can only be read",
+                        HistoryFailure(file, "The history can only be read", fault).Message};
     return readable;
   }
 }

@@ -10,11 +10,19 @@
 
 namespace quorvane {
 
+/// What the user should know of how a history was opened; mostly nothing.
+struct HistoryNotice {
+  std::string Words;    // a few
+  std::string Details;  // with the file
+
+  bool operator==(const HistoryNotice&) const = default;
+};
+
 /// An open history file.
 struct HistoryFile {
   std::unique_ptr<SQLite::Database> Database;
   bool IsWritable = false;
-  std::string Notice;
+  HistoryNotice Notice;
 };
 
 /// Opens, checks and if need be makes the file of a history; a damaged one is moved aside.

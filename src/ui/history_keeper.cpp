@@ -81,9 +81,8 @@ Result<void> HistoryKeeper::OpenInThread() {
     return opened.Error();
   }
   history_ = std::move(*opened);
-  if (!history_->Notice().empty()) {
-    TellFromThread(tr("Something is wrong with the history"), history_->Notice());
-  }
+  const HistoryNotice& notice = history_->Notice();
+  if (!notice.Words.empty()) TellFromThread(ToQString(notice.Words), notice.Details);
   QMetaObject::invokeMethod(
       this,
       [this] {

@@ -167,7 +167,7 @@ TEST_F(HistoryTest, WhatItCannotReadIsNeverLost) {
     History history = Opened();
     const std::string name = "data/history.sqlite.damaged" + kept;
     EXPECT_EQ(folder_.Read(name), bytes);
-    EXPECT_EQ(history.Notice(),
+    EXPECT_EQ(history.Notice().Details,
               "The history was damaged; the file is kept as " + (folder_ / name).string());
     Keep(history, session);
   }
@@ -196,7 +196,7 @@ TEST_F(HistoryTest, DamageNeverCrashesAndNeverLosesTheFile) {
     folder_.Write("data/history.sqlite", damaged);
     Result<History> history = History::Open(File());
     if (!history) continue;  // told, and the file is where it was
-    if (history->Notice().find(" kept as ") != std::string::npos) {
+    if (history->Notice().Words == "History was damaged") {
       EXPECT_EQ(folder_.Read("data/history.sqlite.damaged"), damaged) << number;
       Keep(*history, session);
     }
@@ -217,7 +217,7 @@ TEST_F(HistoryTest, ANewerVersionIsOnlyRead) {
   SQLite::Database(File().string(), SQLite::OPEN_READWRITE).exec("PRAGMA user_version = 2");
   History history = Opened();
   EXPECT_FALSE(history.IsWritable());
-  EXPECT_EQ(history.Notice(), "The history was written by a newer version: nothing is added to it");
+  EXPECT_EQ(history.Notice().Words, "History of a newer version");
   EXPECT_TRUE(history.ReadYear(GameHash(session), session.GameYear));
   session.GameYear = 2300;
   EXPECT_FALSE(history.Store(session, kLoaded));

@@ -44,7 +44,7 @@ TEST_F(HistoryFaultsTest, AFullDiskKeepsTheYearsThatAreThere) {
   }
   EXPECT_TRUE(history->Store(session, 0)) << "there is room again";
   history = OpenNow();
-  EXPECT_EQ(history->Notice(), "");
+  EXPECT_EQ(history->Notice(), HistoryNotice());
   EXPECT_EQ(history->ReadYear(game, known)->PlanetCount, session.PlanetCount);
 }
 
@@ -55,7 +55,7 @@ TEST_F(HistoryFaultsTest, IsReadWhereNothingMayBeWritten) {
     const OrdinaryUser nobody;
     const std::optional<History> history = OpenNow();
     EXPECT_FALSE(history->IsWritable());
-    EXPECT_TRUE(history->Notice().starts_with("The history can only be read: "));
+    EXPECT_TRUE(history->Notice().Details.starts_with("The history can only be read: "));
     EXPECT_TRUE(history->ReadYear(game, session.GameYear));
   }
   fs::permissions(folder.Path(), fs::perms::owner_all);

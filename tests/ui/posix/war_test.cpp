@@ -81,7 +81,7 @@ TEST_F(WarTest, EveryYearIsWholeOrNotThereHoweverOftenTheProgramIsKilled) {
     StoreUntilKilled(stored % years.size(), static_cast<useconds_t>(random() % 60'000));
     Result<History> history = History::Open(file);
     ASSERT_TRUE(history) << history.Message();
-    ASSERT_EQ(history->Notice(), "");
+    ASSERT_EQ(history->Notice().Details, "");
     GameSession room;
     const auto kept = history->Years(game);
     ASSERT_TRUE(kept) << kept.Message();
