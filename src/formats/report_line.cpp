@@ -53,6 +53,15 @@ std::string_view ReportLine::Text(std::size_t field) const {
   return ends_[field] > start ? line_.substr(start, ends_[field] - start) : StandInFor(field);
 }
 
+std::string_view ReportLine::Written(ReportField field) const {
+  const auto number = static_cast<std::size_t>(field);
+  if (number > splitCount_) return {};
+  const std::size_t start = number > 0 ? ends_[number - 1] + 1 : 0;
+  if (start > line_.size()) return {};
+  const std::size_t end = number < splitCount_ ? ends_[number] : line_.size();
+  return line_.substr(start, end - start);
+}
+
 void ReportLine::CopyTo(FieldValue& target, std::size_t field) const {
   if (field < count_) {
     target.SetText(Text(field));

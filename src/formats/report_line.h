@@ -17,6 +17,7 @@ enum class ReportField : std::size_t {
   Age = 3,  // years
   Population = 4,
   Value = 5,  // percent for the report's race
+  ProductionQueue = 6,
   Mines = 7,
   Factories = 8,
   Defence = 9,      // coverage in percent
@@ -26,11 +27,15 @@ enum class ReportField : std::size_t {
   Resources = 19,
   Gravity = 20,  // then temperature, radiation, and the second readings of all three
   TerraValue = 26,
-  ExtraValue = 27,
+  ExtraValue = 27,  // capacity used in percent
   ScanRange = 28,
   PenScanRange = 29,
+  DriverTarget = 30,
+  DriverWarp = 31,
+  Route = 32,
   GateRange = 33,  // -1: unlimited
   GateMass = 34,   // -1: unlimited
+  StarbaseDamage = 35,
 };
 
 inline constexpr std::size_t kReportFields = 37;
@@ -46,6 +51,9 @@ class ReportLine {
   std::size_t Count() const { return count_; }
   std::string_view Text(std::size_t field) const;
   std::string_view Text(ReportField field) const { return Text(static_cast<std::size_t>(field)); }
+  /// A field as it is written, without what an empty one means; the text behind the last TAB counts
+  /// as one. Empty where the line does not have it.
+  std::string_view Written(ReportField field) const;
   double Number(ReportField field) const { return NumericValue(Text(field)); }
   /// Stores the field in a planet's record: its text, or nothing where the line does not have it.
   void CopyTo(FieldValue& target, std::size_t field) const;

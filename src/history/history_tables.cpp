@@ -65,8 +65,20 @@ CREATE TABLE drawings (
 ) WITHOUT ROWID;
 )";
 
+// What reports say of a planet beyond its fields, in the order of `PlanetExtra`, and which fields
+// they leave out. Older years stay without.
+constexpr const char* kPlanetExtras = R"(
+ALTER TABLE planets ADD COLUMN ProductionQueue;
+ALTER TABLE planets ADD COLUMN CapacityUsed;
+ALTER TABLE planets ADD COLUMN DriverTarget;
+ALTER TABLE planets ADD COLUMN DriverWarp;
+ALTER TABLE planets ADD COLUMN Route;
+ALTER TABLE planets ADD COLUMN StarbaseDamage;
+ALTER TABLE planets ADD COLUMN LeftOut INTEGER;
+)";
+
 // What leads from the tables of a version to those of the next; version 0 has none.
-constexpr const char* kSteps[] = {kFirstTables};
+constexpr const char* kSteps[] = {kFirstTables, kPlanetExtras};
 static_assert(std::size(kSteps) == kTablesVersion);
 
 }  // namespace

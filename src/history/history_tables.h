@@ -5,7 +5,7 @@
 namespace quorvane {
 
 /// The version of the tables that this program writes.
-inline constexpr int kTablesVersion = 1;
+inline constexpr int kTablesVersion = 2;
 
 /// The version of a database's tables; 0 for a new one.
 int TablesVersion(SQLite::Database& database);

@@ -68,6 +68,18 @@ std::size_t CountPlanets(const SQLite::Database& database, std::int64_t year) {
   return static_cast<std::size_t>(count.getColumn(0).getInt64());
 }
 
+// A history that nobody may write to can still have the tables of an older version.
+void TakeExtras(PlanetRecord& planet, const SQLite::Statement& row) {
+  constexpr int kFirstColumn = static_cast<int>(kPlanetFieldCount) + 2;
+  constexpr int kLeftOutColumn = kFirstColumn + static_cast<int>(kPlanetExtraCount);
+  if (row.getColumnCount() <= kLeftOutColumn) return;
+  for (std::size_t extra = 0; extra < kPlanetExtraCount; ++extra) {
+    TakeField(planet[static_cast<PlanetExtra>(extra)],
+              row.getColumn(kFirstColumn + static_cast<int>(extra)));
+  }
+  planet.LeftOut() = static_cast<std::uint64_t>(row.getColumn(kLeftOutColumn).getInt64());
+}
+
 void ReadPlanets(const SQLite::Database& database, std::int64_t year, GameSession& session) {
   SQLite::Statement rows(database, "SELECT * FROM planets WHERE year_id = ? ORDER BY planet");
   rows.bind(1, year);
@@ -79,6 +91,7 @@ void ReadPlanets(const SQLite::Database& database, std::int64_t year, GameSessio
     for (std::size_t field = 1; field <= kPlanetFieldCount; ++field) {
       TakeField(planet.Field(field), rows.getColumn(static_cast<int>(field) + 1));
     }
+    TakeExtras(planet, rows);
     const double radius = planet[PlanetField::SoiRadius].Number();
     if (!(radius >= 0 && radius <= session.SoiSetting)) Refuse("a sphere is damaged");
   }

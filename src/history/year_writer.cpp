@@ -129,14 +129,18 @@ void AddPlayers(SQLite::Database& database, const GameSession& session, std::int
 }
 
 void AddPlanets(SQLite::Database& database, const GameSession& session, std::int64_t year) {
-  constexpr std::size_t kOtherColumns = 2;
-  SQLite::Statement added(database, InsertInto("planets", kOtherColumns + kPlanetFieldCount));
+  constexpr std::size_t kOtherColumns = 3;
+  SQLite::Statement added(
+      database, InsertInto("planets", kOtherColumns + kPlanetFieldCount + kPlanetExtraCount));
   Row row(added);
-  for (int planet = 1; planet <= session.PlanetCount; ++planet) {
-    row.Number(year).Number(planet);
-    for (std::size_t field = 1; field <= kPlanetFieldCount; ++field) {
-      row.Field(session.Planet(planet).Field(field));
+  for (int number = 1; number <= session.PlanetCount; ++number) {
+    const PlanetRecord& planet = session.Planet(number);
+    row.Number(year).Number(number);
+    for (std::size_t field = 1; field <= kPlanetFieldCount; ++field) row.Field(planet.Field(field));
+    for (std::size_t extra = 0; extra < kPlanetExtraCount; ++extra) {
+      row.Field(planet[static_cast<PlanetExtra>(extra)]);
     }
+    row.Number(static_cast<std::int64_t>(planet.LeftOut().to_ullong()));
     row.Insert();
   }
 }

@@ -6,6 +6,7 @@
 
 #include "formats/report_file.h"
 #include "loading/report_reading.h"
+#include "model/text.h"
 #include "rules/sphere_of_influence.h"
 
 namespace quorvane {
@@ -30,12 +31,41 @@ constexpr FieldCopy kCommonCopies[] = {
     {PlanetField::Resources, ReportField::Resources, 1},
     {PlanetField::DefencePercent, ReportField::Defence, 4},  // and the three stored minerals
     {PlanetField::IronMC, ReportField::IronMC, 3}};
+struct ExtraCopy {
+  PlanetExtra To;
+  ReportField From;
+};
+
+constexpr ExtraCopy kExtraCopies[] = {{PlanetExtra::ProductionQueue, ReportField::ProductionQueue},
+                                      {PlanetExtra::CapacityUsed, ReportField::ExtraValue},
+                                      {PlanetExtra::DriverTarget, ReportField::DriverTarget},
+                                      {PlanetExtra::DriverWarp, ReportField::DriverWarp},
+                                      {PlanetExtra::Route, ReportField::Route},
+                                      {PlanetExtra::StarbaseDamage, ReportField::StarbaseDamage}};
 constexpr FieldCopy kEnvironmentCopy = {PlanetField::Gravity, ReportField::Gravity, 6};
 
 void CopyFields(PlanetRecord& planet, const ReportLine& line, const FieldCopy& copy) {
   for (std::size_t i = 0; i < copy.Count; ++i) {
     line.CopyTo(planet.Field(NumberOf(copy.To) + i), NumberOf(copy.From) + i);
   }
+}
+
+// Of several reports of one year, the owner's tells more than those of his neighbours.
+void StoreExtras(PlanetRecord& planet, const ReportLine& line, bool isSameYear) {
+  for (const auto& [to, from] : kExtraCopies) {
+    const std::string_view text = Trimmed(line.Written(from));
+    if (!text.empty()) {
+      planet[to].SetText(text);
+    } else if (!isSameYear) {
+      planet[to] = FieldValue();
+    }
+  }
+}
+
+// A number that the report leaves out reads as 0, and is not known.
+void StoreNumber(PlanetRecord& planet, PlanetField to, const ReportLine& line, ReportField from) {
+  planet[to] = line.Number(from);
+  planet.LeftOut()[NumberOf(to)] = !HasDigit(line.Text(from));
 }
 
 void StoreMiningRates(PlanetRecord& planet, const ReportLine& line) {
@@ -112,6 +142,8 @@ void ReportMerge::ShareAmongNamesakes() {
     for (std::size_t field = NumberOf(PlanetField::Owner); field <= kPlanetFieldCount; ++field) {
       target.Field(field) = source.Field(field);
     }
+    for (const auto& [extra, from] : kExtraCopies) target[extra] = source[extra];
+    target.LeftOut() = source.LeftOut();
   }
 }
 
@@ -122,7 +154,7 @@ void ReportMerge::MergeOwnLine(PlanetRecord& planet, const ReportLine& line,
   if (planet.SoiRadius() < kSmallestOwnRadius && !planet.Owner().empty()) {
     planet[PlanetField::SoiRadius] = kSmallestOwnRadius;
   }
-  planet[PlanetField::HabValue] = line.Number(ReportField::Value);
+  StoreNumber(planet, PlanetField::HabValue, line, ReportField::Value);
   if (planet[PlanetField::Resources].Number() > 0) session_.MyRaceName = planet.Owner();
   if (session_.ReportStyle == kNewReportStyle) StoreOwnEnvironment(planet, line);
 }
@@ -151,6 +183,7 @@ void ReportMerge::StoreCommonFields(PlanetRecord& planet, const ReportLine& line
                                     std::optional<double> age) {
   for (const FieldCopy& copy : kCommonCopies) CopyFields(planet, line, copy);
   if (session_.ReportStyle == kNewReportStyle) CopyFields(planet, line, kEnvironmentCopy);
+  StoreExtras(planet, line, age && planet[PlanetField::ReportAge] == FieldValue(*age));
   planet[PlanetField::ReportAge] = age ? FieldValue(*age) : FieldValue();
   planet[PlanetField::AgeText] = age ? FieldValue(AgeTextOf(*age)) : FieldValue();
   StorePopulation(planet, line);
@@ -162,12 +195,12 @@ void ReportMerge::StoreCommonFields(PlanetRecord& planet, const ReportLine& line
 }
 
 void ReportMerge::StoreOwnEnvironment(PlanetRecord& planet, const ReportLine& line) {
-  planet[PlanetField::TerraValue] = line.Number(ReportField::TerraValue);
-  planet[PlanetField::ExtraValue] = line.Number(ReportField::ExtraValue);
+  StoreNumber(planet, PlanetField::TerraValue, line, ReportField::TerraValue);
+  StoreNumber(planet, PlanetField::ExtraValue, line, ReportField::ExtraValue);
   planet[PlanetField::GateRange] = UnlimitedWhenMinusOne(line.Number(ReportField::GateRange));
   planet[PlanetField::GateMass] = UnlimitedWhenMinusOne(line.Number(ReportField::GateMass));
-  planet[PlanetField::ScanRange] = line.Number(ReportField::ScanRange);
-  planet[PlanetField::PenScanRange] = line.Number(ReportField::PenScanRange);
+  StoreNumber(planet, PlanetField::ScanRange, line, ReportField::ScanRange);
+  StoreNumber(planet, PlanetField::PenScanRange, line, ReportField::PenScanRange);
 }
 
 }  // namespace quorvane

@@ -155,6 +155,8 @@ double NumericValue(std::string_view text) {
                            [](std::string_view kept) { return ReadLeadingNumber(kept).Value; });
 }
 
+bool HasDigit(std::string_view text) { return std::ranges::any_of(text, IsDigit); }
+
 std::optional<double> WholeTextNumber(std::string_view text) {
   if (const auto value = ReadShortWhole(text)) return value;
   return ReadWithoutBlanks(text, [](std::string_view kept) -> std::optional<double> {

@@ -19,6 +19,9 @@ double NumericValue(std::string_view text);
 /// "Uninhabited" and the empty text give nothing.
 std::optional<double> WholeTextNumber(std::string_view text);
 
+/// Whether a text has a digit, and so a number to tell: "Unknown" and "Remote" have none.
+bool HasDigit(std::string_view text);
+
 /// A number in its shortest decimal form with at most 15 significant digits, never with an
 /// exponent: 8, 0.12, -40.
 std::string NumberText(double value);

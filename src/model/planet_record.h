@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <bitset>
 #include <cstddef>
 #include <string>
 
@@ -53,6 +54,18 @@ enum class PlanetField : std::size_t {
 };
 
 inline constexpr std::size_t kPlanetFieldCount = 39;
+
+/// What a report says of a planet beyond the numbered fields, in its own words; empty: not known.
+enum class PlanetExtra : std::size_t {
+  ProductionQueue,
+  CapacityUsed,  // percent
+  DriverTarget,  // where the mass driver sends its packets
+  DriverWarp,
+  Route,           // where new ships are sent
+  StarbaseDamage,  // percent
+};
+inline constexpr std::size_t kPlanetExtraCount = 6;
+
 /// What an unlimited stargate range or mass is kept as.
 inline constexpr double kUnlimitedGate = 10000;
 /// The starbase text of a planet that has none.
@@ -72,6 +85,14 @@ class PlanetRecord {
   const FieldValue& operator[](PlanetField field) const {
     return Field(static_cast<std::size_t>(field));
   }
+
+  FieldValue& operator[](PlanetExtra extra) { return extras_.at(static_cast<std::size_t>(extra)); }
+  const FieldValue& operator[](PlanetExtra extra) const {
+    return extras_.at(static_cast<std::size_t>(extra));
+  }
+  /// The fields in which a 0 stands only because the report leaves them out, by their numbers.
+  std::bitset<kPlanetFieldCount + 1>& LeftOut() { return leftOut_; }
+  const std::bitset<kPlanetFieldCount + 1>& LeftOut() const { return leftOut_; }
 
   /// Stored position in light years.
   int X() const { return WholeOf(PlanetField::X); }
@@ -97,6 +118,8 @@ class PlanetRecord {
   int WholeOf(PlanetField field) const { return static_cast<int>((*this)[field].Number()); }
 
   std::array<FieldValue, kPlanetFieldCount + 1> fields_;  // 0 is not used
+  std::array<FieldValue, kPlanetExtraCount> extras_;
+  std::bitset<kPlanetFieldCount + 1> leftOut_;
 };
 
 }  // namespace quorvane

@@ -207,6 +207,34 @@ TEST_F(HistoryTest, DamageNeverCrashesAndNeverLosesTheFile) {
   EXPECT_GT(readable, 40);
 }
 
+TEST_F(HistoryTest, AnOlderVersionIsBroughtUpToDateAndItsYearsStay) {
+  const TempFolder folder;
+  GameSession session = LoadGenerated(folder, generator::GenerateGame(kSmallShape));
+  {
+    History history = Opened();
+    Keep(history, session);
+  }
+  {
+    SQLite::Database database(File().string(), SQLite::OPEN_READWRITE);
+    for (const char* column : {"ProductionQueue", "CapacityUsed", "DriverTarget", "DriverWarp",
+                               "Route", "StarbaseDamage", "LeftOut"}) {
+      database.exec(std::string("ALTER TABLE planets DROP COLUMN ") + column);
+    }
+    database.exec("PRAGMA user_version = 1");
+  }
+  const Result<History> reader = History::OpenToRead(File());
+  ASSERT_TRUE(reader && reader->ReadYear(GameHash(session), session.GameYear));
+  History history = Opened();
+  const auto read = history.ReadYear(GameHash(session), session.GameYear);
+  ASSERT_TRUE(read);
+  EXPECT_TRUE(read->Planet(1)[PlanetExtra::CapacityUsed].IsEmpty());
+  EXPECT_EQ(read->Planet(1).Name(), session.Planet(1).Name());
+  ++session.GameYear;
+  Keep(history, session);
+  EXPECT_TRUE(history.ReadYear(GameHash(session), session.GameYear)->PlanetTable ==
+              session.PlanetTable);
+}
+
 TEST_F(HistoryTest, ANewerVersionIsOnlyRead) {
   const TempFolder folder;
   GameSession session = LoadGenerated(folder, generator::GenerateGame(kSmallShape));
@@ -214,7 +242,7 @@ TEST_F(HistoryTest, ANewerVersionIsOnlyRead) {
     History history = Opened();
     Keep(history, session);
   }
-  SQLite::Database(File().string(), SQLite::OPEN_READWRITE).exec("PRAGMA user_version = 2");
+  SQLite::Database(File().string(), SQLite::OPEN_READWRITE).exec("PRAGMA user_version = 3");
   History history = Opened();
   EXPECT_FALSE(history.IsWritable());
   EXPECT_EQ(history.Notice().Words, "History of a newer version");

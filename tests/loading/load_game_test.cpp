@@ -84,6 +84,33 @@ TEST_F(LoadGameTest, AppliesTheCompanionFiles) {
             (Texts{"9", "a note"}));
 }
 
+TEST_F(LoadGameTest, KeepsWhatReportsSayBeyondTheFields) {
+  const std::string line = folder.Read("Demo.P3");
+  std::string owner = line.substr(line.find("Gamma"), line.find("\r\nAlpha") - line.find("Gamma"));
+  const auto replace = [&owner](std::string_view from, std::string_view to) {
+    owner.replace(owner.find(from), from.size(), to);
+  };
+  replace("100%\t\t", "100%\t    Scout (2)\t");
+  replace("100\t\t0\t\t-1\t-1\t0", "100\tAlpha\t7\tDelta\t-1\t-1\t12");
+  folder.Write("Demo.P3", "heading\r\n" + owner + "\r\n");
+  folder.Write("Demo.P4", "heading\r\nGamma\tDrask\tDeath Star\t0\t1300000\t-3%\t\r\n");
+  const GameSession loaded = Load();
+  using Extra = PlanetExtra;
+  const auto extras = [&](int planet) {
+    return TextsOf(loaded.Planet(planet),
+                   {Extra::ProductionQueue, Extra::CapacityUsed, Extra::DriverTarget,
+                    Extra::DriverWarp, Extra::Route, Extra::StarbaseDamage});
+  };
+  EXPECT_EQ(extras(1), (Texts{"--- Queue is Empty ---", "61", "", "0", "", "0"}));
+  EXPECT_EQ(extras(3), (Texts{"Scout (2)", "61", "Alpha", "7", "Delta", "12"}));
+  EXPECT_EQ(FieldText(loaded.Planet(3)[PlanetField::Population]), "1300000") << "of the last one";
+  const auto isLeftOut = [&](int planet, PlanetField field) {
+    return loaded.Planet(planet).LeftOut()[static_cast<std::size_t>(field)];
+  };
+  EXPECT_TRUE(isLeftOut(3, PlanetField::HabValue));
+  EXPECT_FALSE(isLeftOut(1, PlanetField::HabValue));
+}
+
 TEST_F(LoadGameTest, LeavesTraitsAndTerritoriesOfAnOldGameAsTheyAre) {
   folder.AddOldReport();
   std::filesystem::remove(folder / "Demo.P1");
