@@ -28,7 +28,7 @@ bool IsBeforeIgnoringCase(const std::string& left, const std::string& right) {
 
 std::vector<std::size_t> PlainSortedRows(const PlanetGrid& grid, std::size_t column,
                                          SortDirection direction, std::vector<std::size_t> order) {
-  const auto compare = IsTextColumn(column) ? IsBeforeIgnoringCase : IsBefore;
+  const auto compare = grid.Columns.at(column).IsText ? IsBeforeIgnoringCase : IsBefore;
   std::ranges::stable_sort(order, [&](std::size_t left, std::size_t right) {
     if (direction == SortDirection::Descending) std::swap(left, right);
     return compare(grid.Rows[left].Cells[column], grid.Rows[right].Cells[column]);

@@ -66,7 +66,7 @@ TEST(SortedRows, AgreesWithAPlainSort) {
   constexpr const char* kCells[] = {"",     "0", "-0", "7",      "07",  "10", " 9", "1e2",
                                     "5.5%", "a", "A",  "Remote", "N/A", "é",  "É",  " "};
   std::mt19937 dice(1);
-  PlanetGrid grid;
+  PlanetGrid grid = FillPlanetGrid(GameSession());
   grid.Rows.resize(300);
   for (PlanetGridRow& row : grid.Rows) {
     row.Cells.resize(kPopulation + 1);

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 #include <functional>
+#include <iterator>
+#include <limits>
 #include <tuple>
 
 namespace quorvane {
@@ -27,6 +29,16 @@ std::vector<NearPlanet> NearestPlanets(const GameSession& session, int planet,
                     });
   near.resize(count);
   return near;
+}
+
+std::vector<const PlanetRecord*> OwnPlanetsByX(const GameSession& session) {
+  std::vector<const PlanetRecord*> own;
+  if (session.MyRaceName.empty()) return own;
+  for (const PlanetRecord& planet : session.Planets()) {
+    if (planet.Owner() == session.MyRaceName) own.push_back(&planet);
+  }
+  std::ranges::stable_sort(own, {}, &PlanetRecord::X);
+  return own;
 }
 
 }  // namespace
@@ -63,6 +75,27 @@ std::vector<NearPlanet> NearestOwnPlanets(const GameSession& session, int planet
 
 std::vector<NearPlanet> NearestStargates(const GameSession& session, int planet) {
   return NearestPlanets(session, planet, HasStargate);
+}
+
+// From every planet outwards, to the left and to the right, until whatever comes next is farther
+// away by its X alone.
+std::vector<double> DistancesToOwnPlanets(const GameSession& session) {
+  const std::vector<const PlanetRecord*> own = OwnPlanetsByX(session);
+  if (own.empty()) return {};
+  std::vector<double> distances(session.PlanetTable.size());
+  for (int number = 1; number <= session.PlanetCount; ++number) {
+    const PlanetRecord& from = session.Planet(number);
+    double nearest = std::numeric_limits<double>::infinity();
+    const auto right = std::ranges::lower_bound(own, from.X(), {}, &PlanetRecord::X);
+    for (auto to = right; to != own.end() && (*to)->X() - from.X() < nearest; ++to) {
+      nearest = std::min(nearest, LightYearsBetween(from, **to));
+    }
+    for (auto to = right; to != own.begin() && from.X() - (*std::prev(to))->X() < nearest;) {
+      nearest = std::min(nearest, LightYearsBetween(from, **--to));
+    }
+    distances[static_cast<std::size_t>(number)] = nearest;
+  }
+  return distances;
 }
 
 }  // namespace quorvane

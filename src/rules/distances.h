@@ -49,4 +49,8 @@ std::vector<NearPlanet> NearestOwnPlanets(const GameSession& session, int planet
 /// The same of planets with stargates, whoever owns them.
 std::vector<NearPlanet> NearestStargates(const GameSession& session, int planet);
 
+/// How far it is from each planet, by its number, to the nearest of the user's own race: 0 from one
+/// of these. Empty where the user owns none.
+std::vector<double> DistancesToOwnPlanets(const GameSession& session);
+
 }  // namespace quorvane

@@ -1,5 +1,6 @@
 #include "screens/planet_details.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "model/text.h"
@@ -84,6 +85,44 @@ std::vector<std::string> HabTexts(const GameSession& session, int planet) {
     texts.push_back(isKnown ? NumberText(EstimatedHab(session, player, planet)) + "%" : "N/A");
   }
   return texts;
+}
+
+std::string PlanetText(const GameSession& session, int planet) {
+  const PlanetRecord& record = session.Planet(planet);
+  const std::vector<DetailText> details = DescribePlanet(session, planet);
+  const auto detail = [&](std::string_view label) {
+    const auto found = std::ranges::find(details, label, &DetailText::Label);
+    return std::string(Trimmed(found->Text));
+  };
+  const auto three = [&](std::string_view first, std::string_view second, std::string_view third) {
+    return detail(first) + ", " + detail(second) + ", " + detail(third);
+  };
+  std::string text = record.Name() + " (" + NumberText(record.X() + kUniverseOrigin) + ", " +
+                     NumberText(session.UniverseExtent - record.Y()) + ")\n";
+  const auto line = [&text](const std::string& caption, const std::string& value) {
+    if (!value.empty()) text += caption + ": " + value + "\n";
+  };
+  line("Owner", detail("Owner"));
+  line("Starbase", detail("Starbase"));
+  line("Report", detail("ReportAge"));
+  if (!record.IsExplored()) return text;
+  line("Population", detail("Population"));
+  line("Value", detail("HabValue"));
+  line("Mines", detail("Mines"));
+  line("Factories", detail("Factories"));
+  line("Resources", detail("Resources"));
+  line("Defences", detail("Defence"));
+  line("Minerals on the surface (iron, bora, germ)", three("IronS", "BoraS", "GermS"));
+  line("Mineral concentrations", three("IronMCT", "BoraMCT", "GermMCT"));
+  line("Mining rates", three("IronMR", "BoraMR", "GermMR"));
+  line("Gravity, temperature, radiation", three("Grav1", "Temp1", "Rad1"));
+  line("Stargate", DescribeStargate(session, planet).Type);
+  const std::vector<std::string> values = HabTexts(session, planet);
+  for (std::size_t player = 0; player < values.size(); ++player) {
+    line("Estimated for the " + session.Player(static_cast<int>(player) + 1).Name(),
+         values[player]);
+  }
+  return text;
 }
 
 StargateDetails DescribeStargate(const GameSession& session, int planet) {

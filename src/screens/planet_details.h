@@ -24,6 +24,9 @@ std::vector<DetailText> DescribePlanet(const GameSession& session, int planet);
 /// not known.
 std::vector<std::string> HabTexts(const GameSession& session, int planet);
 
+/// All that is known of a planet as a text of several lines, for people.
+std::string PlanetText(const GameSession& session, int planet);
+
 /// A planet's stargate and the planets with stargates that ships can be sent to, with their
 /// distances.
 struct StargateDetails {

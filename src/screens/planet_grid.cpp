@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <limits>
 #include <optional>
 #include <tuple>
 #include <utility>
@@ -50,11 +51,17 @@ constexpr std::array<FixedColumn, 25> kFixedColumns = {{
     {"Empire Exp. Value", 850},
 }};
 constexpr std::size_t kFieldColumns = 23;
+constexpr std::size_t kFirstText = 3;  // the name
+constexpr std::size_t kLastText = 6;   // the age
 
 std::vector<PlanetGridColumn> ColumnsFor(const GameSession& session) {
   std::vector<PlanetGridColumn> columns;
   columns.reserve(kFixedColumns.size() + static_cast<std::size_t>(session.PlayerCount));
   for (const auto& [heading, width] : kFixedColumns) columns.push_back({heading, width});
+  for (std::size_t column = kFirstText; column <= kLastText; ++column) {
+    columns[column].Order = CellOrder::Text;
+    columns[column].IsText = true;
+  }
   for (const PlayerRecord& player : session.Players()) {
     columns.push_back({.Heading = player.Name() + "\r\nEst Hab %"});
   }
@@ -114,9 +121,14 @@ struct SortKey {
   }
 };
 
-SortKey KeyOf(const std::string& cell, bool ignoresCase) {
+SortKey KeyOf(const std::string& cell, CellOrder order) {
   if (cell.empty()) return {};
-  if (ignoresCase) return {.CellKind = SortKey::Kind::Text, .Text = InLowerCase(cell)};
+  if (order == CellOrder::Text) return {.CellKind = SortKey::Kind::Text, .Text = InLowerCase(cell)};
+  if (order == CellOrder::LeadingNumber) {
+    const double number =
+        HasDigit(cell) ? NumericValue(cell) : -std::numeric_limits<double>::infinity();
+    return {.CellKind = SortKey::Kind::Number, .Number = number};
+  }
   const std::optional<double> number = WholeTextNumber(cell);
   if (number) return {.CellKind = SortKey::Kind::Number, .Number = *number};
   return {.CellKind = SortKey::Kind::Text, .Text = cell};
@@ -134,18 +146,12 @@ PlanetGrid FillPlanetGrid(const GameSession& session) {
   return grid;
 }
 
-bool IsTextColumn(std::size_t column) {
-  constexpr std::size_t kName = 3;
-  constexpr std::size_t kAge = 6;
-  return column >= kName && column <= kAge;
-}
-
 std::vector<std::size_t> SortedRows(const PlanetGrid& grid, std::size_t column,
                                     SortDirection direction, std::vector<std::size_t> order) {
   std::vector<SortKey> keys;
   keys.reserve(grid.Rows.size());
   for (const PlanetGridRow& row : grid.Rows) {
-    keys.push_back(KeyOf(row.Cells.at(column), IsTextColumn(column)));
+    keys.push_back(KeyOf(row.Cells.at(column), grid.Columns.at(column).Order));
   }
   const auto isBefore = [&](std::size_t left, std::size_t right) {
     return keys[left] < keys[right];

@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "model/field_value.h"
+#include "screens/table_text.h"
 
 namespace quorvane {
 namespace {
@@ -33,15 +34,6 @@ RaceCurve& CurveOfRace(std::vector<RaceCurve>& curves, const std::string& race) 
   if (found != curves.end()) return *found;
   curves.push_back({race, {}, {}});
   return curves.back();
-}
-
-std::string CsvText(std::string text) {
-  constexpr const char* kFormulaStarts = "=+-@\t\r";
-  if (text.find_first_of(kFormulaStarts) == 0) text.insert(0, "'");
-  if (text.find_first_of(",\"\r\n") == text.npos) return text;
-  std::string quoted = "\"";
-  for (const char character : text) quoted.append(character == '"' ? 2 : 1, character);
-  return quoted + '"';
 }
 
 }  // namespace
@@ -98,16 +90,16 @@ double RoundStep(double range, int parts) {
 }
 
 std::string CurvesCsv(const std::vector<RaceYear>& years) {
-  constexpr const char* kLineEnd = "\r\n";
-  std::string csv = "Year,Race";
-  for (const CurveFacts& curve : kCurves) csv += std::string(",") + curve.Name;
-  csv += kLineEnd;
+  TableText csv(',');
+  csv.Cell("Year").Cell("Race");
+  for (const CurveFacts& curve : kCurves) csv.Cell(curve.Name);
+  csv.EndRow();
   for (const RaceYear& year : years) {
-    csv += NumberText(year.Year) + "," + CsvText(year.Race);
-    for (const CurveFacts& curve : kCurves) csv += "," + NumberText(year.*curve.Value);
-    csv += kLineEnd;
+    csv.Cell(NumberText(year.Year)).Cell(year.Race);
+    for (const CurveFacts& curve : kCurves) csv.Cell(NumberText(year.*curve.Value));
+    csv.EndRow();
   }
-  return csv;
+  return csv.Text();
 }
 
 }  // namespace quorvane

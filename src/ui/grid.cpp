@@ -43,8 +43,8 @@ class CellPainter : public QStyledItemDelegate {
              const QModelIndex& index) const override {
     QStyleOptionViewItem plain = option;
     plain.state &= ~QStyle::State_HasFocus;
-    const bool isText = IsTextColumn(static_cast<std::size_t>(index.column()));
-    if (isText) plain.rect.adjust(-1, 0, kSparedPadding - 1, 0);
+    const int alignment = index.data(Qt::TextAlignmentRole).toInt();
+    if ((alignment & Qt::AlignLeft) != 0) plain.rect.adjust(-1, 0, kSparedPadding - 1, 0);
     painter->save();
     painter->setClipRect(option.rect);
     QStyledItemDelegate::paint(painter, plain, index);

@@ -12,8 +12,8 @@
 namespace quorvane {
 namespace {
 
-Qt::Alignment AlignmentOf(std::size_t column) {
-  return Qt::AlignVCenter | (IsTextColumn(column) ? Qt::AlignLeft : Qt::AlignRight);
+Qt::Alignment AlignmentOf(const PlanetGridColumn& column) {
+  return Qt::AlignVCenter | (column.IsText ? Qt::AlignLeft : Qt::AlignRight);
 }
 
 }  // namespace
@@ -24,6 +24,14 @@ void GridModel::Show(PlanetGrid grid) {
   order_.resize(grid_.Rows.size());
   std::iota(order_.begin(), order_.end(), std::size_t{0});
   endResetModel();
+}
+
+void GridModel::Update(
+    const std::function<std::pair<std::size_t, std::size_t>(PlanetGrid&)>& change) {
+  if (grid_.Rows.empty()) return;
+  const auto [first, last] = change(grid_);
+  emit dataChanged(index(0, static_cast<int>(first)),
+                   index(rowCount() - 1, static_cast<int>(last)));
 }
 
 QString GridModel::Heading(int column) const {
@@ -63,7 +71,7 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
     case Qt::ToolTipRole:
       return PlainToolTip(index.data().toString());
     case Qt::TextAlignmentRole:
-      return QVariant(AlignmentOf(static_cast<std::size_t>(index.column())));
+      return QVariant(AlignmentOf(grid_.Columns.at(static_cast<std::size_t>(index.column()))));
     case Qt::BackgroundRole:
       return QBrush(QColor(RgbOf(row.Background)));
     case Qt::ForegroundRole:

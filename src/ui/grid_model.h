@@ -3,6 +3,8 @@
 #include <QAbstractTableModel>
 #include <QString>
 #include <cstddef>
+#include <functional>
+#include <utility>
 #include <vector>
 
 #include "screens/planet_grid.h"
@@ -19,6 +21,9 @@ class GridModel : public QAbstractTableModel {
 
   /// Replaces the snapshot; its rows are shown in the order in which they come.
   void Show(PlanetGrid grid);
+  /// Lets texts of the snapshot be changed.
+  /// @param change  gives back the columns in which it changed some, first and last
+  void Update(const std::function<std::pair<std::size_t, std::size_t>(PlanetGrid&)>& change);
   const PlanetGrid& Snapshot() const { return grid_; }
   /// Which row of the snapshot a row on screen shows, and where a row of the snapshot is shown;
   /// both from 0. Rows that are not there are the first one.

@@ -54,9 +54,10 @@ TEST(FillPlanetGrid, ColoursRowsByOwnerAndSaysWhyThereIsNoEstimate) {
   EXPECT_EQ(grid.Rows.at(2).Cells.at(kFirstEstimate + 1), "N/A");
 }
 
-TEST(IsTextColumn, HoldsFromTheNameToTheAge) {
+TEST(FillPlanetGrid, HasTextsFromTheNameToTheAge) {
+  const PlanetGrid grid = FillPlanetGrid(GameBuilder().Player("Drask").Build());
   for (std::size_t column = 0; column <= kFirstEstimate; ++column) {
-    EXPECT_EQ(IsTextColumn(column), column >= 3 && column <= 6) << column;
+    EXPECT_EQ(grid.Columns.at(column).IsText, column >= 3 && column <= 6) << column;
   }
 }
 
