@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QPen>
+#include <QPixmap>
 #include <QWidget>
 #include <vector>
 
@@ -85,6 +87,8 @@ class RingsShape : public PictureShape {
   using PictureShape::PictureShape;
 
   void Place(std::vector<SurfacePoint> centres);
+  /// @param radius  in pixels
+  void SetRadius(double radius) { radius_ = radius; }
   const std::vector<SurfacePoint>& Centres() const { return centres_; }
 
  protected:
@@ -93,7 +97,10 @@ class RingsShape : public PictureShape {
   void Paint(QPainter& painter, QPointF first, QPointF last) const override;
 
  private:
+  QPixmap RingOf(const QPen& pen) const;
+
   std::vector<SurfacePoint> centres_;
+  double radius_ = 8;
 };
 
 }  // namespace quorvane

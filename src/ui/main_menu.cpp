@@ -6,6 +6,7 @@
 #include <QMenuBar>
 
 #include "ui/icons.h"
+#include "ui/planet_menu.h"
 
 namespace quorvane {
 namespace {
@@ -101,12 +102,17 @@ void MainMenu::AddViewItems() {
   ViewNumbersInLegend = AddSwitch(menu, "ViewNumbersInLegend", "Numbers in the Legend");
   ViewOverlaySets = AddSubmenu(menu, "ViewOverlaySets", "Overlay Sets");
   menu.addSeparator();
+  ViewPlanets = AddSwitch(menu, "ViewPlanets", "&Planets", Qt::Key_F3);
   ViewKey = AddSwitch(menu, "ViewKey", "&Key to the Map", Qt::Key_F2);
   ViewDistances = AddSwitch(menu, "ViewDistances", "&Distances", Qt::Key_F8);
   ViewChanges = AddSwitch(menu, "ViewChanges", "What &Changed", Qt::Key_F4);
   ViewYears = AddSwitch(menu, "ViewYears", "&Years", Qt::Key_F6);
   ViewKeepDestination =
       AddItem(menu, "ViewKeepDestination", "Keep as destination", nullptr, Qt::CTRL | Qt::Key_D);
+  ViewPlanet = new PlanetMenu("Planet", &menu);
+  ViewPlanet->setObjectName("ViewPlanet");
+  ViewPlanet->menuAction()->setObjectName("ViewPlanet");
+  menu.addMenu(ViewPlanet);
 }
 
 void MainMenu::AddGameItems() {

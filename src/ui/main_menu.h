@@ -7,6 +7,8 @@ class QObject;
 
 namespace quorvane {
 
+class PlanetMenu;
+
 /// The main window's menus, every item under its name. The overlay menu is filled by the overlay
 /// switches.
 struct MainMenu {
@@ -38,12 +40,14 @@ struct MainMenu {
   QAction* ViewOutlineNames = nullptr;
   QAction* ViewFewerNames = nullptr;
   QAction* ViewGatesOfSelected = nullptr;
+  QAction* ViewPlanets = nullptr;
   QAction* ViewKey = nullptr;
   QAction* ViewDistances = nullptr;
   QAction* ViewKeepDestination = nullptr;
   QAction* ViewNumbersInLegend = nullptr;
   QAction* ViewChanges = nullptr;
   QAction* ViewYears = nullptr;
+  PlanetMenu* ViewPlanet = nullptr;
   QMenu* ViewOverlaySets = nullptr;
 
   QAction* GameReload = nullptr;

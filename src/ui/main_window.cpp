@@ -115,6 +115,7 @@ Main::Main(std::filesystem::path startFolder, Prompts* prompts,
   BuildArea();
   BuildDocks();
   BuildHistory();
+  BuildPlanets();
   ConnectParts();
   ConnectMenus();
   Form_Load();
@@ -287,6 +288,7 @@ void Main::closeEvent(QCloseEvent* event) {
   if (!MayLeaveGame()) return event->ignore();
   if (keep_.isActive()) KeepYear();
   RememberShown();
+  KeepArrangement();
   preferences_.KeepPlace(kDocks, saveState());
   QMainWindow::closeEvent(event);
 }

@@ -48,6 +48,8 @@ class ReportsDock;
 class MapNavigator;
 class MapPanel;
 class OverlayBar;
+class PlanetsDock;
+enum class PlanetCommand;
 
 /// The program's one long-lived window: the map with its overlay switches, details, legend, status
 /// line and menus. It owns the loaded game and the state in which it is shown.
@@ -91,6 +93,7 @@ class Main : public QMainWindow {
   DetailsPanel* Detail = nullptr;
   DrawingBoard* Board = nullptr;
   Legend* RaceLegend = nullptr;
+  quorvane::PlanetsDock* PlanetsDock = nullptr;
   quorvane::KeyDock* KeyDock = nullptr;
   quorvane::DistancesDock* DistancesDock = nullptr;
   quorvane::ReportsDock* ReportsDock = nullptr;
@@ -160,6 +163,17 @@ class Main : public QMainWindow {
   void ShowDistances();
   void ShowNearest();
   void Dock_PlanetChosen(int planet);
+  void BuildPlanets();
+  void ShowPlanets();
+  void ShowFoundRings();
+  void ShowPlanetMenu();
+  void PlanetsDock_MenuAsked(int planet, QPoint at);
+  void PlanetsDock_SaveSearchAsked();
+  void PlanetsDock_RemoveSearchAsked(int index);
+  void PlanetsDock_ExportAsked();
+  void Planet_Asked(PlanetCommand command, int planet);
+  void KeepArrangement();
+  std::vector<bool> ChangedPlanets();
   void BuildHistory();
   void TakeGame();
   void KeepYear();

@@ -135,6 +135,7 @@ void Main::mnuGrid2_Click() {
   if (lookBack_) statistics.ShowOnly(Band->Reason());
   connect(&statistics, &EmpireStat::Saved, this, [this] { saved_.TakeRaces(session_); });
   statistics.exec();
+  ShowPlanets();  // whose values for a race follow from what was told of it
 }
 
 void Main::mnuAbout_Click() {

@@ -71,6 +71,7 @@ bool Main::Load(const GameChoice& choice, const std::optional<GameWatcher::Stamp
   watcher_.Watch(since);
   ShowLoadedGame();
   ShowHistory();
+  ShowPlanets();
   keep_.start();
   if (!session_.OwnersWithoutRecord.empty()) {
     prompts_.Inform(LeftOutMessage(session_.OwnersWithoutRecord));
@@ -235,6 +236,7 @@ void Main::ShowNewColours() {
   state_.BordersCached = 0;
   Map->Universe2->Surface().Clear();
   DrawOverlays();
+  ShowPlanets();
 }
 
 }  // namespace quorvane

@@ -28,6 +28,7 @@
 #include "ui/map_navigator.h"
 #include "ui/map_panel.h"
 #include "ui/overlay_bar.h"
+#include "ui/planets_dock.h"
 #include "ui/reload_bar.h"
 #include "ui/texts.h"
 #include "ui/year_band.h"
@@ -180,6 +181,7 @@ void Main::ShowOtherYear(const QString& race) {
   Repaint();
   Map->ShowZoomBox();
   if (grid_ != nullptr && grid_->isVisible()) grid_->Refresh(session_);
+  ShowPlanets();
   ShowSelection();
   YearsDock->ShowYear(session_.GameYear);
   ShowChanges();
@@ -214,6 +216,7 @@ void Main::ReadComparedYear(int year) {
 
 // Compares the year that is shown with an earlier one.
 void Main::ShowChanges() {
+  if (!PlanetsDock->isHidden()) PlanetsDock->ShowChanges();
   ringed_.clear();
   if (ChangesDock->isHidden() || !session_.IsLoaded()) return ShowRings();
   const std::vector<int> earlier = YearsBefore(years_, session_.GameYear);

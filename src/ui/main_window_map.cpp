@@ -17,6 +17,7 @@
 #include "ui/map_panel.h"
 #include "ui/overlay_bar.h"
 #include "ui/overlay_sets_menu.h"
+#include "ui/planets_dock.h"
 #include "ui/race_colour.h"
 #include "ui/texts.h"
 
@@ -80,6 +81,8 @@ void Main::ShowSelection() {
   Navigator->EnableCommands();
   ShowNearest();
   ShowDistances();
+  ShowPlanetMenu();
+  if (!PlanetsDock->isHidden()) PlanetsDock->ShowSelected(SelectedPlanet(state_, session_));
   RememberSoon();
 }
 
@@ -239,6 +242,7 @@ void Main::PaintMap(OverlaySwitches switches) {
   ShowKey();
   ShowDistances();
   ShowRings();
+  ShowFoundRings();
   ShowWhetherStopped(!isComplete, kDrawingStopped);
 }
 

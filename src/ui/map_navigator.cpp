@@ -53,7 +53,9 @@ void MapNavigator::ConnectCommands() {
     whole.ShowAll(state_.View.UniverseExtent);
     Show(whole, Movement::Command);
   });
-  run(menu_.ViewZoomToSelected, [this] { ZoomToSelected(); });
+  run(menu_.ViewZoomToSelected, [this] {
+    if (const auto planet = state_.Selected()) ZoomTo(*planet);
+  });
   run(menu_.ViewBack, [this] {
     if (history_.CanGoBack()) Show(history_.GoBack(), Movement::Command);
   });
@@ -210,12 +212,14 @@ void MapNavigator::ZoomInTheMiddle(double notches) {
   Show(motion_.Zoomed(state_.View, kMiddle, notches), Movement::Command);
 }
 
-void MapNavigator::ZoomToSelected() {
+void MapNavigator::ZoomTo(StoredPoint place) {
   constexpr int kSurroundings = 200;  // light years
-  const std::optional<StoredPoint> planet = state_.Selected();
-  if (!planet) return;
   const int width = std::min(state_.View.WidthShown(), kSurroundings);
-  Show(CentredView(state_.View, *planet, width), Movement::Command);
+  Show(CentredView(state_.View, place, width), Movement::Command);
+}
+
+void MapNavigator::CentreOn(StoredPoint place) {
+  Show(CentredView(state_.View, place, state_.View.WidthShown()), Movement::Command);
 }
 
 void MapNavigator::Show(const MapView& view, Movement movement) {

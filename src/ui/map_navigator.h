@@ -43,6 +43,9 @@ class MapNavigator : public QObject {
   bool LeavesAltToArrowKeys() const { return !isUsed_ && state_.ZoomArmed == 1; }
   /// Where the pointer was seen last, while it is over the map.
   const std::optional<SurfacePoint>& Pointer() const { return pointer_; }
+  /// Zooms to a place, and shows one in the middle without zooming.
+  void ZoomTo(StoredPoint place);
+  void CentreOn(StoredPoint place);
   /// Enables the commands that there is something to do for.
   void EnableCommands();
 
@@ -70,7 +73,6 @@ class MapNavigator : public QObject {
   void Zoom(QPointF position, double notches);
   void Pan(QPointF pixels);
   void ZoomInTheMiddle(double notches);
-  void ZoomToSelected();
   void Show(const MapView& view, Movement movement);
   bool Continues(Movement movement);
 

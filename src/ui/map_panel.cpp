@@ -16,6 +16,8 @@ namespace quorvane {
 namespace {
 
 constexpr Colour kZoomBoxColour = {150, 150, 150};
+constexpr Colour kFoundColour = {255, 200, 60};
+constexpr double kFoundRadius = 6;  // within the rings of what changed
 constexpr std::chrono::milliseconds kMarkerPeriod(250);
 
 // The map, with a frame above its picture from when the keyboard brings the focus here until the
@@ -88,6 +90,10 @@ MapPanel::MapPanel(QWidget& area, const MapState& state)
   WayLine = new LineShape(*Universe, "WayLine");
   WayLine->AddDarkSides();
   WayLength = NewNote("WayLength", *Universe);
+  FoundRings = new RingsShape(*Universe, "FoundRings");
+  FoundRings->SetLineColour(kFoundColour);
+  FoundRings->SetRadius(kFoundRadius);
+  FoundRings->AddDarkSides();
   Rings = new RingsShape(*Universe, "Rings");
   MarkerNumber = NewNote("MarkerNumber", *Universe);
   CurrentSelected = new SquareShape(*Universe, "CurrentSelected");
@@ -145,12 +151,18 @@ void MapPanel::ShowWay(const std::optional<std::pair<StoredPoint, StoredPoint>>&
                   std::clamp(middle.y() + kBeside.y(), 0, std::max(last.y(), 0)));
 }
 
-void MapPanel::ShowRings(const std::vector<StoredPoint>& planets) {
+void MapPanel::ShowRings(const std::vector<StoredPoint>& planets) { PlaceRings(*Rings, planets); }
+
+void MapPanel::ShowFound(const std::vector<StoredPoint>& planets) {
+  PlaceRings(*FoundRings, planets);
+}
+
+void MapPanel::PlaceRings(RingsShape& rings, const std::vector<StoredPoint>& planets) {
   std::vector<SurfacePoint> centres;
   centres.reserve(planets.size());
   for (const StoredPoint& planet : planets) centres.push_back(state_.View.ToSurface(planet));
-  Rings->Place(std::move(centres));
-  Rings->setVisible(!planets.empty());
+  rings.Place(std::move(centres));
+  rings.setVisible(!planets.empty());
 }
 
 void MapPanel::ShowHint(bool isShown) {

@@ -39,6 +39,8 @@ class MapPanel : public QObject {
   void ShowMarkerNumber(int race);
   /// Rings planets above the map, by their stored positions.
   void ShowRings(const std::vector<StoredPoint>& planets);
+  /// Rings the planets that a search found, in another colour.
+  void ShowFound(const std::vector<StoredPoint>& planets);
   void ShowHint(bool isShown);
   /// Places the selection marker around the selected planet, or hides it where there is nothing to
   /// mark.
@@ -48,6 +50,7 @@ class MapPanel : public QObject {
   PictureBox* Universe2 = nullptr;
   /// The planets that the docks speak of.
   RingsShape* Rings = nullptr;
+  RingsShape* FoundRings = nullptr;
   /// The area that is about to be shown, above the map while it is dragged.
   SquareShape* ZoomBox = nullptr;
   /// The way from the selected planet to the kept destination, and its length beside its middle.
@@ -71,6 +74,7 @@ class MapPanel : public QObject {
   void Timer1_Timer();
   void PlaceHint();
   void PlaceMarkerNumber();
+  void PlaceRings(RingsShape& rings, const std::vector<StoredPoint>& planets);
 
   const MapState& state_;
 };

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QInputDialog>
 #include <QLabel>
 #include <QMessageBox>
@@ -16,6 +17,14 @@ void SetText(QMessageBox& box, const std::string& text) {
   box.setObjectName("MessageBox");
   box.setTextFormat(Qt::PlainText);
   box.setText(ToQString(text));
+}
+
+// Another format was chosen for the file.
+void TakeExtension(QFileDialog& box, const QString& extension) {
+  box.setDefaultSuffix(extension);
+  if (box.selectedFiles().isEmpty()) return;
+  const QFileInfo file(box.selectedFiles().constFirst());
+  if (!file.isDir()) box.selectFile(file.completeBaseName() + "." + extension);
 }
 
 }  // namespace
@@ -65,14 +74,20 @@ std::optional<std::string> MessageBoxPrompts::AskText(const std::string& title,
 }
 
 std::optional<std::filesystem::path> MessageBoxPrompts::AskSaveFile(
-    const std::string& title, const std::filesystem::path& suggestion) {
+    const std::string& title, const std::filesystem::path& suggestion,
+    const std::string& otherExtension) {
   const QString extension = PathText(suggestion.extension());
   QFileDialog box(Parent(), ToQString(title), PathText(suggestion.parent_path()));
   box.setObjectName("SaveFileBox");
   box.setAcceptMode(QFileDialog::AcceptSave);
-  box.setNameFilters({QString("*%1").arg(extension), "*"});
+  QStringList filters = {"*" + extension, "*"};
+  if (!otherExtension.empty()) filters.insert(1, "*" + ToQString(otherExtension));
+  box.setNameFilters(filters);
   box.setDefaultSuffix(extension.mid(1));
   box.selectFile(PathText(suggestion.filename()));
+  QObject::connect(&box, &QFileDialog::filterSelected, &box, [&box](const QString& filter) {
+    if (filter != "*") TakeExtension(box, filter.mid(2));
+  });
   if (box.exec() != QDialog::Accepted) return std::nullopt;
   return ToPath(box.selectedFiles().constFirst());
 }

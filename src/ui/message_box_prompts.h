@@ -16,8 +16,9 @@ class MessageBoxPrompts : public Prompts {
   SaveAnswer AskSave(const std::string& question) override;
   std::optional<std::string> AskText(const std::string& title, const std::string& prompt,
                                      const std::string& preset) override;
-  std::optional<std::filesystem::path> AskSaveFile(
-      const std::string& title, const std::filesystem::path& suggestion) override;
+  std::optional<std::filesystem::path> AskSaveFile(const std::string& title,
+                                                   const std::filesystem::path& suggestion,
+                                                   const std::string& otherExtension) override;
 
  private:
   QWidget* Parent() const;

@@ -34,6 +34,8 @@ std::vector<Switch> SwitchesOf(Preferences& values) {
 }
 
 constexpr const char* kSets = "OverlaySets";
+constexpr const char* kSearches = "PlanetSearches";
+constexpr const char* kColumns = "PlanetColumns";
 
 QString PlaceKey(const QString& window) { return "Places/" + window; }
 
@@ -69,6 +71,56 @@ class PlaceKeeper : public QObject {
   PreferencesFile& preferences_;
   bool isPlaced_ = false;
 };
+
+QMap<QString, QString> TextsOfSets(const std::vector<OverlaySet>& sets) {
+  QMap<QString, QString> texts = {{"Count", QString::number(sets.size())}};
+  for (const OverlaySet& set : sets) {
+    texts[QString::number(texts.size())] =
+        ToQString(OverlaysText(set.Switches)) + "\n" + ToQString(set.Name);
+  }
+  return texts;
+}
+
+// Texts under numbers of three digits, so that their order is kept.
+template <typename Value>
+QMap<QString, QString> Numbered(const std::vector<Value>& values,
+                                QString (*textOf)(const Value& value)) {
+  QMap<QString, QString> texts;
+  for (const Value& value : values) {
+    texts[QString("%1").arg(texts.size() + 1, 3, 10, QChar('0'))] = textOf(value);
+  }
+  return texts;
+}
+
+// The query, the columns that it is sorted by with their directions, and the name, a line each; the
+// name may hold anything.
+QString TextOfSearch(const PlanetSearch& search) {
+  QStringList sorting;
+  for (const auto& [column, isDescending] : search.Sorting) {
+    sorting << (isDescending ? "-" : "+") + ToQString(column);
+  }
+  return ToQString(search.Query) + "\n" + sorting.join('\t') + "\n" + ToQString(search.Name);
+}
+
+PlanetSearch SearchFromText(const QString& text) {
+  PlanetSearch search = {.Name = ToText(text.section('\n', 2)),
+                         .Query = ToText(text.section('\n', 0, 0))};
+  for (const QString& sort : text.section('\n', 1, 1).split('\t', Qt::SkipEmptyParts)) {
+    search.Sorting.push_back({ToText(sort.mid(1)), sort.startsWith('-')});
+  }
+  return search;
+}
+
+QString TextOfColumn(const ColumnPlace& place) {
+  return QString("%1 %2 ").arg(place.Width).arg(place.IsShown ? 1 : 0) + ToQString(place.Column);
+}
+
+ColumnPlace ColumnFromText(const QString& text) {
+  constexpr int kWidest = 4000;
+  return {.Column = ToText(text.section(' ', 2)),
+          .Width = std::clamp(text.section(' ', 0, 0).toInt(), 0, kWidest),
+          .IsShown = text.section(' ', 1, 1) != "0"};
+}
 
 }  // namespace
 
@@ -107,6 +159,12 @@ void PreferencesFile::Read() {
     static_cast<void>(
         SaveAsSet(values_.Sets, ToText(set.mid(end + 1)), OverlaysFromText(ToText(set.left(end)))));
   }
+  for (const QString& search : TextsOf(kSearches)) {
+    static_cast<void>(KeepSearch(values_.Searches, SearchFromText(search)));
+  }
+  for (const QString& column : TextsOf(kColumns)) {
+    values_.PlanetColumns.push_back(ColumnFromText(column));
+  }
 }
 
 void PreferencesFile::SetAside(const QString& path) {
@@ -126,15 +184,13 @@ void PreferencesFile::SetAside(const QString& path) {
 
 void PreferencesFile::Keep(const Preferences& values) {
   const bool areSetsNew = values_.Sets != values.Sets;
+  const bool areSearchesNew = values_.Searches != values.Searches;
+  const bool areColumnsNew = values_.PlanetColumns != values.PlanetColumns;
   values_ = values;
   for (const auto& [key, value] : SwitchesOf(values_)) Write(key, *value);
-  if (!areSetsNew) return;
-  QMap<QString, QString> sets = {{"Count", QString::number(values_.Sets.size())}};
-  for (const OverlaySet& set : values_.Sets) {
-    sets[QString::number(sets.size())] =
-        ToQString(OverlaysText(set.Switches)) + "\n" + ToQString(set.Name);
-  }
-  KeepTexts(kSets, sets);
+  if (areSetsNew) KeepTexts(kSets, TextsOfSets(values_.Sets));
+  if (areSearchesNew) KeepTexts(kSearches, Numbered(values_.Searches, TextOfSearch));
+  if (areColumnsNew) KeepTexts(kColumns, Numbered(values_.PlanetColumns, TextOfColumn));
 }
 
 QByteArray PreferencesFile::PlaceOf(const QString& window) const {

@@ -11,6 +11,7 @@
 
 #include "map/map_options.h"
 #include "map/overlay_sets.h"
+#include "screens/planet_searches.h"
 
 class QSettings;
 class QWidget;
@@ -29,6 +30,9 @@ struct Preferences {
   /// Whether the year of every game that is loaded is stored.
   bool KeepHistory = true;
   std::vector<OverlaySet> Sets = FirstOverlaySets();
+  /// The user's own searches for planets, and how the columns of the list are arranged.
+  std::vector<PlanetSearch> Searches;
+  std::vector<ColumnPlace> PlanetColumns;
 };
 
 /// Keeps the preferences, and the places of the windows, in a file. It is a helper: without it, or

@@ -24,9 +24,15 @@ class Prompts {
   virtual std::optional<std::string> AskText(const std::string& title, const std::string& prompt,
                                              const std::string& preset) = 0;
   /// Asks where to save a file, and whether one that is there is to be replaced.
-  /// @param suggestion  the path to start from; its extension is added to a name without one
-  virtual std::optional<std::filesystem::path> AskSaveFile(
-      const std::string& title, const std::filesystem::path& suggestion) = 0;
+  /// @param suggestion      the path to start from; its extension is added to a name without one
+  /// @param otherExtension  of another format that is offered, such as ".tsv"; empty: there is none
+  virtual std::optional<std::filesystem::path> AskSaveFile(const std::string& title,
+                                                           const std::filesystem::path& suggestion,
+                                                           const std::string& otherExtension) = 0;
+  std::optional<std::filesystem::path> AskSaveFile(const std::string& title,
+                                                   const std::filesystem::path& suggestion) {
+    return AskSaveFile(title, suggestion, "");
+  }
 };
 
 }  // namespace quorvane

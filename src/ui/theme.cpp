@@ -67,6 +67,7 @@ QPushButton[range="true"]:focus { border-color: #ffffff; }
 QPushButton[range="true"]:disabled { color: #7a8495; border-color: #3a4250; }
 QLabel[title="true"] { color: #ffffff; font-size: 15pt; }
 QLabel[heading="true"] { color: #9fb4d0; }
+QLabel[fault="true"] { color: #ffb4a8; }
 QLabel[note="true"] { color: #b9c4d6; background: rgba(16, 19, 25, 190); padding: 2px 6px; }
 QListView#ChangesList::item { padding: 2px 3px; }
 QFrame#YearBand { background: #54431c; border: none; border-bottom: 1px solid #e0b040; }

@@ -33,9 +33,11 @@ class ScriptedPrompts : public Prompts {
     return answer.empty() ? std::nullopt : std::optional(answer);
   }
 
-  std::optional<std::filesystem::path> AskSaveFile(
-      const std::string& title, const std::filesystem::path& suggestion) override {
-    shown_.push_back(title + " [" + suggestion.filename().string() + "]");
+  using Prompts::AskSaveFile;
+  std::optional<std::filesystem::path> AskSaveFile(const std::string& title,
+                                                   const std::filesystem::path& suggestion,
+                                                   const std::string& otherExtension) override {
+    shown_.push_back(title + " [" + suggestion.filename().string() + "]" + otherExtension);
     return std::exchange(saveFile_, {});
   }
 

@@ -1,0 +1,367 @@
+#include "ui/planet_list.h"
+
+#include <QContextMenuEvent>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QPainter>
+#include <QScopedValueRollback>
+#include <QScrollBar>
+#include <QStyledItemDelegate>
+#include <algorithm>
+#include <chrono>
+#include <utility>
+
+#include "paint/twips.h"
+#include "ui/column_menu.h"
+#include "ui/grid_heading.h"
+#include "ui/grid_model.h"
+#include "ui/planet_rows.h"
+#include "ui/texts.h"
+
+namespace quorvane {
+namespace {
+
+constexpr int kDefaultWidthTwips = 960;
+constexpr int kRowPadding = 6;
+constexpr double kFontSize = 8;
+constexpr int kSelectionAlpha = 90;
+
+// A selected row is lightened, so that its owner's colour is seen still.
+class RowPainter : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+  void paint(QPainter* painter, const QStyleOptionViewItem& option,
+             const QModelIndex& index) const override {
+    QStyleOptionViewItem plain = option;
+    plain.state &= ~(QStyle::State_HasFocus | QStyle::State_Selected);
+    QStyledItemDelegate::paint(painter, plain, index);
+    if (!option.state.testFlag(QStyle::State_Selected)) return;
+    QColor light = option.palette.color(QPalette::Link);
+    painter->setPen(light);
+    painter->drawLine(option.rect.topLeft(), option.rect.topRight());
+    painter->drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
+    light.setAlpha(kSelectionAlpha);
+    painter->fillRect(option.rect, light);
+    if (!option.state.testFlag(QStyle::State_HasFocus)) return;
+    painter->setPen(Qt::white);
+    painter->drawRect(option.rect.adjusted(0, 0, -1, -1));
+  }
+};
+
+int WidthOf(const PlanetGridColumn& column) {
+  return PixelsFromTwips(column.Width == kDefaultColumnWidth ? kDefaultWidthTwips : column.Width);
+}
+
+std::vector<bool> MaskOf(const std::vector<int>& planets, std::size_t count) {
+  std::vector<bool> mask(count);
+  for (const int planet : planets) mask.at(static_cast<std::size_t>(planet) - 1) = true;
+  return mask;
+}
+
+}  // namespace
+
+PlanetList::PlanetList(QWidget* parent) : QTableView(parent) {
+  setObjectName("PlanetsTable");
+  setAccessibleName(tr("Planets"));
+  model_ = new GridModel(this);
+  rows_ = new PlanetRows(this);
+  rows_->setSourceModel(model_);
+  SetUpHeading();
+  setModel(rows_);
+  setItemDelegate(new RowPainter(this));
+  setSelectionBehavior(QAbstractItemView::SelectRows);
+  setSelectionMode(QAbstractItemView::ExtendedSelection);
+  setEditTriggers(QAbstractItemView::NoEditTriggers);
+  setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+  setWordWrap(false);
+  setCornerButtonEnabled(false);
+  setTabKeyNavigation(false);
+  QPalette black = palette();
+  black.setColor(QPalette::Base, Qt::black);
+  setPalette(black);
+  QFont small = font();
+  small.setPointSizeF(kFontSize);
+  setFont(small);
+  heading_->setFont(small);
+  verticalHeader()->hide();
+  verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  verticalHeader()->setDefaultSectionSize(QFontMetrics(small).height() + kRowPadding);
+  constexpr std::chrono::milliseconds kAfterLastChange(300);
+  arranged_.setSingleShot(true);
+  arranged_.setInterval(kAfterLastChange);
+  connect(&arranged_, &QTimer::timeout, this, &PlanetList::Arranged);
+}
+
+void PlanetList::SetUpHeading() {
+  heading_ = new GridHeading(this);
+  heading_->setSectionsMovable(true);
+  heading_->setToolTip(
+      tr("Click to sort, again to turn round, with Ctrl to sort by several columns.\n"
+         "Drag to move, right-click to choose columns.\n"
+         "Ctrl+Up and Ctrl+Down sort by the current column, with Shift by several."));
+  connect(heading_, &GridHeading::Clicked, this, &PlanetList::Heading_Clicked);
+  const auto arrange = [this] {
+    if (!isFilling_) arranged_.start();
+  };
+  connect(heading_, &QHeaderView::sectionMoved, this, arrange);
+  connect(heading_, &QHeaderView::sectionResized, this, arrange);
+  setHorizontalHeader(heading_);
+}
+
+const PlanetGrid& PlanetList::Table() const { return model_->Snapshot(); }
+
+void PlanetList::ShowTable(PlanetGrid table, const std::vector<int>& found) {
+  const std::vector<ColumnPlace> kept = Arrangement();
+  const QScopedValueRollback filling(isFilling_, true);
+  const std::vector<std::size_t> order = TableOrder(table, sorting_);
+  std::vector<bool> mask = MaskOf(found, table.Rows.size());
+  rows_->Show({}, {});
+  model_->Show(std::move(table));
+  rows_->Show(std::move(mask), order);
+  Arrange(kept);
+  ShowMarks();
+}
+
+void PlanetList::ShowFound(const std::vector<int>& found) {
+  const QScopedValueRollback filling(isFilling_, true);
+  rows_->ShowOnly(MaskOf(found, Table().Rows.size()));
+}
+
+void PlanetList::ShowWays(const GameSession& session, int selected, bool sortsAnew) {
+  const QScopedValueRollback filling(isFilling_, true);
+  std::pair<std::size_t, std::size_t> columns;
+  model_->Update([&](PlanetGrid& table) { return columns = FillWays(table, session, selected); });
+  const bool isSortedByWays = std::ranges::any_of(sorting_, [&](const ColumnSort& sort) {
+    const auto column = ColumnNamed(Table(), sort.Column);
+    return column && *column >= columns.first && *column <= columns.second;
+  });
+  if (sortsAnew && isSortedByWays) rows_->Arrange(TableOrder(Table(), sorting_));
+}
+
+int PlanetList::PlanetAt(const QModelIndex& index) const {
+  return index.isValid() ? rows_->mapToSource(index).row() + 1 : 0;
+}
+
+int PlanetList::CurrentPlanet() const { return PlanetAt(currentIndex()); }
+
+void PlanetList::SelectPlanet(int planet) {
+  const QScopedValueRollback filling(isFilling_, true);
+  chosen_ = planet;
+  const int column = currentIndex().isValid() ? currentIndex().column() : FirstColumn();
+  const QModelIndex row = rows_->mapFromSource(model_->index(planet - 1, column));
+  if (planet < 1 || !row.isValid()) {
+    selectionModel()->clear();
+    return;
+  }
+  const bool isChosen = row.row() == currentIndex().row() && selectionModel()->isSelected(row);
+  if (!isChosen) setCurrentIndex(row);
+  // Sideways nothing moves: it may be far to the current column.
+  const int left = horizontalScrollBar()->value();
+  scrollTo(row);
+  horizontalScrollBar()->setValue(left);
+}
+
+void PlanetList::ChooseFirst() {
+  if (rows_->rowCount() == 0 || selectionModel()->hasSelection()) return;
+  setCurrentIndex(rows_->index(0, FirstColumn()));
+}
+
+void PlanetList::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+  QTableView::currentChanged(current, previous);
+  TakeChoice();
+}
+
+void PlanetList::selectionChanged(const QItemSelection& selected,
+                                  const QItemSelection& deselected) {
+  QTableView::selectionChanged(selected, deselected);
+  TakeChoice();
+}
+
+// The focus makes a row the current one without choosing it.
+void PlanetList::TakeChoice() {
+  if (isFilling_ || !selectionModel()->isSelected(currentIndex())) return;
+  const int planet = CurrentPlanet();
+  if (std::exchange(chosen_, planet) != planet) emit PlanetChosen(planet);
+}
+
+void PlanetList::SortBy(std::vector<ColumnSort> sorting) {
+  const QScopedValueRollback filling(isFilling_, true);
+  sorting_ = std::move(sorting);
+  rows_->Arrange(TableOrder(Table(), sorting_));
+  ShowMarks();
+  if (currentIndex().isValid()) scrollTo(currentIndex());
+}
+
+void PlanetList::ShowMarks() {
+  std::vector<std::pair<int, Qt::SortOrder>> marks;
+  for (const ColumnSort& sort : sorting_) {
+    const auto column = ColumnNamed(Table(), sort.Column);
+    if (!column) continue;
+    marks.emplace_back(static_cast<int>(*column),
+                       sort.IsDescending ? Qt::DescendingOrder : Qt::AscendingOrder);
+  }
+  heading_->ShowSorting(std::move(marks));
+}
+
+void PlanetList::Heading_Clicked(int column, Qt::MouseButton button,
+                                 Qt::KeyboardModifiers modifiers) {
+  if (button == Qt::RightButton) {
+    auto* menu = new ColumnMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    FillColumnMenu(*menu);
+    return menu->popup(QCursor::pos());
+  }
+  if (button != Qt::LeftButton) return;
+  std::vector<ColumnSort> sorting = sorting_;
+  ClickColumn(sorting, ColumnName(Table().Columns.at(static_cast<std::size_t>(column))),
+              modifiers.testFlag(Qt::ControlModifier));
+  SortBy(std::move(sorting));
+}
+
+void PlanetList::SortCurrent(Qt::SortOrder order, bool adds) {
+  const int column = currentIndex().column();
+  if (column < 0) return;
+  const std::string name = ColumnName(Table().Columns.at(static_cast<std::size_t>(column)));
+  std::vector<ColumnSort> sorting = adds ? sorting_ : std::vector<ColumnSort>();
+  const auto known = std::ranges::find(sorting, name, &ColumnSort::Column);
+  const ColumnSort sort = {.Column = name, .IsDescending = order == Qt::DescendingOrder};
+  if (known != sorting.end()) {
+    *known = sort;
+  } else {
+    sorting.push_back(sort);
+  }
+  SortBy(std::move(sorting));
+}
+
+void PlanetList::Arrange(const std::vector<ColumnPlace>& kept) {
+  const QScopedValueRollback filling(isFilling_, true);
+  kept_ = kept;
+  int visual = 0;
+  for (const ColumnPlace& place : ArrangeColumns(Table(), kept)) {
+    const auto column = static_cast<int>(*ColumnNamed(Table(), place.Column));
+    const PlanetGridColumn& shown = Table().Columns[static_cast<std::size_t>(column)];
+    heading_->moveSection(heading_->visualIndex(column), visual++);
+    setColumnHidden(column, !place.IsShown);
+    if (place.IsShown) setColumnWidth(column, place.Width > 0 ? place.Width : WidthOf(shown));
+  }
+}
+
+// With what was kept of columns that only other games have.
+std::vector<ColumnPlace> PlanetList::Arrangement() const {
+  std::vector<ColumnPlace> places;
+  for (int visual = 0; visual < heading_->count(); ++visual) {
+    const int column = heading_->logicalIndex(visual);
+    const PlanetGridColumn& shown = Table().Columns.at(static_cast<std::size_t>(column));
+    ColumnPlace place = {.Column = ColumnName(shown), .IsShown = !isColumnHidden(column)};
+    if (place.IsShown && columnWidth(column) != WidthOf(shown)) place.Width = columnWidth(column);
+    places.push_back(std::move(place));
+  }
+  for (const ColumnPlace& place : kept_) {
+    if (!ColumnNamed(Table(), place.Column)) places.push_back(place);
+  }
+  return places;
+}
+
+int PlanetList::FirstColumn() const {
+  const std::vector<int> columns = ShownColumns();
+  return columns.empty() ? 0 : columns.front();
+}
+
+std::vector<int> PlanetList::ShownColumns() const {
+  std::vector<int> columns;
+  for (int visual = 0; visual < heading_->count(); ++visual) {
+    const int column = heading_->logicalIndex(visual);
+    if (!isColumnHidden(column)) columns.push_back(column);
+  }
+  return columns;
+}
+
+void PlanetList::FillColumnMenu(QMenu& menu) {
+  menu.clear();
+  for (int visual = 0; visual < heading_->count(); ++visual) {
+    const auto column = static_cast<std::size_t>(heading_->logicalIndex(visual));
+    const std::string name = ColumnName(Table().Columns.at(column));
+    QAction* item = menu.addAction(WithoutAccessKeys(ToQString(name)));
+    item->setCheckable(true);
+    item->setChecked(!isColumnHidden(static_cast<int>(column)));
+    connect(item, &QAction::toggled, this,
+            [this, name](bool isShown) { ShowColumn(name, isShown); });
+  }
+  menu.addSeparator();
+  menu.addAction(tr("Columns as at First"), this, [this] {
+    Arrange({});
+    arranged_.start();
+  });
+}
+
+// One column stays: without any there would be no heading to bring others back.
+void PlanetList::ShowColumn(const std::string& column, bool isShown) {
+  std::vector<ColumnPlace> places = Arrangement();
+  const auto shown = std::ranges::count_if(places, &ColumnPlace::IsShown);
+  const auto place = std::ranges::find(places, column, &ColumnPlace::Column);
+  if (place == places.end() || (!isShown && shown == 1)) return;
+  place->IsShown = isShown;
+  Arrange(places);
+  arranged_.start();
+}
+
+std::vector<std::string> PlanetList::Headings() const {
+  std::vector<std::string> headings;
+  for (const int column : ShownColumns()) {
+    headings.push_back(Table().Columns.at(static_cast<std::size_t>(column)).Heading);
+  }
+  return headings;
+}
+
+std::vector<std::vector<std::string>> PlanetList::Cells(bool onlySelected) const {
+  const std::vector<int> columns = ShownColumns();
+  std::vector<std::vector<std::string>> rows;
+  for (int row = 0; row < rows_->rowCount(); ++row) {
+    if (onlySelected && !selectionModel()->isSelected(rows_->index(row, 0))) continue;
+    const auto planet = static_cast<std::size_t>(PlanetAt(rows_->index(row, 0)));
+    const std::vector<std::string>& cells = Table().Rows.at(planet - 1).Cells;
+    std::vector<std::string>& shown = rows.emplace_back();
+    shown.reserve(columns.size());
+    for (const int column : columns) shown.push_back(cells.at(static_cast<std::size_t>(column)));
+  }
+  return rows;
+}
+
+void PlanetList::keyPressEvent(QKeyEvent* event) {
+  const int key = event->key();
+  const bool isEnter = key == Qt::Key_Return || key == Qt::Key_Enter;
+  const bool isSort = (key == Qt::Key_Up || key == Qt::Key_Down) &&
+                      event->modifiers().testFlag(Qt::ControlModifier);
+  if (isEnter && CurrentPlanet() > 0) {
+    emit ZoomAsked(CurrentPlanet());
+  } else if (isSort) {
+    SortCurrent(key == Qt::Key_Up ? Qt::AscendingOrder : Qt::DescendingOrder,
+                event->modifiers().testFlag(Qt::ShiftModifier));
+  } else if (event->matches(QKeySequence::Copy)) {
+    emit CopyAsked();
+  } else {
+    QTableView::keyPressEvent(event);
+  }
+}
+
+// The right button asks about a planet and leaves the selected one, from which its way counts.
+void PlanetList::mousePressEvent(QMouseEvent* event) {
+  if (event->button() != Qt::RightButton) QTableView::mousePressEvent(event);
+}
+
+void PlanetList::mouseDoubleClickEvent(QMouseEvent* event) {
+  const int planet = PlanetAt(indexAt(event->pos()));
+  if (event->button() == Qt::LeftButton && planet > 0) emit ZoomAsked(planet);
+}
+
+void PlanetList::contextMenuEvent(QContextMenuEvent* event) {
+  const bool isKey = event->reason() == QContextMenuEvent::Keyboard;
+  const QModelIndex index = isKey ? currentIndex() : indexAt(event->pos());
+  if (!index.isValid()) return;
+  const QPoint at =
+      isKey ? visualRect(index).bottomLeft() : viewport()->mapFromGlobal(event->globalPos());
+  emit MenuAsked(PlanetAt(index), viewport()->mapToGlobal(at));
+}
+
+}  // namespace quorvane
