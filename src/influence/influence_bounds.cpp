@@ -86,7 +86,7 @@ std::span<const RadiatingPlanet> InfluenceStrip::PlanetsFor(int tile, const Cont
   const std::uint32_t owners = contest.OwnersThatMatter();
   planetsForTile_.resize(nearPlanets_.size());
   std::size_t count = 0;
-  for (const NearPlanet& planet : nearPlanets_) {
+  for (const PlanetInReach& planet : nearPlanets_) {
     planetsForTile_[count] = planet.Planet;
     const bool isNear = (planet.FirstTile <= tile) & (tile <= planet.LastTile);
     count += isNear & (owners >> planet.Planet.Owner & 1U);

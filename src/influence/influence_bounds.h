@@ -58,7 +58,7 @@ class InfluenceStrip {
   int lastTile_;
   float tilesPerLightYear_;
   std::vector<std::size_t> nearNumbers_;
-  std::vector<NearPlanet> nearPlanets_;
+  std::vector<PlanetInReach> nearPlanets_;
   InfluenceList planetsForTile_;
   // For each tile; room for whole blocks.
   std::size_t tileCount_;

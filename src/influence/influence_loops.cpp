@@ -28,7 +28,7 @@ namespace {
 
 [[gnu::always_inline]] inline float Squared(float dx, float dy) { return dx * dx + dy * dy + 1; }
 
-[[gnu::always_inline]] inline void BoundTiles(InfluenceRule rule, const NearPlanet& planet,
+[[gnu::always_inline]] inline void BoundTiles(InfluenceRule rule, const PlanetInReach& planet,
                                               const float* first, const float* last, int count,
                                               int* __restrict atLeast, int* __restrict atMost) {
   const ShareTerms terms = TermsOf(rule, planet.Planet);
@@ -45,9 +45,9 @@ namespace {
 }
 
 [[gnu::always_inline]] inline void BoundStrip(const InfluenceRule& rule,
-                                              std::span<const NearPlanet> planets,
+                                              std::span<const PlanetInReach> planets,
                                               const StripBounds& bounds) {
-  for (const NearPlanet& planet : planets) {
+  for (const PlanetInReach& planet : planets) {
     const int first = planet.FirstTile / kTileBlock * kTileBlock;
     const int count = (planet.LastTile / kTileBlock + 1) * kTileBlock - first;
     const std::size_t row = static_cast<std::size_t>(planet.Planet.Owner) * bounds.TileCount;

@@ -45,7 +45,7 @@ struct TileNumbers {
 using TileSums = std::array<TileNumbers, kMaxPlayers + 1>;
 
 /// A planet that may reach a strip of tiles.
-struct NearPlanet {
+struct PlanetInReach {
   RadiatingPlanet Planet;
   int FirstTile = 0;  // of those that it may reach
   int LastTile = 0;
@@ -84,7 +84,7 @@ struct ShareStep {
 /// version, for wider and narrower vectors; the results are the same.
 struct InfluenceLoops {
   /// Adds what the planets of a strip give at least and at most to the sums of its tiles.
-  void (*BoundStrip)(const InfluenceRule& rule, std::span<const NearPlanet> planets,
+  void (*BoundStrip)(const InfluenceRule& rule, std::span<const PlanetInReach> planets,
                      const StripBounds& bounds);
   /// Bounds the share of each planet in a tile.
   void (*BoundShares)(const InfluenceRule& rule, std::span<const RadiatingPlanet> planets,
