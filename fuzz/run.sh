@@ -6,8 +6,11 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 seconds=${1:-60}
-targets="fuzz_map fuzz_report fuzz_items fuzz_companions fuzz_history fuzz_load"
+targets="fuzz_map fuzz_report fuzz_items fuzz_companions fuzz_history fuzz_query fuzz_load"
 seeds=build/fuzz/seeds
+searches='owner:none near<=150 (terra>0 or unknown(hab))
+not hab(Vantari)>=50% and near(Old Harrow, 1.5k) or owner:"Veldt Kin" "base" base:dock mine
+changed unexplored gate pop!=-5'
 game=build/fuzz/seeds/game
 
 mkdir -p build/fuzz
@@ -27,7 +30,7 @@ ln -sfn "$memory" "$TMPDIR"
 number_of_runs() {
   case $1 in
     fuzz_map) echo 60000 ;;
-    fuzz_companions) echo 20000 ;;
+    fuzz_companions | fuzz_query) echo 20000 ;;
     fuzz_load | fuzz_history) echo 2000 ;;
     *) echo 6000 ;;
   esac
@@ -64,6 +67,7 @@ for target in $targets; do mkdir -p "$seeds/$target" "build/fuzz/corpus/$target"
 add_seeds 1 3 new
 add_seeds 2 2 old
 add_seeds 3 12 new
+printf '%s\n' "$searches" | split -l 1 - "$seeds/fuzz_query/search-"
 
 # The fuzzer learns from what is compared, addresses included; they differ from run to run unless the
 # system is asked for the same ones, which not every container allows.

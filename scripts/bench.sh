@@ -4,7 +4,7 @@
 # the program is. Takes some minutes; figures mean little while other programs run.
 set -euo pipefail
 cd "$(dirname "$0")/.."
-benches="influence load borders redraw grid turn history"
+benches="influence load borders redraw grid planets turn history"
 
 mkdir -p build
 cmake --preset release >build/bench-configure.log 2>&1 || { cat build/bench-configure.log; exit 1; }

@@ -4,7 +4,7 @@
 
 program_packages="g++ cmake ninja-build qt6-base-dev qt6-svg-dev qt6-charts-dev libqt6opengl6-dev libqt6svg6
   libgl-dev libsqlitecpp-dev libsqlite3-dev fonts-liberation"
-test_packages="$program_packages libgtest-dev libbenchmark-dev libcli11-dev file dpkg-dev"
+test_packages="$program_packages libgtest-dev libbenchmark-dev libcli11-dev file dpkg-dev python3"
 
 say() { printf '%s\n' "$*"; }
 stop() { printf '%s\n' "$*" >&2; exit 1; }

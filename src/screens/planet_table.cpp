@@ -167,10 +167,17 @@ std::vector<ColumnPlace> ArrangeColumns(const PlanetGrid& table,
         std::ranges::find(places, place.Column, &ColumnPlace::Column) != places.end();
     if (ColumnNamed(table, place.Column) && !isTwice) places.push_back(place);
   }
+  std::vector<ColumnPlace> first;
+  for (const std::string& name : NamesInFirstOrder(table)) first.push_back({.Column = name});
+  return WithOtherColumns(std::move(places), first);
+}
+
+std::vector<ColumnPlace> WithOtherColumns(std::vector<ColumnPlace> places,
+                                          const std::vector<ColumnPlace>& kept) {
   auto behind = places.begin();
-  for (const std::string& name : NamesInFirstOrder(table)) {
-    auto known = std::ranges::find(places, name, &ColumnPlace::Column);
-    if (known == places.end()) known = places.insert(behind, {.Column = name});
+  for (const ColumnPlace& place : kept) {
+    auto known = std::ranges::find(places, place.Column, &ColumnPlace::Column);
+    if (known == places.end()) known = places.insert(behind, place);
     behind = std::next(known);
   }
   return places;

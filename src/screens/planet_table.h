@@ -60,4 +60,9 @@ struct ColumnPlace {
 std::vector<ColumnPlace> ArrangeColumns(const PlanetGrid& table,
                                         const std::vector<ColumnPlace>& kept);
 
+/// The user's arrangement of a table, together with what was kept before of columns that only other
+/// games have: each behind the one that it stood behind.
+std::vector<ColumnPlace> WithOtherColumns(std::vector<ColumnPlace> places,
+                                          const std::vector<ColumnPlace>& kept);
+
 }  // namespace quorvane

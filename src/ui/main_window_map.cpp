@@ -243,6 +243,7 @@ void Main::PaintMap(OverlaySwitches switches) {
   ShowDistances();
   ShowRings();
   ShowFoundRings();
+  ShowPlanetMenu();
   ShowWhetherStopped(!isComplete, kDrawingStopped);
 }
 

@@ -44,8 +44,6 @@ void Main::BuildPlanets() {
   });
   connect(PlanetsDock->List, &PlanetList::Arranged, this, &Main::KeepArrangement);
   connect(Menu.ViewPlanet, &PlanetMenu::Asked, this, &Main::Planet_Asked);
-  // The map may have been zoomed since.
-  connect(Menu.ViewMenu, &QMenu::aboutToShow, this, &Main::ShowPlanetMenu);
 }
 
 // Shows the planets as they are now, where anybody sees them.

@@ -101,25 +101,21 @@ void PlanetList::SetUpHeading() {
          "Drag to move, right-click to choose columns.\n"
          "Ctrl+Up and Ctrl+Down sort by the current column, with Shift by several."));
   connect(heading_, &GridHeading::Clicked, this, &PlanetList::Heading_Clicked);
-  const auto arrange = [this] {
-    if (!isFilling_) arranged_.start();
-  };
-  connect(heading_, &QHeaderView::sectionMoved, this, arrange);
-  connect(heading_, &QHeaderView::sectionResized, this, arrange);
+  connect(heading_, &QHeaderView::sectionMoved, this, &PlanetList::TakeArrangement);
+  connect(heading_, &QHeaderView::sectionResized, this, &PlanetList::TakeArrangement);
   setHorizontalHeader(heading_);
 }
 
 const PlanetGrid& PlanetList::Table() const { return model_->Snapshot(); }
 
 void PlanetList::ShowTable(PlanetGrid table, const std::vector<int>& found) {
-  const std::vector<ColumnPlace> kept = Arrangement();
   const QScopedValueRollback filling(isFilling_, true);
   const std::vector<std::size_t> order = TableOrder(table, sorting_);
   std::vector<bool> mask = MaskOf(found, table.Rows.size());
   rows_->Show({}, {});
   model_->Show(std::move(table));
   rows_->Show(std::move(mask), order);
-  Arrange(kept);
+  Arrange(kept_);
   ShowMarks();
 }
 
@@ -234,11 +230,11 @@ void PlanetList::SortCurrent(Qt::SortOrder order, bool adds) {
   SortBy(std::move(sorting));
 }
 
-void PlanetList::Arrange(const std::vector<ColumnPlace>& kept) {
+void PlanetList::Arrange(std::vector<ColumnPlace> kept) {
   const QScopedValueRollback filling(isFilling_, true);
-  kept_ = kept;
+  kept_ = std::move(kept);
   int visual = 0;
-  for (const ColumnPlace& place : ArrangeColumns(Table(), kept)) {
+  for (const ColumnPlace& place : ArrangeColumns(Table(), kept_)) {
     const auto column = static_cast<int>(*ColumnNamed(Table(), place.Column));
     const PlanetGridColumn& shown = Table().Columns[static_cast<std::size_t>(column)];
     heading_->moveSection(heading_->visualIndex(column), visual++);
@@ -247,8 +243,9 @@ void PlanetList::Arrange(const std::vector<ColumnPlace>& kept) {
   }
 }
 
-// With what was kept of columns that only other games have.
-std::vector<ColumnPlace> PlanetList::Arrangement() const {
+// Takes what the user has done to the headings.
+void PlanetList::TakeArrangement() {
+  if (isFilling_) return;
   std::vector<ColumnPlace> places;
   for (int visual = 0; visual < heading_->count(); ++visual) {
     const int column = heading_->logicalIndex(visual);
@@ -257,10 +254,8 @@ std::vector<ColumnPlace> PlanetList::Arrangement() const {
     if (place.IsShown && columnWidth(column) != WidthOf(shown)) place.Width = columnWidth(column);
     places.push_back(std::move(place));
   }
-  for (const ColumnPlace& place : kept_) {
-    if (!ColumnNamed(Table(), place.Column)) places.push_back(place);
-  }
-  return places;
+  kept_ = WithOtherColumns(std::move(places), kept_);
+  arranged_.start();
 }
 
 int PlanetList::FirstColumn() const {
@@ -297,13 +292,10 @@ void PlanetList::FillColumnMenu(QMenu& menu) {
 
 // One column stays: without any there would be no heading to bring others back.
 void PlanetList::ShowColumn(const std::string& column, bool isShown) {
-  std::vector<ColumnPlace> places = Arrangement();
-  const auto shown = std::ranges::count_if(places, &ColumnPlace::IsShown);
-  const auto place = std::ranges::find(places, column, &ColumnPlace::Column);
-  if (place == places.end() || (!isShown && shown == 1)) return;
-  place->IsShown = isShown;
-  Arrange(places);
-  arranged_.start();
+  const auto found = ColumnNamed(Table(), column);
+  if (!found || (!isShown && ShownColumns().size() == 1)) return;
+  setColumnHidden(static_cast<int>(*found), !isShown);
+  TakeArrangement();
 }
 
 std::vector<std::string> PlanetList::Headings() const {

@@ -41,9 +41,9 @@ class PlanetList : public QTableView {
 
   void SortBy(std::vector<ColumnSort> sorting);
   const std::vector<ColumnSort>& Sorting() const { return sorting_; }
-  void Arrange(const std::vector<ColumnPlace>& kept);
-  /// How the columns are arranged now.
-  std::vector<ColumnPlace> Arrangement() const;
+  void Arrange(std::vector<ColumnPlace> kept);
+  /// How the user has arranged the columns, in this game and others.
+  const std::vector<ColumnPlace>& Arrangement() const { return kept_; }
   /// Fills a menu in which columns are chosen.
   void FillColumnMenu(QMenu& menu);
 
@@ -73,6 +73,7 @@ class PlanetList : public QTableView {
   void TakeChoice();
   void Heading_Clicked(int column, Qt::MouseButton button, Qt::KeyboardModifiers modifiers);
   void ShowColumn(const std::string& column, bool isShown);
+  void TakeArrangement();
   void SortCurrent(Qt::SortOrder order, bool adds);
   void ShowMarks();
   int PlanetAt(const QModelIndex& index) const;
@@ -83,7 +84,7 @@ class PlanetList : public QTableView {
   PlanetRows* rows_ = nullptr;
   GridHeading* heading_ = nullptr;
   std::vector<ColumnSort> sorting_;
-  std::vector<ColumnPlace> kept_;  // as they were arranged last, in whichever game
+  std::vector<ColumnPlace> kept_;
   QTimer arranged_;
   int chosen_ = 0;  // the planet that is known to be selected
   bool isFilling_ = false;

@@ -116,7 +116,9 @@ void PlanetsDock::ConnectParts() {
   });
   connect(searches_, &SearchMenu::Chosen, this, &PlanetsDock::Searches_Chosen);
   connect(searches_, &SearchMenu::SaveAsked, this, &PlanetsDock::SaveSearchAsked);
-  connect(searches_, &SearchMenu::RemoveAsked, this, &PlanetsDock::RemoveSearchAsked);
+  // The menu is filled anew when one is removed, and is on its way up until then.
+  connect(searches_, &SearchMenu::RemoveAsked, this, &PlanetsDock::RemoveSearchAsked,
+          Qt::QueuedConnection);
   connect(help_, &QPushButton::clicked, this, &PlanetsDock::Help_Click);
   connect(mark_, &QCheckBox::toggled, this, &PlanetsDock::MarksChanged);
   connect(columns_->menu(), &QMenu::aboutToShow, this,

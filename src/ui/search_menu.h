@@ -30,6 +30,9 @@ class SearchMenu : public QPushButton {
   void AddSearch(const QString& name, const PlanetSearch& search);
 
   QMenu* menu_ = nullptr;
+  QMenu* remove_ = nullptr;
+  QAction* end_ = nullptr;  // of the searches
+  QList<QAction*> items_;
 };
 
 }  // namespace quorvane

@@ -95,6 +95,9 @@ TEST(PlanetTable, KeepsTheArrangementOfColumnsAlsoOfOtherGames) {
   EXPECT_EQ(places[0], (ColumnPlace{.Column = "Age", .Width = 90, .IsShown = false}));
   EXPECT_EQ(places[1].Column, "Starbase") << "what comes behind it at first";
   EXPECT_EQ(ArrangeColumns({}, kept), std::vector<ColumnPlace>());
+  const std::vector<ColumnPlace> merged = WithOtherColumns({{.Column = "Name"}, age}, kept);
+  EXPECT_EQ(merged,
+            (std::vector<ColumnPlace>{{.Column = "Humanoid Est Hab %"}, {.Column = "Name"}, age}));
 }
 
 TEST(PlanetSearches, CanBeMadeAndHaveTheirColumns) {
