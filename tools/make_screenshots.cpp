@@ -4,6 +4,7 @@
 #include <CLI/CLI.hpp>
 #include <QAction>
 #include <QApplication>
+#include <QCheckBox>
 #include <QDialog>
 #include <QEventLoop>
 #include <QLineEdit>
@@ -28,6 +29,8 @@
 #include "ui/main_window.h"
 #include "ui/map_panel.h"
 #include "ui/overlay_bar.h"
+#include "ui/planet_list.h"
+#include "ui/planets_dock.h"
 #include "ui/texts.h"
 #include "ui/theme.h"
 #include "ui/years_dock.h"
@@ -222,6 +225,30 @@ void TakeNewTurn(Main& window, const ScreenshotJob& job) {
   Save(window, job, "main-new-turn");
 }
 
+// What the user could settle, in the list and ringed on the map.
+void TakePlanets(const ScreenshotJob& job) {
+  constexpr QSize kWide(1500, 820);  // with room for the columns that the search is about
+  Main window(ToPath(job.GameFolder));
+  window.Map->Timer1->stop();
+  window.resize(kWide);
+  window.show();
+  QTimer::singleShot(100, &window, [&job] { UseOpenDialog(job); });
+  window.mnuMap_Click();
+  window.findChild<QAction*>("ViewSet(1)")->trigger();
+  window.findChild<QAction*>("ViewPlanets")->trigger();
+  QApplication::processEvents();
+  window.findChild<QLineEdit*>("SearchLine")->setText("owner:none near<=250 terra>0");
+  window.findChild<QCheckBox*>("PlanetsMark")->setChecked(true);
+  window.PlanetsDock->List->SortBy({{"Terra %", true}, {"Nearest Own l.y.", false}});
+  window.PlanetsDock->List->ChooseFirst();
+  Save(window, job, "planets");
+  auto* help = window.findChild<QPushButton*>("SearchHelpButton");
+  help->click();
+  Save(*window.findChild<QDialog*>("SearchHelp"), job, "search-help");
+  window.findChild<QLineEdit*>("SearchLine")->setText("owner:nobody");
+  Save(*window.PlanetsDock, job, "planets-fault");
+}
+
 void TakePictures(const ScreenshotJob& job) {
   Main window(ToPath(job.GameFolder));
   window.Map->Timer1->stop();  // the marker's colours are random
@@ -330,6 +357,7 @@ int main(int argc, char* argv[]) {
                                  ToQString(suffix)};
   if (year->count() == 0) {
     quorvane::TakePictures(job);
+    quorvane::TakePlanets(job);
   } else {
     job.Year = ToQString(warYear);
     quorvane::TakeYears(job);

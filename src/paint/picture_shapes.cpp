@@ -39,11 +39,10 @@ void PictureShape::paintEvent(QPaintEvent*) {
   const QPointF first = picture_.WidgetPoint(First());
   const QPointF last = picture_.WidgetPoint(Last());
   if (hasDarkSides_) {
-    constexpr double kLineAndSides = 3;
-    painter.setPen({Qt::black, kLineAndSides, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin});
+    painter.setPen({Qt::black, width_ + 2, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin});
     Paint(painter, first, last);
   }
-  painter.setPen(QColor(RgbOf(colour_)));
+  painter.setPen({QColor(RgbOf(colour_)), width_});
   Paint(painter, first, last);
 }
 

@@ -22,6 +22,8 @@ class PictureShape : public QWidget {
 
   Colour LineColour() const { return colour_; }
   void SetLineColour(Colour colour);
+  /// @param width  in pixels; 1 at first
+  void SetLineWidth(double width) { width_ = width; }
   /// Gives the line a dark one on either side, which makes it stand out from bright pictures.
   void AddDarkSides();
 
@@ -40,6 +42,7 @@ class PictureShape : public QWidget {
  private:
   PictureBox& picture_;
   Colour colour_ = {255, 255, 255};
+  double width_ = 1;
   bool hasDarkSides_ = false;
 };
 

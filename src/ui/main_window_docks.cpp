@@ -16,6 +16,7 @@
 #include "ui/map_navigator.h"
 #include "ui/map_panel.h"
 #include "ui/overlay_bar.h"
+#include "ui/planets_dock.h"
 #include "ui/reports_dock.h"
 #include "ui/texts.h"
 
@@ -92,7 +93,7 @@ QRect Main::PlaceOfFloatingDock() const {
 // it floats.
 void Main::OpenDock(QDockWidget& dock) {
   constexpr int kLeastWidth = 200;
-  constexpr int kWantedWidth = 320;
+  const int wantedWidth = &dock == PlanetsDock ? 640 : 320;
   const int room = scroll_->width() - Detail->geometry().right() - 1 -
                    style()->pixelMetric(QStyle::PM_DockWidgetSeparatorExtent);
   const bool isAlone = dock.isHidden() && !dock.isFloating() && scroll_->width() == width();
@@ -101,7 +102,7 @@ void Main::OpenDock(QDockWidget& dock) {
     dock.setFloating(true);
     dock.setGeometry(place);
   } else if (!arePlacesKnown_ && isAlone) {
-    resizeDocks({&dock}, {std::min(room, kWantedWidth)}, Qt::Horizontal);
+    resizeDocks({&dock}, {std::min(room, wantedWidth)}, Qt::Horizontal);
   }
   dock.show();
   dock.raise();

@@ -16,8 +16,7 @@ namespace quorvane {
 namespace {
 
 constexpr Colour kZoomBoxColour = {150, 150, 150};
-constexpr Colour kFoundColour = {255, 200, 60};
-constexpr double kFoundRadius = 6;  // within the rings of what changed
+constexpr double kFoundRadius = 11;  // pixels, around the rings of what changed
 constexpr std::chrono::milliseconds kMarkerPeriod(250);
 
 // The map, with a frame above its picture from when the keyboard brings the focus here until the
@@ -91,8 +90,8 @@ MapPanel::MapPanel(QWidget& area, const MapState& state)
   WayLine->AddDarkSides();
   WayLength = NewNote("WayLength", *Universe);
   FoundRings = new RingsShape(*Universe, "FoundRings");
-  FoundRings->SetLineColour(kFoundColour);
   FoundRings->SetRadius(kFoundRadius);
+  FoundRings->SetLineWidth(2);
   FoundRings->AddDarkSides();
   Rings = new RingsShape(*Universe, "Rings");
   MarkerNumber = NewNote("MarkerNumber", *Universe);

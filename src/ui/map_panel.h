@@ -39,7 +39,7 @@ class MapPanel : public QObject {
   void ShowMarkerNumber(int race);
   /// Rings planets above the map, by their stored positions.
   void ShowRings(const std::vector<StoredPoint>& planets);
-  /// Rings the planets that a search found, in another colour.
+  /// Rings the planets that a search found, with larger rings.
   void ShowFound(const std::vector<StoredPoint>& planets);
   void ShowHint(bool isShown);
   /// Places the selection marker around the selected planet, or hides it where there is nothing to

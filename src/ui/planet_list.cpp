@@ -25,6 +25,7 @@ constexpr int kDefaultWidthTwips = 960;
 constexpr int kRowPadding = 6;
 constexpr double kFontSize = 8;
 constexpr int kSelectionAlpha = 90;
+constexpr int kRoomForMarks = 6;  // of what the table is sorted by
 
 // A selected row is lightened, so that its owner's colour is seen still.
 class RowPainter : public QStyledItemDelegate {
@@ -48,10 +49,6 @@ class RowPainter : public QStyledItemDelegate {
     painter->drawRect(option.rect.adjusted(0, 0, -1, -1));
   }
 };
-
-int WidthOf(const PlanetGridColumn& column) {
-  return PixelsFromTwips(column.Width == kDefaultColumnWidth ? kDefaultWidthTwips : column.Width);
-}
 
 std::vector<bool> MaskOf(const std::vector<int>& planets, std::size_t count) {
   std::vector<bool> mask(count);
@@ -103,7 +100,22 @@ void PlanetList::SetUpHeading() {
   connect(heading_, &GridHeading::Clicked, this, &PlanetList::Heading_Clicked);
   connect(heading_, &QHeaderView::sectionMoved, this, &PlanetList::TakeArrangement);
   connect(heading_, &QHeaderView::sectionResized, this, &PlanetList::TakeArrangement);
+  heading_->setDefaultAlignment(Qt::AlignHCenter | Qt::AlignBottom |
+                                static_cast<Qt::Alignment>(Qt::TextWordWrap));
+  heading_->setFixedHeight(heading_->height() + kRoomForMarks);
   setHorizontalHeader(heading_);
+}
+
+// The width of a column at first; no heading is cut.
+int PlanetList::WidthOf(const PlanetGridColumn& column) const {
+  constexpr int kBeside = 10;
+  const int wanted =
+      PixelsFromTwips(column.Width == kDefaultColumnWidth ? kDefaultWidthTwips : column.Width);
+  int widest = 0;
+  for (const QString& line : ToQString(column.Heading).split("\r\n")) {
+    widest = std::max(widest, heading_->fontMetrics().horizontalAdvance(line));
+  }
+  return std::max(wanted, widest + kBeside);
 }
 
 const PlanetGrid& PlanetList::Table() const { return model_->Snapshot(); }

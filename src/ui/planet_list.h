@@ -79,6 +79,7 @@ class PlanetList : public QTableView {
   int PlanetAt(const QModelIndex& index) const;
   std::vector<int> ShownColumns() const;
   int FirstColumn() const;
+  int WidthOf(const PlanetGridColumn& column) const;
 
   GridModel* model_ = nullptr;
   PlanetRows* rows_ = nullptr;
