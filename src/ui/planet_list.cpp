@@ -122,6 +122,7 @@ const PlanetGrid& PlanetList::Table() const { return model_->Snapshot(); }
 
 void PlanetList::ShowTable(PlanetGrid table, const std::vector<int>& found) {
   const QScopedValueRollback filling(isFilling_, true);
+  const QPoint scrolled(horizontalScrollBar()->value(), verticalScrollBar()->value());
   const std::vector<std::size_t> order = TableOrder(table, sorting_);
   std::vector<bool> mask = MaskOf(found, table.Rows.size());
   rows_->Show({}, {});
@@ -129,6 +130,8 @@ void PlanetList::ShowTable(PlanetGrid table, const std::vector<int>& found) {
   rows_->Show(std::move(mask), order);
   Arrange(kept_);
   ShowMarks();
+  horizontalScrollBar()->setValue(scrolled.x());
+  verticalScrollBar()->setValue(scrolled.y());
 }
 
 void PlanetList::ShowFound(const std::vector<int>& found) {

@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <map>
 #include <memory>
+#include <set>
 
 #include "history/game_hash.h"
 #include "screens/race_curves.h"
@@ -197,6 +198,28 @@ TEST_F(HistoryWindowTest, TellsWhatChangedAndRingsIt) {
   driver->Choose("ViewChanges");
   EXPECT_FALSE(window->Map->Rings->isVisible());
   EXPECT_EQ(Picture(), picture) << "rings are no part of it";
+}
+
+TEST_F(HistoryWindowTest, SearchesForWhatChangedSinceTheComparedYear) {
+  driver->Choose("ViewPlanets").Click("PlanetsMark").Type("SearchLine", "changed");
+  EXPECT_EQ(driver->Text("PlanetsSummary"), "0 of 60 planets") << "no earlier year is kept";
+  PlayYears(2);
+  const auto expectChanges = [this](int since, int year) {
+    std::set<int> changed;
+    for (const PlanetChange& change : FindPlanetChanges(loaded[since], loaded[year])) {
+      changed.insert(change.Planet);
+    }
+    EXPECT_FALSE(changed.empty());
+    EXPECT_EQ(window->Map->FoundRings->Centres().size(), changed.size()) << since << ", " << year;
+  };
+  expectChanges(2451, 2452);
+  driver->Choose("ViewChanges");
+  auto& against = driver->Find<QComboBox>("ChangesAgainst");
+  against.setCurrentIndex(against.findData(2450));
+  expectChanges(2450, 2452);
+  ShowYear(2451);
+  expectChanges(2450, 2451);
+  EXPECT_EQ(driver->Text("SearchLine"), "changed");
 }
 
 TEST_F(HistoryWindowTest, ADiskThatRefusesStopsNoLoad) {
