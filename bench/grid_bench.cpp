@@ -2,19 +2,17 @@
 // beside a plain version: a table widget with an item for every cell, and a sort that reads both
 // cells anew at every comparison.
 
-#include <QApplication>
 #include <QBrush>
 #include <QTableWidget>
 #include <memory>
 #include <numeric>
 
 #include "paint/colours.h"
-#include "ratio_reporter.h"
 #include "reference/plain_grid.h"
 #include "synthetic_game.h"
 #include "ui/grid.h"
 #include "ui/texts.h"
-#include "ui/theme.h"
+#include "window_bench.h"
 
 namespace quorvane {
 namespace {
@@ -155,9 +153,5 @@ void RegisterAll() {
 }  // namespace quorvane
 
 int main(int argc, char** argv) {
-  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-  QApplication application(argc, argv);
-  quorvane::ApplyTheme(application);
-  quorvane::RegisterAll();
-  return quorvane::RunRatioBenchmarks(argc, argv);
+  return quorvane::RunWindowBenchmarks(argc, argv, quorvane::RegisterAll);
 }

@@ -2,13 +2,11 @@
 // search line with the found planets marked on the map, to be scrolled and to be sorted.
 
 #include <QAction>
-#include <QApplication>
 #include <QKeyEvent>
 #include <QScrollBar>
 
 #include "game_on_disk.h"
 #include "loading/load_game.h"
-#include "ratio_reporter.h"
 #include "reference/plain_distances.h"
 #include "rules/distances.h"
 #include "ui/game_memories.h"
@@ -16,7 +14,7 @@
 #include "ui/planet_list.h"
 #include "ui/planets_dock.h"
 #include "ui/search_line.h"
-#include "ui/theme.h"
+#include "window_bench.h"
 
 namespace quorvane {
 namespace {
@@ -147,9 +145,5 @@ void RegisterAll() {
 }  // namespace quorvane
 
 int main(int argc, char** argv) {
-  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-  QApplication application(argc, argv);
-  quorvane::ApplyTheme(application);
-  quorvane::RegisterAll();
-  return quorvane::RunRatioBenchmarks(argc, argv);
+  return quorvane::RunWindowBenchmarks(argc, argv, quorvane::RegisterAll);
 }

@@ -2,7 +2,6 @@
 // done beside the windows, a look at the game's files and a survey of its reports.
 
 #include <QAction>
-#include <QApplication>
 #include <ctime>
 #include <filesystem>
 #include <fstream>
@@ -11,12 +10,11 @@
 #include "generator/turn_writer.h"
 #include "loading/load_game.h"
 #include "loading/report_survey.h"
-#include "ratio_reporter.h"
 #include "ui/game_memories.h"
 #include "ui/main_window.h"
 #include "ui/map_panel.h"
-#include "ui/theme.h"
 #include "ui/years_dock.h"
+#include "window_bench.h"
 
 namespace quorvane {
 namespace {
@@ -126,9 +124,5 @@ void RegisterAll() {
 }  // namespace quorvane
 
 int main(int argc, char** argv) {
-  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-  QApplication application(argc, argv);
-  quorvane::ApplyTheme(application);
-  quorvane::RegisterAll();
-  return quorvane::RunRatioBenchmarks(argc, argv);
+  return quorvane::RunWindowBenchmarks(argc, argv, quorvane::RegisterAll);
 }

@@ -16,6 +16,7 @@
 #include "paint/twips.h"
 #include "screens/planet_grid.h"
 #include "ui/grid_heading.h"
+#include "ui/grid_look.h"
 #include "ui/grid_model.h"
 #include "ui/show_hide.h"
 
@@ -24,13 +25,10 @@ namespace {
 
 constexpr QSize kFirstSize(1200, 640);
 constexpr int kSmallestTwips = 2000;
-constexpr int kDefaultWidthTwips = 960;
 // What the window's outer size has beyond the table: frame and menu bar.
 constexpr int kSidesTwips = 135;
 constexpr int kTopAndBottomTwips = 700;
-constexpr int kRowPadding = 6;
 constexpr int kSparedPadding = 3;
-constexpr double kFontSize = 8;
 
 // The style's room beside a text would cut "18 years old" in a column of the width given to it. A
 // highlighted row would hide its owner's colour, and so would the style's mark of the current cell:
@@ -70,24 +68,6 @@ class CellPainter : public QStyledItemDelegate {
 void SetBehaviour(QTableView& table) {
   table.setSelectionMode(QAbstractItemView::NoSelection);
   table.setItemDelegate(new CellPainter(&table));
-  table.setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
-  table.setWordWrap(false);
-  table.setCornerButtonEnabled(false);
-}
-
-void SetLook(QTableView& table) {
-  QPalette black = table.palette();
-  black.setColor(QPalette::Base, Qt::black);
-  table.setPalette(black);
-  // Columns have fixed first widths, which shall hold most texts whole.
-  QFont small = table.font();
-  small.setPointSizeF(kFontSize);
-  table.setFont(small);
-  table.horizontalHeader()->setFont(small);
-  table.verticalHeader()->hide();
-  // Rows of one height need no measuring, however many planets there are.
-  table.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-  table.verticalHeader()->setDefaultSectionSize(QFontMetrics(small).height() + kRowPadding);
 }
 
 }  // namespace
@@ -121,7 +101,7 @@ void Grid::BuildTable() {
   DG->setHorizontalHeader(heading);
   DG->setModel(model_);
   SetBehaviour(*DG);
-  SetLook(*DG);
+  GiveGridLook(*DG);
   DG->setFocus();
 }
 
@@ -191,8 +171,7 @@ int Grid::ColumnWidth(int column) const {
 void Grid::SetColumnWidth(int column, int twips) {
   DG->setColumnHidden(column, twips == 0);
   if (twips == 0) return;
-  DG->setColumnWidth(column,
-                     PixelsFromTwips(twips == kDefaultColumnWidth ? kDefaultWidthTwips : twips));
+  DG->setColumnWidth(column, FirstColumnWidth(twips));
 }
 
 void Grid::resizeEvent(QResizeEvent* event) {

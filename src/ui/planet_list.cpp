@@ -11,9 +11,9 @@
 #include <chrono>
 #include <utility>
 
-#include "paint/twips.h"
 #include "ui/column_menu.h"
 #include "ui/grid_heading.h"
+#include "ui/grid_look.h"
 #include "ui/grid_model.h"
 #include "ui/planet_rows.h"
 #include "ui/texts.h"
@@ -21,9 +21,6 @@
 namespace quorvane {
 namespace {
 
-constexpr int kDefaultWidthTwips = 960;
-constexpr int kRowPadding = 6;
-constexpr double kFontSize = 8;
 constexpr int kSelectionAlpha = 90;
 constexpr int kRoomForMarks = 6;  // of what the table is sorted by
 
@@ -70,20 +67,8 @@ PlanetList::PlanetList(QWidget* parent) : QTableView(parent) {
   setSelectionBehavior(QAbstractItemView::SelectRows);
   setSelectionMode(QAbstractItemView::ExtendedSelection);
   setEditTriggers(QAbstractItemView::NoEditTriggers);
-  setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
-  setWordWrap(false);
-  setCornerButtonEnabled(false);
   setTabKeyNavigation(false);
-  QPalette black = palette();
-  black.setColor(QPalette::Base, Qt::black);
-  setPalette(black);
-  QFont small = font();
-  small.setPointSizeF(kFontSize);
-  setFont(small);
-  heading_->setFont(small);
-  verticalHeader()->hide();
-  verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-  verticalHeader()->setDefaultSectionSize(QFontMetrics(small).height() + kRowPadding);
+  GiveGridLook(*this);
   constexpr std::chrono::milliseconds kAfterLastChange(300);
   arranged_.setSingleShot(true);
   arranged_.setInterval(kAfterLastChange);
@@ -109,13 +94,11 @@ void PlanetList::SetUpHeading() {
 // The width of a column at first; no heading is cut.
 int PlanetList::WidthOf(const PlanetGridColumn& column) const {
   constexpr int kBeside = 10;
-  const int wanted =
-      PixelsFromTwips(column.Width == kDefaultColumnWidth ? kDefaultWidthTwips : column.Width);
   int widest = 0;
   for (const QString& line : ToQString(column.Heading).split("\r\n")) {
     widest = std::max(widest, heading_->fontMetrics().horizontalAdvance(line));
   }
-  return std::max(wanted, widest + kBeside);
+  return std::max(FirstColumnWidth(column.Width), widest + kBeside);
 }
 
 const PlanetGrid& PlanetList::Table() const { return model_->Snapshot(); }

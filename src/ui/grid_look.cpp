@@ -1,0 +1,35 @@
+#include "ui/grid_look.h"
+
+#include <QHeaderView>
+
+#include "paint/twips.h"
+#include "screens/planet_grid.h"
+
+namespace quorvane {
+
+void GiveGridLook(QTableView& table) {
+  constexpr int kRowPadding = 6;
+  constexpr double kFontSize = 8;
+  QPalette black = table.palette();
+  black.setColor(QPalette::Base, Qt::black);
+  table.setPalette(black);
+  // Columns have fixed first widths, which shall hold most texts whole.
+  QFont small = table.font();
+  small.setPointSizeF(kFontSize);
+  table.setFont(small);
+  table.horizontalHeader()->setFont(small);
+  table.verticalHeader()->hide();
+  // Rows of one height need no measuring, however many planets there are.
+  table.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  table.verticalHeader()->setDefaultSectionSize(QFontMetrics(small).height() + kRowPadding);
+  table.setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+  table.setWordWrap(false);
+  table.setCornerButtonEnabled(false);
+}
+
+int FirstColumnWidth(int twips) {
+  constexpr int kDefaultWidthTwips = 960;
+  return PixelsFromTwips(twips == kDefaultColumnWidth ? kDefaultWidthTwips : twips);
+}
+
+}  // namespace quorvane
