@@ -115,7 +115,9 @@ std::string PlanetText(const GameSession& session, int planet) {
   line("Minerals on the surface (iron, bora, germ)", three("IronS", "BoraS", "GermS"));
   line("Mineral concentrations", three("IronMCT", "BoraMCT", "GermMCT"));
   line("Mining rates", three("IronMR", "BoraMR", "GermMR"));
-  line("Gravity, temperature, radiation", three("Grav1", "Temp1", "Rad1"));
+  if (record.IsEnvironmentKnown()) {
+    line("Gravity, temperature, radiation", three("Grav1", "Temp1", "Rad1"));
+  }
   line("Stargate", DescribeStargate(session, planet).Type);
   const std::vector<std::string> values = HabTexts(session, planet);
   for (std::size_t player = 0; player < values.size(); ++player) {

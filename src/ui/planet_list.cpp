@@ -149,16 +149,26 @@ void PlanetList::SelectPlanet(int planet) {
     return;
   }
   const bool isChosen = row.row() == currentIndex().row() && selectionModel()->isSelected(row);
-  if (!isChosen) setCurrentIndex(row);
-  // Sideways nothing moves: it may be far to the current column.
+  if (!isChosen) Choose(row);
+  ShowCurrent();
+}
+
+// Whichever keys are held meanwhile.
+void PlanetList::Choose(const QModelIndex& index) {
+  selectionModel()->setCurrentIndex(
+      index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+}
+
+// Sideways nothing moves: it may be far to the current column.
+void PlanetList::ShowCurrent() {
   const int left = horizontalScrollBar()->value();
-  scrollTo(row);
+  if (currentIndex().isValid()) scrollTo(currentIndex());
   horizontalScrollBar()->setValue(left);
 }
 
 void PlanetList::ChooseFirst() {
   if (rows_->rowCount() == 0 || selectionModel()->hasSelection()) return;
-  setCurrentIndex(rows_->index(0, FirstColumn()));
+  Choose(rows_->index(0, FirstColumn()));
 }
 
 void PlanetList::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
@@ -184,7 +194,7 @@ void PlanetList::SortBy(std::vector<ColumnSort> sorting) {
   sorting_ = std::move(sorting);
   rows_->Arrange(TableOrder(Table(), sorting_));
   ShowMarks();
-  if (currentIndex().isValid()) scrollTo(currentIndex());
+  ShowCurrent();
 }
 
 void PlanetList::ShowMarks() {

@@ -71,6 +71,8 @@ class PlanetList : public QTableView {
  private:
   void SetUpHeading();
   void TakeChoice();
+  void Choose(const QModelIndex& index);
+  void ShowCurrent();
   void Heading_Clicked(int column, Qt::MouseButton button, Qt::KeyboardModifiers modifiers);
   void ShowColumn(const std::string& column, bool isShown);
   void TakeArrangement();
