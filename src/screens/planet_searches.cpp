@@ -51,6 +51,8 @@ Result<void> KeepSearch(std::vector<PlanetSearch>& searches, PlanetSearch search
   search.Name = Trimmed(search.Name);
   if (search.Name.empty()) return Failure{"A search needs a name"};
   if (Trimmed(search.Query).empty()) return Failure{"There is no search to be kept"};
+  const std::variant<QueryNode, QueryFault> parsed = ParseQuery(search.Query);
+  if (const auto* fault = std::get_if<QueryFault>(&parsed)) return Failure{fault->Sentence};
   const auto hasName = [&](const PlanetSearch& other) {
     return EqualIgnoringCase(other.Name, search.Name);
   };

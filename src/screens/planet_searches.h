@@ -25,7 +25,8 @@ struct PlanetSearch {
 std::vector<PlanetSearch> ReadyMadeSearches(bool hasTerra);
 
 /// Keeps a search under a name, in place of one of the same name, letter case aside. Fails without
-/// a name, with the name of one that is ready made, and without a search.
+/// a name, with the name of one that is ready made, without a search and with one that cannot be
+/// read.
 Result<void> KeepSearch(std::vector<PlanetSearch>& searches, PlanetSearch search);
 
 /// An example of the language.

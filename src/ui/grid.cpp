@@ -1,14 +1,11 @@
 #include "ui/grid.h"
 
 #include <QAction>
-#include <QHelpEvent>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPainter>
 #include <QScrollBar>
 #include <QShortcut>
-#include <QStyledItemDelegate>
-#include <QToolTip>
 #include <algorithm>
 #include <map>
 #include <utility>
@@ -33,9 +30,9 @@ constexpr int kSparedPadding = 3;
 // The style's room beside a text would cut "18 years old" in a column of the width given to it. A
 // highlighted row would hide its owner's colour, and so would the style's mark of the current cell:
 // that one has a frame instead.
-class CellPainter : public QStyledItemDelegate {
+class CellPainter : public CellTips {
  public:
-  using QStyledItemDelegate::QStyledItemDelegate;
+  explicit CellPainter(QObject* parent) : CellTips(kSparedPadding, parent) {}
 
   void paint(QPainter* painter, const QStyleOptionViewItem& option,
              const QModelIndex& index) const override {
@@ -51,17 +48,6 @@ class CellPainter : public QStyledItemDelegate {
       painter->drawRect(option.rect.adjusted(0, 0, -1, -1));
     }
     painter->restore();
-  }
-
-  // Only a text that is cut needs to be told whole.
-  bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
-                 const QModelIndex& index) override {
-    const bool isCut = sizeHint(option, index).width() > option.rect.width() + kSparedPadding;
-    if (isCut || event->type() != QEvent::ToolTip) {
-      return QStyledItemDelegate::helpEvent(event, view, option, index);
-    }
-    QToolTip::hideText();
-    return true;
   }
 };
 

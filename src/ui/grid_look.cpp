@@ -1,6 +1,8 @@
 #include "ui/grid_look.h"
 
 #include <QHeaderView>
+#include <QHelpEvent>
+#include <QToolTip>
 
 #include "paint/twips.h"
 #include "screens/planet_grid.h"
@@ -25,6 +27,16 @@ void GiveGridLook(QTableView& table) {
   table.setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
   table.setWordWrap(false);
   table.setCornerButtonEnabled(false);
+}
+
+bool CellTips::helpEvent(QHelpEvent* event, QAbstractItemView* view,
+                         const QStyleOptionViewItem& option, const QModelIndex& index) {
+  const bool isCut = sizeHint(option, index).width() > option.rect.width() + spared_;
+  if (isCut || event->type() != QEvent::ToolTip) {
+    return QStyledItemDelegate::helpEvent(event, view, option, index);
+  }
+  QToolTip::hideText();
+  return true;
 }
 
 int FirstColumnWidth(int twips) {

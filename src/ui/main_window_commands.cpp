@@ -98,6 +98,8 @@ void Main::ResetWindow() {
   Map->PlaceSelector();
   pointer_.reset();
   Navigator->BeginGame();
+  ShowPlanets();
+  ShowPlanetMenu();
   ShowNearest();
   ShowDistances();
 }

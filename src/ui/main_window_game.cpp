@@ -71,7 +71,6 @@ bool Main::Load(const GameChoice& choice, const std::optional<GameWatcher::Stamp
   watcher_.Watch(since);
   ShowLoadedGame();
   ShowHistory();
-  ShowPlanets();
   keep_.start();
   if (!session_.OwnersWithoutRecord.empty()) {
     prompts_.Inform(LeftOutMessage(session_.OwnersWithoutRecord));

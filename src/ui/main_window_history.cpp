@@ -74,6 +74,7 @@ void Main::TakeGame() {
   const std::string game = GameHash(session_);
   if (std::exchange(game_, game) != game) comparedYear_ = 0;
   compared_.reset();
+  years_.clear();
 }
 
 void Main::KeepYear() {

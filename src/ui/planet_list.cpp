@@ -6,7 +6,6 @@
 #include <QPainter>
 #include <QScopedValueRollback>
 #include <QScrollBar>
-#include <QStyledItemDelegate>
 #include <algorithm>
 #include <chrono>
 #include <utility>
@@ -25,9 +24,9 @@ constexpr int kSelectionAlpha = 90;
 constexpr int kRoomForMarks = 6;  // of what the table is sorted by
 
 // A selected row is lightened, so that its owner's colour is seen still.
-class RowPainter : public QStyledItemDelegate {
+class RowPainter : public CellTips {
  public:
-  using QStyledItemDelegate::QStyledItemDelegate;
+  explicit RowPainter(QObject* parent) : CellTips(0, parent) {}
 
   void paint(QPainter* painter, const QStyleOptionViewItem& option,
              const QModelIndex& index) const override {

@@ -117,6 +117,7 @@ TEST(PlanetSearches, CanBeMadeAndHaveTheirColumns) {
   EXPECT_FALSE(KeepSearch(own, {.Name = "old Reports", .Query = "mine"}));
   EXPECT_FALSE(KeepSearch(own, {.Name = " ", .Query = "mine"}));
   EXPECT_FALSE(KeepSearch(own, {.Name = "Empty", .Query = " "}));
+  EXPECT_FALSE(KeepSearch(own, {.Name = "Wrong", .Query = "mine or"}));
   ASSERT_EQ(own.size(), 1U);
   EXPECT_EQ(own[0].Query, "iron>80");
 }
