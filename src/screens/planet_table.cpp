@@ -36,7 +36,6 @@ constexpr std::array<FurtherColumn, 11> kFurtherColumns = {{
 constexpr int kNameWidth = 1600;
 constexpr std::size_t kWays = 2;  // the first of the three that depend on the selected planet
 constexpr std::size_t kWayColumns = 3;
-constexpr std::size_t kReported = kWays + kWayColumns;  // the first of what reports say
 
 // What is looked at most stands in front.
 constexpr std::string_view kFirstColumns[] = {

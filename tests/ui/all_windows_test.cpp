@@ -152,6 +152,7 @@ TEST_F(AllWindowsTest, ShowNamesAsTheyStandAndNameTheirControls) {
   const QPoint planet =
       window.Map->Universe->WidgetPoint(window.Map->State().View.ToSurface({50, 100})).toPoint();
   driver.MoveTo("Universe", planet).ClickAt("Universe", planet);
+  driver.Choose("ViewPlanets").Click("SearchHelpButton").Type("SearchLine", "\"<b");
   CheckAll();
   EXPECT_EQ(QAccessible::queryAccessibleInterface(window.Map->Universe)->role(),
             QAccessible::Graphic);
@@ -175,7 +176,8 @@ TEST_F(AllWindowsTest, ShowNamesAsTheyStandAndNameTheirControls) {
   dynamic_cast<Grid&>(*QApplication::activeWindow()).mnuSH->trigger();
 
   const QString places =
-      "OpenFile.PLALabelText,OpenFile.Check1(1),OpenFile.Dir1,OpenFile.Dir1 tip,OpenFile.File1,"
+      "Main.PlanetsTable,Main.PlanetsTable "
+      "tip,OpenFile.PLALabelText,OpenFile.Check1(1),OpenFile.Dir1,OpenFile.Dir1 tip,OpenFile.File1,"
       "MessageBox.qt_msgbox_label,Main.Main title,Main.Race(0),Main.Race(0) tip,Main.Universe tip,"
       "Main.theplanet,Main.PlanetName,Main.Starbase,Main.Combo1,RaceColour.RaceColour title,"
       "FindPlanet.PlanetList,EmpireStat.Combo1,InputBox.,Grid.DG,Grid.DG tip,ShowHide.ShowHideList";
