@@ -1,8 +1,10 @@
 #include <QClipboard>
+#include <QFile>
 #include <QMenu>
 #include <algorithm>
 
 #include "screens/planet_details.h"
+#include "ui/manual.h"
 #include "ui/planets_fixture.h"
 
 namespace quorvane {
@@ -16,6 +18,17 @@ class NewStylePlanetsTest : public PlanetsTest {
  protected:
   int Style() const override { return kNewReportStyle; }
 };
+
+TEST(SearchExamples, StandInTheManual) {
+  const Manual manual;  // whose resource is there from now on
+  QFile file(":/manual.md");
+  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+  const std::string text = file.readAll().toStdString();
+  for (const auto& [query, meaning] : SearchExamples()) {
+    const std::string row = "| `" + std::string(query) + "` | " + std::string(meaning) + " |";
+    EXPECT_NE(text.find(row), std::string::npos) << row;
+  }
+}
 
 TEST_P(PlanetsTest, SelectionIsOneInTheListAndOnTheMap) {
   ClickRow(12);
