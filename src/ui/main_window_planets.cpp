@@ -48,8 +48,8 @@ void Main::BuildPlanets() {
 
 // Shows the planets as they are now, where anybody sees them.
 void Main::ShowPlanets() {
-  if (!PlanetsDock->isHidden()) PlanetsDock->ShowGame(SelectedPlanet(state_, session_));
-  ShowFoundRings();
+  if (PlanetsDock->isHidden()) return ShowFoundRings();
+  PlanetsDock->ShowGame(SelectedPlanet(state_, session_));
 }
 
 void Main::ShowFoundRings() {

@@ -11,8 +11,8 @@ QString WayText(const GameSession& session, int planet, int selected) {
   const DistanceTexts way = DescribeWay(session, selected, planet);
   const std::string& years = way.Years.at(kListedWarp - kSlowestWarp);
   return QObject::tr("Distance from %1: %2, %3 at warp %4")
-      .arg(ToQString(session.Planet(selected).Name()), ToQString(way.LightYears), ToQString(years))
-      .arg(kListedWarp);
+      .arg(ToQString(session.Planet(selected).Name()), ToQString(way.LightYears), ToQString(years),
+           QString::number(kListedWarp));
 }
 
 }  // namespace
