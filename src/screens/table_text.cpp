@@ -1,6 +1,7 @@
 #include "screens/table_text.h"
 
 #include "model/field_value.h"
+#include "model/text.h"
 
 namespace quorvane {
 namespace {
@@ -34,6 +35,16 @@ void TableText::EndRow() {
 void TableText::Row(const std::vector<std::string>& cells) {
   for (const std::string& cell : cells) Cell(cell);
   EndRow();
+}
+
+std::string TableFileText(std::string_view extension, const std::vector<std::string>& headings,
+                          const std::vector<std::vector<std::string>>& rows) {
+  constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+  const bool isTsv = EqualIgnoringCase(extension, ".tsv");
+  TableText table(isTsv ? '\t' : ',');
+  table.Row(headings);
+  for (const std::vector<std::string>& row : rows) table.Row(row);
+  return std::string(isTsv ? "" : kByteOrderMark) + table.Text();
 }
 
 }  // namespace quorvane

@@ -26,7 +26,9 @@ class TableText {
   std::string text_;
 };
 
-/// What tells spreadsheets that a file is UTF-8.
-inline constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+/// A whole table in the format that a file's extension stands for: TSV for ".tsv", else CSV, which
+/// begins with the mark that tells spreadsheets that it is UTF-8.
+std::string TableFileText(std::string_view extension, const std::vector<std::string>& headings,
+                          const std::vector<std::vector<std::string>>& rows);
 
 }  // namespace quorvane

@@ -8,7 +8,6 @@
 #include "formats/game_files.h"
 #include "history/planet_changes.h"
 #include "map/planets_in_view.h"
-#include "model/text.h"
 #include "screens/planet_details.h"
 #include "screens/table_text.h"
 #include "screens/year_choice.h"
@@ -131,18 +130,14 @@ void Main::KeepArrangement() {
   KeepPreferences(preferences);
 }
 
-// The shown rows and columns; the file's extension tells the format.
 void Main::PlanetsDock_ExportAsked() {
   const std::string year = session_.GameYear > 0 ? " " + std::to_string(session_.GameYear) : "";
   const auto file = prompts_.AskSaveFile(
       "Export Planets", GameFile(Loaded().MapFilePath, " Planets" + year + ".csv"), ".tsv");
   if (!file) return;
-  const bool isTsv = EqualIgnoringCase(TextFromPath(file->extension()), ".tsv");
-  TableText table(isTsv ? '\t' : ',');
-  table.Row(PlanetsDock->List->Headings());
-  for (const auto& row : PlanetsDock->List->Cells(false)) table.Row(row);
-  const Result<void> saved =
-      SaveText(*file, std::string(isTsv ? "" : kByteOrderMark) + table.Text());
+  const PlanetList& list = *PlanetsDock->List;
+  const Result<void> saved = SaveText(
+      *file, TableFileText(TextFromPath(file->extension()), list.Headings(), list.Cells(false)));
   if (!saved) prompts_.Inform(saved.Message());
 }
 
